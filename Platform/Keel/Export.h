@@ -1,0 +1,11 @@
+// Marks what the Keel library exports.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#if defined(__GNUC__)
+#define KEEL_API __attribute__((visibility("default")))
+#define KEEL_PRINTF(format, arguments) __attribute__((format(printf, format, arguments)))
+#else
+#define KEEL_API
+#define KEEL_PRINTF(format, arguments)
+#endif

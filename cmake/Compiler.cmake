@@ -1,0 +1,32 @@
+# Language level, warnings and sanitizers, the same for every target of the project.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_C_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+find_program(CAPABILITYSET_CCACHE ccache)
+if(CAPABILITYSET_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CAPABILITYSET_CCACHE})
+  set(CMAKE_C_COMPILER_LAUNCHER ${CAPABILITYSET_CCACHE})
+endif()
+
+add_library(capabilityset_options INTERFACE)
+target_compile_options(
+  capabilityset_options
+  INTERFACE -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Wcast-align
+            -Wconversion -Wformat=2
+            # Log lines name their place relative to the repository, wherever it was built.
+            -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
+if(CAPABILITYSET_SANITIZE)
+  add_compile_options(-fsanitize=${CAPABILITYSET_SANITIZE} -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${CAPABILITYSET_SANITIZE})
+endif()

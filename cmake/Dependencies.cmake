@@ -1,0 +1,5 @@
+# What the library needs; the tool, the SDK and the development targets find theirs beside them.
+find_package(Threads REQUIRED)
+find_package(LibXml2 REQUIRED)
+find_package(jsoncpp REQUIRED)
+find_package(log4cxx REQUIRED)
