@@ -4,8 +4,8 @@
 
 #if defined(__GNUC__)
 #define KEEL_API __attribute__((visibility("default")))
-#define KEEL_PRINTF(format, arguments) __attribute__((format(printf, format, arguments)))
+#define KEEL_PRINTF(text, first) __attribute__((__format__(__printf__, text, first)))
 #else
 #define KEEL_API
-#define KEEL_PRINTF(format, arguments)
+#define KEEL_PRINTF(text, first)
 #endif

@@ -1,0 +1,15 @@
+// Between UTF-8 and the client's local code page.
+// SPDX-License-Identifier: Apache-2.0
+#include "Keel/Encoding.h"
+
+#include "CodePage/CodePage.h"
+
+namespace Keel
+{
+
+std::string UTF8ToLocal(std::string_view utf8)
+{
+    return CodePage::Utf8ToAnsi(utf8);
+}
+
+}  // namespace Keel

@@ -1,0 +1,42 @@
+// One log4cxx logger of the platform, asked and written to without configuring log4cxx.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <atomic>
+#include <string>
+
+#include <log4cxx/logger.h>
+
+#include "Keel/CLog.h"
+
+namespace Keel::details
+{
+
+/// A logger by its name, found when it is first needed. Lives as long as the process: the name is
+/// a literal, the channel a static object or one that is never destroyed. Nothing is thrown.
+class LogChannel
+{
+public:
+    constexpr explicit LogChannel(const char* name) noexcept : name_(name) {}
+    LogChannel(const LogChannel&) = delete;
+    LogChannel& operator=(const LogChannel&) = delete;
+
+    [[nodiscard]] bool IsEnabled(LogLevel level) const noexcept;
+
+    /// Writes the line when its level is on. `message` is UTF-8.
+    void Write(LogLevel level, const std::string& message,
+               const log4cxx::spi::LocationInfo& location) const noexcept;
+
+    /// The same on the logger of any name.
+    [[nodiscard]] static bool IsEnabled(LogLevel level, const std::string& name) noexcept;
+    static void Write(LogLevel level, const std::string& name, const std::string& message,
+                      const log4cxx::spi::LocationInfo& location) noexcept;
+
+private:
+    [[nodiscard]] const log4cxx::LoggerPtr* Logger() const noexcept;
+
+    const char* name_;
+    mutable std::atomic<const log4cxx::LoggerPtr*> logger_{nullptr};
+};
+
+}  // namespace Keel::details
