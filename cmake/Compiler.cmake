@@ -21,7 +21,7 @@ endif()
 add_library(capabilityset_options INTERFACE)
 target_compile_options(
   capabilityset_options
-  INTERFACE -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Wcast-align
+  INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${CAPABILITYSET_WERROR}>:-Werror> -Wshadow -Wnon-virtual-dtor -Wcast-align
             -Wconversion -Wformat=2
             # Log lines name their place relative to the repository, wherever it was built.
             -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)

@@ -1,7 +1,21 @@
-# capabilityset_library(<target> EXPORT <name> SOURCES ... [PUBLIC ...] [PRIVATE ...])
-# A static library <target> and a shared one <target>Shared from one compilation.
+# Libraries of this project: one compilation, a static and a shared library from it, both installed.
 include(GNUInstallDirs)
 
+set(CAPABILITYSET_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/CapabilitySet-${PROJECT_VERSION_MAJOR})
+
+# Programs and libraries find the libraries they were installed with, wherever the tree is moved.
+# A package for /usr switches this off (CMAKE_SKIP_INSTALL_RPATH).
+file(RELATIVE_PATH capabilityset_bin_to_lib ${CMAKE_INSTALL_FULL_BINDIR}
+     ${CMAKE_INSTALL_FULL_LIBDIR})
+if(NOT DEFINED CMAKE_INSTALL_RPATH)
+  set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${capabilityset_bin_to_lib}")
+endif()
+
+# capabilityset_library(<target> NAMESPACE <namespace> EXPORT <name> INCLUDE <root> SOURCES ...
+#                       [PUBLIC ...] [PRIVATE ...])
+# A static library <target>, seen by clients as <namespace>::<name>, and a shared one, <target>Shared
+# and <namespace>::<name>-shared. A PUBLIC dependency with a shared form of its own is linked in that
+# form by the shared library. Both join the export set <namespace>Targets.
 function(capabilityset_library target)
   cmake_parse_arguments(arg "" "NAMESPACE;EXPORT;INCLUDE" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(${target}Objects OBJECT ${arg_SOURCES})
@@ -23,9 +37,10 @@ function(capabilityset_library target)
                  EXPORT_NAME ${arg_EXPORT}${suffix}
                  VERSION ${PROJECT_VERSION}
                  SOVERSION ${PROJECT_VERSION_MAJOR})
+    target_compile_features(${library} PUBLIC cxx_std_20)
     target_include_directories(
       ${library} PUBLIC $<BUILD_INTERFACE:${arg_INCLUDE}>
-                        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/CapabilitySet-${PROJECT_VERSION_MAJOR}>)
+                        $<INSTALL_INTERFACE:${CAPABILITYSET_INCLUDEDIR}>)
     foreach(dependency IN LISTS arg_PUBLIC)
       if(kind STREQUAL "SHARED" AND TARGET ${dependency}Shared)
         target_link_libraries(${library} PUBLIC ${dependency}Shared)
@@ -34,5 +49,33 @@ function(capabilityset_library target)
       endif()
     endforeach()
     target_link_libraries(${library} PRIVATE ${arg_PRIVATE})
+    if(CAPABILITYSET_INSTALL)
+      install(
+        TARGETS ${library}
+        EXPORT ${arg_NAMESPACE}Targets
+        LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+        ARCHIVE COMPONENT Development)
+    endif()
   endforeach()
+endfunction()
+
+# capabilityset_link_sdk(<target>)
+# Links the device SDK that CAPABILITYSET_SDK names: the bundled one in the form that fits the
+# target (shared for a shared library, static for a program), or the client's own.
+function(capabilityset_link_sdk target)
+  if(NOT CAPABILITYSET_SDK STREQUAL "bundled")
+    if(NOT TARGET ${CAPABILITYSET_SDK} AND NOT EXISTS ${CAPABILITYSET_SDK})
+      message(FATAL_ERROR "CAPABILITYSET_SDK is \"${CAPABILITYSET_SDK}\": neither \"bundled\", nor a "
+                          "CMake target, nor the path of a library")
+    endif()
+    target_link_libraries(${target} PRIVATE ${CAPABILITYSET_SDK})
+    return()
+  endif()
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "SHARED_LIBRARY")
+    # PUBLIC: a client of the shared library logs its devices in with the same SDK.
+    target_link_libraries(${target} PUBLIC PelNetSDKShared)
+  else()
+    target_link_libraries(${target} PRIVATE PelNetSDK)
+  endif()
 endfunction()

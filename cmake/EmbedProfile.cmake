@@ -1,0 +1,50 @@
+# cmake -DFOLDER=<profile folder> -DNAME=<name> -DSYMBOL=<C++ name> -DOUTPUT=<file> -P EmbedProfile.cmake
+# Writes a source file that holds every file of a profile folder.
+set(pieceBytes 8192)
+math(EXPR pieceDigits "2 * ${pieceBytes}")
+
+file(GLOB_RECURSE files RELATIVE "${FOLDER}" "${FOLDER}/*")
+list(SORT files)
+set(contents "")
+set(entries "")
+set(number 0)
+foreach(file IN LISTS files)
+  file(READ "${FOLDER}/${file}" digits HEX)
+  string(LENGTH "${digits}" length)
+  string(APPEND contents "constexpr std::string_view kFile${number}[] = {\n")
+  set(position 0)
+  while(TRUE)
+    string(SUBSTRING "${digits}" ${position} ${pieceDigits} piece)
+    string(LENGTH "${piece}" pieceLength)
+    math(EXPR bytes "${pieceLength} / 2")
+    # Every byte is an escape of its own: no character of the file can end the literal, and no
+    # digit after an escape can be taken into it.
+    string(REGEX REPLACE "(..)" "\\\\x\\1" piece "${piece}")
+    string(APPEND contents "    {\"${piece}\", ${bytes}},\n")
+    math(EXPR position "${position} + ${pieceDigits}")
+    if(position GREATER_EQUAL length)
+      break()
+    endif()
+  endwhile()
+  string(APPEND contents "};\n")
+  string(APPEND entries "    {\"${file}\", kFile${number}},\n")
+  math(EXPR number "${number} + 1")
+endforeach()
+
+file(
+  WRITE "${OUTPUT}"
+  "// The files of the profile \"${NAME}\", generated from its folder.
+#include \"Device/EmbeddedProfiles.h\"
+
+namespace Device
+{
+namespace
+{
+${contents}constexpr EmbeddedFile kFiles[] = {
+${entries}};
+}  // namespace
+
+extern const EmbeddedProfile ${SYMBOL};
+constinit const EmbeddedProfile ${SYMBOL}{\"${NAME}\", kFiles};
+}  // namespace Device
+")
