@@ -1,0 +1,297 @@
+// Every number text gives what a stream with the classic locale makes of it.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/private/NumberText.h"
+
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <locale>
+#include <random>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+/// One stream for all texts: making one costs more than reading.
+class Stream
+{
+public:
+    Stream() { stream_.imbue(std::locale::classic()); }
+
+    template <class Value>
+    Value Read(const std::string& text)
+    {
+        stream_.clear();
+        stream_.str(text);
+        Value value{};
+        stream_ >> value;
+        return value;
+    }
+
+private:
+    std::istringstream stream_;
+};
+
+template <class Value>
+bool IsSame(Value a, Value b)
+{
+    if constexpr (std::is_floating_point_v<Value>) {
+        return a == b && std::signbit(a) == std::signbit(b);
+    } else {
+        return a == b;
+    }
+}
+
+std::string Printable(const std::string& text)
+{
+    const std::string head = text.size() > 120 ? text.substr(0, 120) + "..." : text;
+    return testing::PrintToString(head) + " of " + std::to_string(text.size()) + " bytes";
+}
+
+/// True when `convert` and the stream agree on the text.
+template <class Value>
+testing::AssertionResult Agrees(Value (*convert)(std::string_view) noexcept, Stream& stream,
+                                const std::string& text)
+{
+    const Value expected = stream.Read<Value>(text);
+    const Value actual = convert(text);
+    if (IsSame(expected, actual)) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure()
+           << Printable(text) << ": a stream reads " << testing::PrintToString(expected)
+           << ", we read " << testing::PrintToString(actual);
+}
+
+testing::AssertionResult AllAgree(Stream& stream, const std::string& text)
+{
+    using namespace CapabilitySet;
+    testing::AssertionResult result = Agrees(&StringToUInt, stream, text);
+    result = result ? Agrees(&StringToInt, stream, text) : result;
+    result = result ? Agrees(&StringToInt64, stream, text) : result;
+    result = result ? Agrees(&StringToFloat, stream, text) : result;
+    result = result ? Agrees(&StringToDouble, stream, text) : result;
+    return result ? Agrees(&StringToBool, stream, text) : result;
+}
+
+/// Texts made of the pieces that number texts are made of, in likely and unlikely order.
+class Generator
+{
+public:
+    Generator()
+    {
+        const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+        std::seed_seq seed(name.begin(), name.end());
+        random_.seed(seed);
+    }
+
+    std::string NumberLike()
+    {
+        std::string text = Some(kBlanks, 2) + Some(kSigns, 1) + Some(kZeros, 1) + Digits();
+        text += Chance(3) ? "." + Digits() : "";
+        text += Chance(3) ? Some(kExponents, 1) + Some(kSigns, 1) + Digits(4) : "";
+        return text + Some(kBlanks, 1) + Some(kStrange, 1);
+    }
+
+    std::string Jumble()
+    {
+        std::string text;
+        for (unsigned i = Below(8); i > 0; --i) {
+            text += Some(kBlanks, 1) + Some(kSigns, 1) + Some(kStrange, 1) + Digits(3) +
+                    Some(kExponents, 1) + Some(kZeros, 1);
+        }
+        return text;
+    }
+
+    /// A limit of some type, or a neighbour that differs in one digit or one more.
+    std::string NearLimit()
+    {
+        static const std::array<std::string, 12> limits{"2147483647",
+                                                        "2147483648",
+                                                        "4294967295",
+                                                        "4294967296",
+                                                        "9223372036854775807",
+                                                        "9223372036854775808",
+                                                        "18446744073709551615",
+                                                        "3.40282346638528859812e38",
+                                                        "1.40129846432481707e-45",
+                                                        "1.79769313486231570815e308",
+                                                        "4.94065645841246544e-324",
+                                                        "2.22507385850720138e-308"};
+        std::string text = limits[Below(limits.size())];
+        if (Chance(2)) {
+            const std::size_t at = Below(static_cast<unsigned>(text.size()));
+            text[at] = text[at] >= '0' && text[at] <= '9' ? Digit() : text[at];
+        }
+        text += Chance(4) ? Digits(2) : "";
+        return Some(kBlanks, 1) + Some(kSigns, 1) + Some(kZeros, 1) + text + Some(kStrange, 1);
+    }
+
+    std::string VeryLong()
+    {
+        const std::string many(200 + Below(1200), Chance(2) ? '0' : Digit());
+        std::string text = Some(kSigns, 1) + (Chance(2) ? "0." : "") + many + Digits();
+        text += Chance(3) ? "." + std::string(Below(400), '0') + Digits() : "";
+        return text + (Chance(2) ? Some(kExponents, 1) + Some(kSigns, 1) + Digits(5) : "");
+    }
+
+private:
+    using Pieces = std::vector<std::string>;
+    static inline const Pieces kBlanks{" ", "\t", "\n", "\v", "\f", "\r", "  "};
+    static inline const Pieces kSigns{"+", "-", "-", "+-", "--"};
+    static inline const Pieces kZeros{"0", "00", "000000", "-0"};
+    static inline const Pieces kExponents{"e", "E", "e", "ee", "e0", "p", "d"};
+    static inline const Pieces kStrange{"x",    "X", "0x",   "inf",  "nan",  "INFINITY", ".",
+                                        "..",   ",", "'",    "abc",  "true", "false",    "\xC2\xA0",
+                                        "\xB2", "_", "\x1F", "\x7F", "%",    "f",        "L"};
+
+    unsigned Below(std::size_t bound)
+    {
+        return std::uniform_int_distribution<unsigned>(0,
+                                                       static_cast<unsigned>(bound) - 1)(random_);
+    }
+    bool Chance(unsigned oneIn) { return Below(oneIn) == 0; }
+    char Digit() { return static_cast<char>('0' + Below(10)); }
+
+    std::string Some(const Pieces& pieces, unsigned most)
+    {
+        std::string text;
+        for (unsigned i = Below(most + 2); i > 1; --i) {
+            text += Chance(40) ? std::string(1, '\0') : pieces[Below(pieces.size())];
+        }
+        return text;
+    }
+
+    std::string Digits(unsigned most = 22)
+    {
+        std::string text(Below(most + 1), '0');
+        for (char& digit : text) {
+            digit = Digit();
+        }
+        return text;
+    }
+
+    std::mt19937 random_;
+};
+
+using Maker = std::string (Generator::*)();
+
+void CheckMade(Maker make, int count)
+{
+    Generator generator;
+    Stream stream;
+    int differing = 0;
+    for (int i = 0; i < count && differing < 10; ++i) {
+        const std::string text = (generator.*make)();
+        const testing::AssertionResult agrees = AllAgree(stream, text);
+        EXPECT_TRUE(agrees);
+        differing += agrees ? 0 : 1;
+    }
+}
+
+TEST(NumberTextTest, ReadsNumberLikeTextsAsAStreamDoes)
+{
+    CheckMade(&Generator::NumberLike, 120'000);
+}
+
+TEST(NumberTextTest, ReadsJumbledTextsAsAStreamDoes)
+{
+    CheckMade(&Generator::Jumble, 100'000);
+}
+
+TEST(NumberTextTest, ReadsTextsAtTheLimitsAsAStreamDoes)
+{
+    CheckMade(&Generator::NearLimit, 100'000);
+}
+
+TEST(NumberTextTest, ReadsVeryLongTextsAsAStreamDoes)
+{
+    CheckMade(&Generator::VeryLong, 5'000);
+}
+
+TEST(NumberTextTest, ReadsAwkwardTextsAsAStreamDoes)
+{
+    const std::array texts{"",
+                           " ",
+                           "-",
+                           "+",
+                           ".",
+                           "-.",
+                           "e5",
+                           ".e5",
+                           "1.e5",
+                           "12abc",
+                           "12e",
+                           "12em",
+                           "1e+",
+                           "1e+-5",
+                           "1e5.3",
+                           "1e5e3",
+                           "0x10",
+                           "0X1p3",
+                           "inf",
+                           "-nan",
+                           "+5",
+                           "+-5",
+                           "- 5",
+                           "-0",
+                           "-0.0",
+                           "-0e",
+                           "-1",
+                           "-4294967295",
+                           "-4294967296",
+                           "4294967296",
+                           "1e400",
+                           "-1e400",
+                           "1e-400",
+                           "-1e-400",
+                           "1e-324",
+                           "3e-324",
+                           "2e-324",
+                           "-1e-46",
+                           "1e39",
+                           "0e999999",
+                           "1e99999999999999999999",
+                           "1e-99999999999999999999",
+                           "0e-99999999999999999999",
+                           "1,234",
+                           "1.234.5",
+                           "00000000000000000012",
+                           "3.4028235677973366e38",
+                           "1.7976931348623158e308",
+                           "1.7976931348623159e308",
+                           "\xA0"
+                           "5"};
+    Stream stream;
+    for (const char* text : texts) {
+        EXPECT_TRUE(AllAgree(stream, text));
+    }
+    EXPECT_TRUE(AllAgree(stream, "0." + std::string(5'000, '0') + "1e5001"));
+    EXPECT_TRUE(AllAgree(stream, "1" + std::string(5'000, '0') + "e-5000"));
+    EXPECT_TRUE(AllAgree(stream, std::string("1\0002", 3)));
+}
+
+/// The client's global locale may group digits and write decimal commas.
+struct GroupingPunctuation : std::numpunct<char>
+{
+    [[nodiscard]] char do_decimal_point() const override { return ','; }
+    [[nodiscard]] char do_thousands_sep() const override { return '.'; }
+    [[nodiscard]] std::string do_grouping() const override { return "\3"; }
+};
+
+TEST(NumberTextTest, IgnoresTheClientsGlobalLocale)
+{
+    const std::locale before =
+        std::locale::global(std::locale(std::locale::classic(), new GroupingPunctuation));
+    EXPECT_EQ(CapabilitySet::StringToUInt("1.234"), 1u);
+    EXPECT_EQ(CapabilitySet::StringToDouble("1.5"), 1.5);
+    std::locale::global(before);
+}
+
+}  // namespace
