@@ -1,5 +1,6 @@
 # cmake -DFOLDER=<profile folder> -DNAME=<name> -DSYMBOL=<C++ name> -DOUTPUT=<file> -P EmbedProfile.cmake
 # Writes a source file that holds every file of a profile folder.
+cmake_minimum_required(VERSION 3.25)
 set(pieceBytes 8192)
 math(EXPR pieceDigits "2 * ${pieceBytes}")
 

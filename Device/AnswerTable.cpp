@@ -1,0 +1,152 @@
+// Matching requests against the answers of a profile.
+// SPDX-License-Identifier: Apache-2.0
+#include "Device/AnswerTable.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace Device
+{
+namespace
+{
+
+constexpr std::string_view kChannel = "{channel}";
+constexpr std::string_view kSdkChannel = "{sdkChannel}";
+constexpr std::string_view kAny = "{any}";
+
+bool IsPlaceholder(std::string_view segment)
+{
+    return segment == kChannel || segment == kSdkChannel || segment == kAny;
+}
+
+bool MatchMethod(const Answer& answer, const ParsedRequest& request)
+{
+    return answer.setting ? request.method == "GET" || request.method == "PUT"
+                          : request.method == answer.method;
+}
+
+bool MatchParameters(const Answer& answer, const ParsedRequest& request)
+{
+    return std::ranges::all_of(answer.parameters, [&](const Parameter& parameter) {
+        return std::ranges::find(request.parameters, parameter) != request.parameters.end();
+    });
+}
+
+bool MatchRoot(const Answer& answer, const ParsedRequest& request)
+{
+    // A body that cannot be read is refused by whoever the path leads to.
+    return answer.root.empty() || request.document.form == RequestDocument::Form::Malformed ||
+           std::ranges::find(request.document.roots, answer.root) != request.document.roots.end();
+}
+
+auto Closeness(const Answer& answer)
+{
+    const auto placeholders = std::ranges::count_if(answer.path, &IsPlaceholder);
+    return std::tuple(-placeholders, answer.parameters.size(), !answer.root.empty());
+}
+
+// Texts by which clients say that they mean no channel in particular.
+bool IsNoChannel(std::string_view text)
+{
+    constexpr std::string_view kTexts[] = {"", "0xff", "0xFF", "255", "-1", "4294967295"};
+    return std::ranges::find(kTexts, text) != std::end(kTexts);
+}
+
+}  // namespace
+
+AnswerTable::AnswerTable(const Profile& profile, bool settings) : profile_(profile)
+{
+    for (const Answer& answer : profile.answers) {
+        if (answer.setting != settings) {
+            continue;
+        }
+        if (std::ranges::any_of(answer.path, &IsPlaceholder)) {
+            patterns_.push_back(&answer);
+        } else {
+            literal_[answer.path].push_back(&answer);
+        }
+    }
+}
+
+AnswerTable::Found AnswerTable::Find(const ParsedRequest& request) const
+{
+    Found best;
+    const auto consider = [&](const Answer& answer, const Found& found) {
+        if (!MatchParameters(answer, request) || !MatchRoot(answer, request)) {
+            return;
+        }
+        if (!MatchMethod(answer, request)) {
+            best.otherMethod = true;
+        } else if (found.unknownChannel) {
+            best.unknownChannel = true;
+        } else if (best.answer == nullptr || Closeness(answer) > Closeness(*best.answer)) {
+            best.answer = &answer;
+            best.channel = found.channel;
+        }
+    };
+    const auto literal = literal_.find(request.path);
+    if (literal != literal_.end()) {
+        Found found;
+        FindDocumentChannel(request, found);
+        for (const Answer* answer : literal->second) {
+            consider(*answer, found);
+        }
+    }
+    for (const Answer* answer : patterns_) {
+        Found found;
+        found.channel = FirstChannel(true);
+        if (MatchPath(*answer, request, found)) {
+            consider(*answer, found);
+        }
+    }
+    return best;
+}
+
+bool AnswerTable::MatchPath(const Answer& answer, const ParsedRequest& request, Found& found) const
+{
+    if (answer.path.size() != request.path.size()) {
+        return false;
+    }
+    for (size_t i = 0; i < answer.path.size(); ++i) {
+        const std::string& wanted = answer.path[i];
+        if (wanted == kChannel || wanted == kSdkChannel) {
+            if (!ReadNumber(request.path[i], found.channel)) {
+                return false;
+            }
+            found.unknownChannel |= !HasChannel(found.channel, wanted == kChannel);
+        } else if (wanted != kAny && wanted != request.path[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void AnswerTable::FindDocumentChannel(const ParsedRequest& request, Found& found) const
+{
+    const std::string* parameter = request.FindParameter("channel");
+    const std::string& text = parameter != nullptr ? *parameter : request.document.channel;
+    // "channelID" carries the protocol's number, the other elements and the parameter the SDK's.
+    const bool protocol = parameter == nullptr && request.document.channelName == "channelID";
+    if (IsNoChannel(text)) {
+        found.channel = FirstChannel(protocol);
+        return;
+    }
+    found.unknownChannel = !ReadNumber(text, found.channel) ||
+                           !(HasChannel(found.channel, true) || HasChannel(found.channel, false));
+}
+
+bool AnswerTable::HasChannel(int channel, bool protocol) const
+{
+    return protocol ? profile_.HasProtocolChannel(channel) : profile_.channels.contains(channel);
+}
+
+int AnswerTable::FirstChannel(bool protocol) const
+{
+    if (profile_.channels.empty()) {
+        return 1;
+    }
+    const auto& [sdk, first] = *profile_.channels.begin();
+    return protocol ? first : sdk;
+}
+
+}  // namespace Device

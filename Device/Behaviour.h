@@ -1,0 +1,43 @@
+// What a device does: small classes that each answer one family of requests, with state or without.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "Device/ParsedRequest.h"
+#include "Device/Profile.h"
+
+namespace Device
+{
+
+/// Answers one family of requests. Called from any number of threads at once: a behaviour guards
+/// its own state.
+class Behaviour
+{
+public:
+    virtual ~Behaviour() = default;
+    Behaviour(const Behaviour&) = delete;
+    Behaviour& operator=(const Behaviour&) = delete;
+
+    /// The answer, or nothing when the request is none of this behaviour's.
+    virtual std::optional<Response> Answer(const ParsedRequest& request) = 0;
+
+protected:
+    Behaviour() = default;
+};
+
+/// The behaviours of a device with that profile, in the order in which they are asked. They refer
+/// to the profile.
+std::vector<std::unique_ptr<Behaviour>> MakeBehaviours(const Profile& profile);
+
+std::unique_ptr<Behaviour> MakeSettings(const Profile& profile);
+
+/// A refusal when the request's body is neither XML nor JSON.
+std::optional<Response> RefuseMalformed(const ParsedRequest& request);
+
+/// The document with each "{channel}" replaced by the channel.
+std::string FillIn(const Answer& answer, int channel);
+
+}  // namespace Device

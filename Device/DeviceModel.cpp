@@ -1,0 +1,128 @@
+// Devices made from profiles, embedded or read from a folder.
+// SPDX-License-Identifier: Apache-2.0
+#include "Device/DeviceModel.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <new>
+
+#include "Device/Behaviour.h"
+#include "Device/EmbeddedProfiles.h"
+#include "Device/Profile.h"
+
+namespace Device
+{
+namespace
+{
+
+class ProfileModel : public DeviceModel
+{
+public:
+    explicit ProfileModel(Profile profile)
+        : profile_(std::move(profile)), behaviours_(MakeBehaviours(profile_))
+    {
+    }
+
+    [[nodiscard]] std::string Name() const override { return profile_.name; }
+    [[nodiscard]] std::string Description() const override { return profile_.description; }
+
+    [[nodiscard]] bool CheckPassword(std::string_view user,
+                                     std::string_view password) const override
+    {
+        const std::string* known = PasswordOf(user);
+        return known != nullptr && *known == password;
+    }
+
+    [[nodiscard]] const std::string* PasswordOf(std::string_view user) const override
+    {
+        const auto found = profile_.users.find(user);
+        return found == profile_.users.end() ? nullptr : &found->second;
+    }
+
+    Response Handle(const Request& request) override
+    {
+        const ParsedRequest parsed(request);
+        for (const std::unique_ptr<Behaviour>& behaviour : behaviours_) {
+            if (std::optional<Response> response = behaviour->Answer(parsed)) {
+                return *std::move(response);
+            }
+        }
+        return MakeStatus(Outcome::kNotSupport, request.target);
+    }
+
+private:
+    const Profile profile_;
+    const std::vector<std::unique_ptr<Behaviour>> behaviours_;
+};
+
+ProfileFiles FilesOf(const EmbeddedProfile& profile)
+{
+    return [&profile](const std::string& name) -> std::optional<std::string> {
+        const auto file = std::ranges::find(profile.files, name, &EmbeddedFile::name);
+        if (file == profile.files.end()) {
+            return std::nullopt;
+        }
+        std::string text;
+        for (const std::string_view piece : file->pieces) {
+            text += piece;
+        }
+        return text;
+    };
+}
+
+ProfileFiles FilesOf(const std::filesystem::path& folder)
+{
+    return [folder](const std::string& name) -> std::optional<std::string> {
+        std::ifstream file(folder / name, std::ios::binary);
+        if (!file || std::filesystem::is_directory(folder / name)) {
+            return std::nullopt;
+        }
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+}
+
+std::string Listed(const std::vector<std::string>& names)
+{
+    std::string text;
+    for (const std::string& name : names) {
+        text += (text.empty() ? "" : ", ") + name;
+    }
+    return text.empty() ? "none" : text;
+}
+
+}  // namespace
+
+std::shared_ptr<DeviceModel> DeviceModel::Load(const std::string& profile, std::string& error)
+{
+    ProfileFiles files;
+    if (profile.find('/') != std::string::npos) {
+        files = FilesOf(std::filesystem::path(profile));
+    } else {
+        const auto embedded = EmbeddedProfiles();
+        const auto found = std::ranges::find(embedded, profile, &EmbeddedProfile::name);
+        if (found == embedded.end()) {
+            error = "there is no profile \"" + profile + "\"; there are: " + Listed(ProfileNames());
+            return nullptr;
+        }
+        files = FilesOf(**found);
+    }
+    Profile read;
+    if (!ReadProfile(files, read, error)) {
+        error = "profile \"" + profile + "\": " + error;
+        return nullptr;
+    }
+    return std::make_shared<ProfileModel>(std::move(read));
+}
+
+std::vector<std::string> DeviceModel::ProfileNames()
+{
+    std::vector<std::string> names;
+    for (const EmbeddedProfile* profile : EmbeddedProfiles()) {
+        names.emplace_back(profile->name);
+    }
+    return names;
+}
+
+}  // namespace Device

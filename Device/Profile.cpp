@@ -1,0 +1,259 @@
+// Reading a profile's manifest and the documents it names.
+// SPDX-License-Identifier: Apache-2.0
+#include "Device/Profile.h"
+
+#include <json/json.h>
+
+#include <algorithm>
+#include <memory>
+#include <stdexcept>
+
+namespace Device
+{
+namespace
+{
+
+// Ends the reading with a sentence about what is wrong.
+struct Fault : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
+Json::Value ReadManifest(const ProfileFiles& files)
+{
+    const std::optional<std::string> text = files("manifest.json");
+    if (!text) {
+        throw Fault("there is no manifest.json");
+    }
+    Json::CharReaderBuilder builder;
+    builder["rejectDupKeys"] = true;
+    builder["failIfExtra"] = true;
+    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    Json::Value root;
+    std::string errors;
+    if (!reader->parse(text->data(), text->data() + text->size(), &root, &errors)) {
+        throw Fault("manifest.json is not JSON: " +
+                    errors.substr(0, errors.find_last_not_of('\n') + 1));
+    }
+    if (!root.isObject()) {
+        throw Fault("manifest.json does not hold an object");
+    }
+    return root;
+}
+
+std::string TextMember(const Json::Value& object, const char* key, const std::string& where,
+                       bool needed)
+{
+    const Json::Value& value = object[key];
+    if (value.isString() || (value.isNull() && !needed)) {
+        return value.asString();
+    }
+    throw Fault(where + ": \"" + key + "\" is " + (value.isNull() ? "missing" : "not a text"));
+}
+
+void RefuseUnknownKeys(const Json::Value& object, std::initializer_list<std::string_view> known,
+                       const std::string& where)
+{
+    for (const std::string& key : object.getMemberNames()) {
+        if (std::ranges::find(known, key) == known.end()) {
+            throw Fault(where + ": \"" + key + "\" is no key of a manifest");
+        }
+    }
+}
+
+void ReadUsers(const Json::Value& users, Profile& profile)
+{
+    if (!users.isNull() && !users.isArray()) {
+        throw Fault("\"users\" is not an array");
+    }
+    for (const Json::Value& user : users) {
+        if (!user.isObject()) {
+            throw Fault("\"users\" holds something that is not an object");
+        }
+        const std::string name = TextMember(user, "name", "\"users\"", true);
+        const std::string password = TextMember(user, "password", "user \"" + name + "\"", true);
+        if (name.empty() || name.find_first_of(":\"\\") != std::string::npos) {
+            throw Fault("\"users\": a name must not be empty nor hold a colon, quote or backslash");
+        }
+        if (!profile.users.emplace(name, password).second) {
+            throw Fault("user \"" + name + "\" stands twice");
+        }
+    }
+}
+
+void ReadChannels(const Json::Value& channels, Profile& profile)
+{
+    if (!channels.isNull() && !channels.isObject()) {
+        throw Fault("\"channels\" is not an object");
+    }
+    for (const std::string& key :
+         channels.isObject() ? channels.getMemberNames() : std::vector<std::string>()) {
+        int number = 0;
+        const Json::Value& protocol = channels[key];
+        if (!ReadNumber(key, number) || number < 0 || !protocol.isInt() || protocol.asInt() < 0) {
+            throw Fault("\"channels\": \"" + key + "\" does not map a number to a number");
+        }
+        profile.channels.emplace(number, protocol.asInt());
+    }
+}
+
+// "deviceAbility 17 PTZAbility" and "stdAbility 4360" are short for the SDK's requests.
+void ReadAbility(const std::vector<std::string>& words, Answer& answer)
+{
+    const bool device = words[0] == "deviceAbility";
+    int code = 0;
+    if (words.size() < 2 || words.size() > (device ? 3u : 2u) || !ReadNumber(words[1], code) ||
+        code < 0) {
+        throw Fault("\"" + answer.request + "\" is not \"" +
+                    (device ? "deviceAbility <code> [<root>]\"" : "stdAbility <code>\""));
+    }
+    answer.method = device ? "POST" : "GET";
+    answer.path = {"TARN", "SDK", words[0], words[1]};
+    answer.root = words.size() == 3 ? words[2] : std::string();
+}
+
+void ReadRequestLine(Answer& answer)
+{
+    std::vector<std::string> words;
+    for (size_t at = 0; at < answer.request.size();) {
+        const size_t end = std::min(answer.request.find(' ', at), answer.request.size());
+        words.push_back(answer.request.substr(at, end - at));
+        at = end + 1;
+    }
+    if (!words.empty() && (words[0] == "deviceAbility" || words[0] == "stdAbility")) {
+        ReadAbility(words, answer);
+        return;
+    }
+    constexpr std::string_view kMethods[] = {"GET", "PUT", "POST", "DELETE"};
+    const bool hasMethod = words.size() == 2;
+    if (words.empty() || words.size() > 2 || !words.back().starts_with('/') ||
+        (hasMethod && std::ranges::find(kMethods, words[0]) == std::end(kMethods)) ||
+        (hasMethod && answer.setting)) {
+        throw Fault("\"" + answer.request + "\" is no request" +
+                    (answer.setting ? " of a setting, which is a path without a method" : ""));
+    }
+    answer.method = answer.setting ? "" : hasMethod ? words[0] : "GET";
+    answer.path = ParsePath(words.back());
+    answer.parameters = ParseParameters(words.back());
+}
+
+std::string ContentType(const std::string& file)
+{
+    return file.ends_with(".xml")    ? "application/xml"
+           : file.ends_with(".json") ? "application/json"
+           : file.ends_with(".txt")  ? "text/plain"
+                                     : "application/octet-stream";
+}
+
+void ReadDocument(const ProfileFiles& files, const std::string& file, Answer& answer)
+{
+    const std::string where = "\"" + answer.request + "\"";
+    // A profile may come from anyone: it must not reach for files outside its folder.
+    if (file.starts_with('/') || file.find("..") != std::string::npos) {
+        throw Fault(where + ": the file \"" + file + "\" is not one of the profile's own");
+    }
+    std::optional<std::string> text = files(file);
+    if (!text) {
+        throw Fault(where + ": the file \"" + file + "\" cannot be read");
+    }
+    answer.contentType = ContentType(file);
+    answer.document = std::move(*text);
+    answer.namesChannel = answer.document.find("{channel}") != std::string::npos;
+    if (!answer.setting) {
+        return;
+    }
+    answer.json = answer.contentType == "application/json";
+    const RequestDocument document = ReadRequestDocument(answer.document, answer.json);
+    if (document.form != (answer.json ? RequestDocument::Form::Json : RequestDocument::Form::Xml) ||
+        document.roots.empty()) {
+        throw Fault(where + ": the setting \"" + file + "\" is not well-formed");
+    }
+    answer.roots = document.roots;
+}
+
+Answer ReadAnswer(const ProfileFiles& files, const Json::Value& entry, unsigned int index)
+{
+    const std::string number = "answer " + std::to_string(index + 1);
+    if (!entry.isObject()) {
+        throw Fault(number + " is not an object");
+    }
+    Answer answer;
+    answer.request = TextMember(entry, "request", number, true);
+    const std::string where = "\"" + answer.request + "\"";
+    RefuseUnknownKeys(entry, {"request", "file", "setting", "status", "root"}, where);
+    if (!entry["setting"].isNull() && !entry["setting"].isBool()) {
+        throw Fault(where + ": \"setting\" is neither true nor false");
+    }
+    answer.setting = entry["setting"].asBool();
+    ReadRequestLine(answer);
+    if (answer.setting && std::ranges::find(answer.path, "{any}") != answer.path.end()) {
+        throw Fault(where + ": a setting's path may hold no \"{any}\"");
+    }
+    if (const std::string root = TextMember(entry, "root", where, false); !root.empty()) {
+        answer.root = root;
+    }
+    const std::string file = TextMember(entry, "file", where, false);
+    const std::string status = TextMember(entry, "status", where, false);
+    if (file.empty() == status.empty() || (answer.setting && file.empty())) {
+        throw Fault(where + (answer.setting ? " needs a \"file\""
+                                            : " needs either a \"file\" or a \"status\""));
+    }
+    if (!file.empty()) {
+        ReadDocument(files, file, answer);
+        return answer;
+    }
+    const Status* outcome = FindOutcome(status);
+    if (outcome == nullptr) {
+        throw Fault(where + ": the status \"" + status + "\" is unknown");
+    }
+    answer.status = *outcome;
+    return answer;
+}
+
+void ReadAnswers(const ProfileFiles& files, const Json::Value& answers, Profile& profile)
+{
+    if (!answers.isArray()) {
+        throw Fault("\"answers\" is not an array");
+    }
+    for (Json::ArrayIndex i = 0; i < answers.size(); ++i) {
+        Answer answer = ReadAnswer(files, answers[i], i);
+        const auto same = [&](const Answer& other) {
+            return other.request == answer.request && other.root == answer.root;
+        };
+        if (std::ranges::any_of(profile.answers, same)) {
+            throw Fault("\"" + answer.request + "\" is answered twice");
+        }
+        profile.answers.push_back(std::move(answer));
+    }
+}
+
+}  // namespace
+
+bool Profile::HasProtocolChannel(int channel) const
+{
+    return std::ranges::any_of(channels,
+                               [&](const auto& entry) { return entry.second == channel; });
+}
+
+bool ReadProfile(const ProfileFiles& files, Profile& profile, std::string& error)
+{
+    try {
+        const Json::Value manifest = ReadManifest(files);
+        RefuseUnknownKeys(manifest, {"name", "description", "users", "channels", "answers"},
+                          "manifest.json");
+        profile = {};
+        profile.name = TextMember(manifest, "name", "manifest.json", true);
+        profile.description = TextMember(manifest, "description", "manifest.json", true);
+        ReadUsers(manifest["users"], profile);
+        ReadChannels(manifest["channels"], profile);
+        ReadAnswers(files, manifest["answers"], profile);
+        return true;
+    } catch (const Fault& fault) {
+        error = fault.what();
+    } catch (const Json::Exception& fault) {
+        error = std::string("manifest.json is not JSON: ") + fault.what();
+    }
+    return false;
+}
+
+}  // namespace Device

@@ -1,0 +1,54 @@
+// A profile as its manifest states it: who may log in, which channels there are, what is answered.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Device/ParsedRequest.h"
+#include "Device/StatusDocument.h"
+
+namespace Device
+{
+
+/// One entry of a manifest's "answers".
+struct Answer
+{
+    std::string request;                ///< as the manifest writes it
+    std::string method;                 ///< empty for a setting
+    std::vector<std::string> path;      ///< segments; "{channel}", "{sdkChannel}" and "{any}" match
+    std::vector<Parameter> parameters;  ///< those a request must carry; it may carry more
+    std::string root;                   ///< root of the request's body; empty: any, or no body
+    bool setting = false;               ///< GET reads it, PUT replaces it
+    std::optional<Status> status;       ///< answered with a status document instead of a file
+
+    std::string contentType;
+    std::string document;
+    bool namesChannel = false;       ///< the document holds "{channel}"
+    std::vector<std::string> roots;  ///< of a setting: XML root, or members of the JSON object
+    bool json = false;               ///< of a setting: its form
+};
+
+struct Profile
+{
+    std::string name;
+    std::string description;
+    std::map<std::string, std::string, std::less<>> users;  ///< name to password
+    std::map<int, int> channels;                            ///< SDK's number to the protocol's
+    std::vector<Answer> answers;
+
+    [[nodiscard]] bool HasProtocolChannel(int channel) const;
+};
+
+/// Reads one file of a profile by its name; nothing when there is none.
+using ProfileFiles = std::function<std::optional<std::string>(const std::string& name)>;
+
+/// Reads a profile. On failure false and a sentence in `error` that names the manifest's faulty
+/// entry.
+bool ReadProfile(const ProfileFiles& files, Profile& profile, std::string& error);
+
+}  // namespace Device

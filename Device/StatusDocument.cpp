@@ -1,0 +1,112 @@
+// Status documents in their two forms.
+// SPDX-License-Identifier: Apache-2.0
+#include "Device/StatusDocument.h"
+
+#include <json/json.h>
+
+#include <algorithm>
+
+#include "Device/ParsedRequest.h"
+
+namespace Device
+{
+namespace
+{
+
+constexpr const Status* kOutcomes[] = {
+    &Outcome::kOk,
+    &Outcome::kDeviceBusy,
+    &Outcome::kDeviceError,
+    &Outcome::kNotSupport,
+    &Outcome::kUnauthorized,
+    &Outcome::kMethodNotAllowed,
+    &Outcome::kTooLarge,
+    &Outcome::kBadXmlFormat,
+    &Outcome::kBadJsonFormat,
+    &Outcome::kBadXmlContent,
+    &Outcome::kBadJsonContent,
+    &Outcome::kInvalidChannel,
+};
+
+// What a client sent goes back with every byte harmless in XML and JSON, whatever it was.
+std::string Printable(std::string_view target)
+{
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    std::string out;
+    for (const char c : target) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte > 0x20 && byte < 0x7f && c != '<' && c != '>' && c != '"') {
+            out += c;
+            continue;
+        }
+        out += '%';
+        out += kDigits[byte >> 4];
+        out += kDigits[byte & 15];
+    }
+    return out;
+}
+
+std::string EscapeAmpersands(std::string text)
+{
+    for (size_t at = text.find('&'); at != std::string::npos; at = text.find('&', at + 1)) {
+        text.replace(at, 1, "&amp;");
+    }
+    return text;
+}
+
+std::string XmlForm(const Status& status, const std::string& url)
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ResponseStatus version=\"2.0\">\n"
+           "  <requestURL>" +
+           EscapeAmpersands(url) +
+           "</requestURL>\n"
+           "  <statusCode>" +
+           std::to_string(status.statusCode) +
+           "</statusCode>\n"
+           "  <statusString>" +
+           status.statusString +
+           "</statusString>\n"
+           "  <subStatusCode>" +
+           status.subStatusCode +
+           "</subStatusCode>\n"
+           "  <errorCode>" +
+           std::to_string(status.errorCode) +
+           "</errorCode>\n"
+           "</ResponseStatus>\n";
+}
+
+std::string JsonForm(const Status& status, const std::string& url)
+{
+    Json::Value root;
+    root["requestURL"] = url;
+    root["statusCode"] = status.statusCode;
+    root["statusString"] = status.statusString;
+    root["subStatusCode"] = status.subStatusCode;
+    root["errorCode"] = status.errorCode;
+    return root.toStyledString();
+}
+
+}  // namespace
+
+const Status* FindOutcome(std::string_view subStatusCode)
+{
+    const auto* found = std::ranges::find(kOutcomes, subStatusCode, &Status::subStatusCode);
+    return found == std::end(kOutcomes) ? nullptr : *found;
+}
+
+Response MakeStatus(const Status& status, std::string_view target)
+{
+    const std::string url = Printable(target);
+    if (WantsJson(target)) {
+        return {status.httpStatus, "application/json", JsonForm(status, url)};
+    }
+    return {status.httpStatus, "application/xml", XmlForm(status, url)};
+}
+
+bool WantsJson(std::string_view target)
+{
+    const std::vector<Parameter> parameters = ParseParameters(target);
+    return std::ranges::find(parameters, Parameter{"format", "json"}) != parameters.end();
+}
+
+}  // namespace Device
