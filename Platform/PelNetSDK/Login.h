@@ -30,6 +30,7 @@ extern "C"
 #define NET_ORB_NO_SUCH_PROFILE 75u      /* the simulated device has no such profile */
 #define NET_ORB_CERTIFICATE_ERROR 147u   /* the device's certificate cannot be trusted */
 #define NET_ORB_TLS_FAILED 148u          /* no secure connection could be made */
+#define NET_ORB_ANSWER_TOO_LARGE 149u    /* the answer is larger than 1,100 MiB */
 
     /* How to reach a device and as whom. Zero-initialise it, then set what is needed. */
     typedef struct tagNET_ORB_LOGIN_INFO
@@ -57,6 +58,11 @@ extern "C"
 
     /* What an error number means, as a sentence without a full stop; static text, never null. */
     PELNETSDK_API const char* NET_ORB_GetErrorText(unsigned int error);
+
+    /* What the calling thread's last failure was about, beyond its number ("Connection refused",
+     * "manifest.json: ..."): a sentence in English for a person, "" when there is none. Valid until
+     * the thread's next call of the SDK; never null. */
+    PELNETSDK_API const char* NET_ORB_GetLastErrorDetail(void);
 
     /* What the two transports have done since the process began, for tests and benchmarks. */
     typedef struct tagNET_ORB_STATISTICS

@@ -1,0 +1,107 @@
+// Logging devices in and out.
+// SPDX-License-Identifier: Apache-2.0
+#include "PelNetSDK/Login.h"
+
+#include <string>
+#include <string_view>
+
+#include "PelNetSDK/Ask.h"
+#include "PelNetSDK/Session.h"
+#include "PelNetSDK/SimTransport.h"
+#include "PelNetSDK/Statistics.h"
+
+namespace PelNet
+{
+
+namespace
+{
+
+constexpr std::string_view kSimulated = "sim:";
+
+std::string_view View(const char* text)
+{
+    return text == nullptr ? std::string_view() : std::string_view(text);
+}
+
+/// Null after a failure, with the last error set.
+std::unique_ptr<Transport> OpenSimulated(const tagNET_ORB_LOGIN_INFO& info)
+{
+    std::string error;
+    const std::string profile(View(info.address).substr(kSimulated.size()));
+    auto device = Device::DeviceModel::Load(profile, error);
+    if (!device) {
+        SetFailureDetail(error);
+        Fail(NET_ORB_NO_SUCH_PROFILE);
+        return nullptr;
+    }
+    // Without credentials the caller is at the device itself: "sim:dome" simply works.
+    const bool named = info.userName != nullptr || info.password != nullptr;
+    if (named && !device->CheckPassword(View(info.userName), View(info.password))) {
+        Fail(NET_ORB_PASSWORD_ERROR);
+        return nullptr;
+    }
+    ++counters.connections;
+    return std::make_unique<SimTransport>(std::move(device));
+}
+
+std::unique_ptr<Transport> Open(const tagNET_ORB_LOGIN_INFO& info)
+{
+    if (View(info.address).starts_with(kSimulated)) {
+        return OpenSimulated(info);
+    }
+    Fail(NET_ORB_PARAMETER_ERROR);
+    return nullptr;
+}
+
+int LogIn(const tagNET_ORB_LOGIN_INFO& info)
+{
+    SessionTable& table = SessionTable::Instance();
+    // Asked first, so that a device is not troubled in vain.
+    if (table.Full()) {
+        return Fail(NET_ORB_MAX_USERNUM) - 1;
+    }
+    std::unique_ptr<Transport> transport = Open(info);
+    if (!transport) {
+        return -1;
+    }
+    const int id = table.Add(std::make_shared<Session>(std::move(transport)));
+    return id >= 0 ? id : Fail(NET_ORB_MAX_USERNUM) - 1;
+}
+
+}  // namespace
+
+}  // namespace PelNet
+
+extern "C" int NET_ORB_Login(const tagNET_ORB_LOGIN_INFO* info)
+{
+    using namespace PelNet;
+    return Guarded(
+        [&] {
+            return info == nullptr || info->address == nullptr ? Fail(NET_ORB_PARAMETER_ERROR) - 1
+                                                               : LogIn(*info);
+        },
+        -1);
+}
+
+extern "C" int NET_ORB_Logout(int userID)
+{
+    using namespace PelNet;
+    return Guarded([&] {
+        const std::shared_ptr<Session> session = SessionTable::Instance().Remove(userID);
+        if (!session) {
+            return Fail(NET_ORB_NOINIT);
+        }
+        session->Close();
+        return 1;
+    });
+}
+
+extern "C" int NET_ORB_GetStatistics(tagNET_ORB_STATISTICS* statistics)
+{
+    using namespace PelNet;
+    if (statistics == nullptr) {
+        return Fail(NET_ORB_PARAMETER_ERROR);
+    }
+    *statistics = {counters.exchanges, counters.connections, counters.fromMemory};
+    return 1;
+}

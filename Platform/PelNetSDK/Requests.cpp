@@ -1,0 +1,131 @@
+// The calls through which the library reaches a device.
+// SPDX-License-Identifier: Apache-2.0
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+#include "PelNetSDK/Ask.h"
+#include "PelNetSDK/Session.h"
+
+namespace PelNet
+{
+
+namespace
+{
+
+std::string_view View(const void* bytes, unsigned size)
+{
+    return size == 0 ? std::string_view() : std::string_view(static_cast<const char*>(bytes), size);
+}
+
+int AskRequest(int userID, const tagNET_ORB_XML_CONFIG_INPUT& input,
+               tagNET_ORB_XML_CONFIG_OUTPUT& output)
+{
+    output.returnedSize = 0;
+    const bool sound = input.size == sizeof input && input.requestUrl != nullptr &&
+                       (input.inBuffer != nullptr || input.inBufferSize == 0);
+    const auto line =
+        sound ? ParseRequestLine(View(input.requestUrl, input.requestUrlLength)) : std::nullopt;
+    if (!line) {
+        return Fail(NET_ORB_PARAMETER_ERROR);
+    }
+    const TransportRequest request{*line, View(input.inBuffer, input.inBufferSize),
+                                   input.receiveTimeout};
+    return Ask(userID, RequestKind::Request, request,
+               {output.outBuffer, output.outBufferSize, output.statusBuffer, output.statusSize,
+                &output.returnedSize, true});
+}
+
+int AskStandardAbility(int userID, unsigned code, tagNET_ORB_STD_ABILITY& ability)
+{
+    ability.returnedSize = 0;
+    std::string target = "/TARN/SDK/stdAbility/" + std::to_string(code);
+    if (ability.conditionBuffer != nullptr || ability.conditionSize != 0) {
+        std::int32_t channel = 0;
+        if (ability.conditionBuffer == nullptr || ability.conditionSize != sizeof channel) {
+            return Fail(NET_ORB_PARAMETER_ERROR);
+        }
+        std::memcpy(&channel, ability.conditionBuffer, sizeof channel);
+        target += "?channel=" + std::to_string(channel);
+    }
+    return Ask(userID, RequestKind::Ability, {{"GET", std::move(target)}, {}, 0},
+               {ability.outBuffer, ability.outSize, ability.statusBuffer, ability.statusSize,
+                &ability.returnedSize, false});
+}
+
+/// The device's own map, asked once for each channel and session.
+int AskChannel(int userID, int channel, int mode)
+{
+    const std::shared_ptr<Session> session = SessionTable::Instance().Find(userID);
+    if (!session) {
+        return Fail(NET_ORB_NOINIT) - 1;
+    }
+    if (const auto known = session->KnownChannel(channel, mode)) {
+        return *known;
+    }
+    char text[16] = {};
+    unsigned length = 0;
+    const std::string target =
+        "/TARN/SDK/channels/" + std::to_string(channel) + "?mode=" + std::to_string(mode);
+    if (Ask(userID, RequestKind::Request, {{"GET", target}, {}, 0},
+            {text, sizeof text, nullptr, 0, &length, false}) == 0) {
+        const unsigned error = LastFailure().error;
+        const bool noChannel = error == NET_ORB_NOSUPPORT || error == NET_ORB_DEVICE_REFUSED;
+        return (noChannel ? Fail(NET_ORB_CHANNEL_ERROR) : 0) - 1;
+    }
+    int number = -1;
+    std::from_chars(text, text + length, number);
+    if (number < 0) {
+        return Fail(NET_ORB_CHANNEL_ERROR) - 1;
+    }
+    session->LearnChannel(channel, mode, number);
+    return number;
+}
+
+}  // namespace
+
+}  // namespace PelNet
+
+extern "C" int NET_ORB_GetDeviceAbility(int userID, unsigned int abilityType, char* inBuffer,
+                                        unsigned int inLength, char* outBuffer,
+                                        unsigned int outLength)
+{
+    using namespace PelNet;
+    return Guarded([&] {
+        if (inBuffer == nullptr && inLength > 0) {
+            return Fail(NET_ORB_PARAMETER_ERROR);
+        }
+        const TransportRequest request{
+            {"POST", "/TARN/SDK/deviceAbility/" + std::to_string(abilityType)},
+            View(inBuffer, inLength),
+            0};
+        return Ask(userID, RequestKind::Ability, request, {outBuffer, outLength});
+    });
+}
+
+extern "C" int NET_ORB_GetSTDAbility(int userID, unsigned int abilityCode,
+                                     tagNET_ORB_STD_ABILITY* ability)
+{
+    using namespace PelNet;
+    return Guarded([&] {
+        return ability == nullptr ? Fail(NET_ORB_PARAMETER_ERROR)
+                                  : AskStandardAbility(userID, abilityCode, *ability);
+    });
+}
+
+extern "C" int NET_ORB_STDXMLConfig(int userID, tagNET_ORB_XML_CONFIG_INPUT* input,
+                                    tagNET_ORB_XML_CONFIG_OUTPUT* output)
+{
+    using namespace PelNet;
+    return Guarded([&] {
+        return input == nullptr || output == nullptr || output->size != sizeof *output
+                   ? Fail(NET_ORB_PARAMETER_ERROR)
+                   : AskRequest(userID, *input, *output);
+    });
+}
+
+extern "C" int NET_ORB_SDKChannelToTARN(int userID, int channel, int mode)
+{
+    return PelNet::Guarded([&] { return PelNet::AskChannel(userID, channel, mode); }, -1);
+}
