@@ -1,0 +1,42 @@
+# Compares what README.md shows with the files and programs it was taken from.
+# Variables: SOURCE (the repository), FIRST_QUERY and CAPSET (the programs; CAPSET may be empty).
+cmake_minimum_required(VERSION 3.25)
+
+file(READ ${SOURCE}/README.md readme)
+set(faults 0)
+
+# expect(<what> <text>): the text must stand in README.md.
+function(expect what text)
+  string(FIND "${readme}" "${text}" place)
+  if(place EQUAL -1)
+    message(SEND_ERROR "README.md does not show ${what} as it is now:\n${text}")
+  endif()
+endfunction()
+
+# Its example is the marked part of the compiled one.
+file(READ ${SOURCE}/examples/first_query.cpp example)
+string(REGEX MATCH "// \\[client\\]\n(.*)// \\[client\\]" marked "${example}")
+if(NOT marked)
+  message(FATAL_ERROR "examples/first_query.cpp has no part marked [client]")
+endif()
+expect("examples/first_query.cpp" "```cpp\n${CMAKE_MATCH_1}```")
+
+# What the programs print is what it says they print.
+execute_process(COMMAND ${FIRST_QUERY} OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+expect("the output of first_query" "$ first_query\n${output}")
+if(CAPSET)
+  execute_process(COMMAND ${CAPSET} show sim:dome BasicCapability OUTPUT_VARIABLE output
+                  COMMAND_ERROR_IS_FATAL ANY)
+  string(REGEX MATCHALL "[^\n]*\n" lines "${output}")
+  list(SUBLIST lines 0 8 lines)
+  string(CONCAT head ${lines})
+  expect("the first lines of capset" "$ capset show sim:dome BasicCapability\n${head}")
+endif()
+
+# Every document it points to is there.
+string(REGEX MATCHALL "\\]\\([^):#]+[):#]" links "${readme}")
+foreach(link IN LISTS links)
+  if(link MATCHES "\\]\\(([^):#]+)[)#]" AND NOT EXISTS ${SOURCE}/${CMAKE_MATCH_1})
+    message(SEND_ERROR "README.md points to ${CMAKE_MATCH_1}, which is not there")
+  endif()
+endforeach()
