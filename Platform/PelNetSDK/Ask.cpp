@@ -42,7 +42,7 @@ void GiveStatus(const AnswerSpace& space, const AnswerBody& body)
 int GiveRefusal(RequestKind kind, const AnswerSpace& space, const TransportAnswer& answer)
 {
     // One byte beyond the longest document tells a longer one apart.
-    const auto document = ReadStatusDocument(answer.body.Head(16 * 1024 + 1));
+    const auto document = ReadStatusDocument(answer.body.Head(kLongestStatusDocument + 1));
     // A login page is no statement of the device: "wrong password" says more.
     if (answer.status >= 400 && (document || answer.status != 401)) {
         GiveStatus(space, answer.body);
@@ -56,7 +56,7 @@ int GiveAnswer(Session& session, const TransportRequest& request, const AnswerSp
 {
     if (space.buffer == nullptr) {
         // A change without an answer buffer still has its status document told.
-        if (space.statusSize > 0 && ReadStatusDocument(body.Head(16 * 1024 + 1))) {
+        if (space.statusSize > 0 && ReadStatusDocument(body.Head(kLongestStatusDocument + 1))) {
             GiveStatus(space, body);
         }
         return 1;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "PelNetSDK/Ask.h"
+#include "PelNetSDK/HttpTransport.h"
 #include "PelNetSDK/Session.h"
 #include "PelNetSDK/SimTransport.h"
 #include "PelNetSDK/Statistics.h"
@@ -44,13 +45,49 @@ std::unique_ptr<Transport> OpenSimulated(const tagNET_ORB_LOGIN_INFO& info)
     return std::make_unique<SimTransport>(std::move(device));
 }
 
-std::unique_ptr<Transport> Open(const tagNET_ORB_LOGIN_INFO& info)
+/// What the answer to the first request says about the login.
+Failure JudgeProof(const TransportAnswer& answer)
 {
-    if (View(info.address).starts_with(kSimulated)) {
-        return OpenSimulated(info);
+    const std::string text = answer.body.Head(kLongestStatusDocument + 1);
+    const auto document = ReadStatusDocument(text);
+    const bool answered = answer.status >= 200 && answer.status < 300;
+    if (!answered) {
+        const Failure failure = JudgeRefusal(answer.status, RequestKind::Request, document);
+        // Devices that number their channels otherwise, or not at all, refuse just the question.
+        const bool harmless = answer.status < 500 && (failure.error == NET_ORB_NOSUPPORT ||
+                                                      failure.error == NET_ORB_CHANNEL_ERROR ||
+                                                      failure.error == NET_ORB_DEVICE_REFUSED);
+        if (!harmless) {
+            return failure;
+        }
     }
-    Fail(NET_ORB_PARAMETER_ERROR);
-    return nullptr;
+    // Any web server has an answer to everything; a device asks for the password, gives the
+    // channel's number, or speaks in the words of the protocol.
+    const bool number =
+        answered && !text.empty() && text.find_first_not_of("0123456789 \r\n") == text.npos;
+    return {
+        answer.passwordChecked || document || number ? NET_ORB_NOERROR : NET_ORB_NETWORK_ERRORDATA,
+        0, 0};
+}
+
+/// Asks the cheapest question there is: a device must be there and take the password.
+std::unique_ptr<Transport> OpenHttp(const tagNET_ORB_LOGIN_INFO& info)
+{
+    std::optional<HttpSettings> settings = ReadHttpSettings(info);
+    if (!settings) {
+        Fail(NET_ORB_PARAMETER_ERROR);
+        return nullptr;
+    }
+    auto transport = std::make_unique<HttpTransport>(std::move(*settings));
+    TransportAnswer answer;
+    const unsigned error =
+        transport->Exchange({{"GET", "/TARN/SDK/channels/1?mode=1"}, {}, 0}, answer);
+    const Failure failure = error != NET_ORB_NOERROR ? Failure{error, 0, 0} : JudgeProof(answer);
+    if (failure.error != NET_ORB_NOERROR) {
+        SetLastFailure(failure);
+        return nullptr;
+    }
+    return transport;
 }
 
 int LogIn(const tagNET_ORB_LOGIN_INFO& info)
@@ -60,7 +97,8 @@ int LogIn(const tagNET_ORB_LOGIN_INFO& info)
     if (table.Full()) {
         return Fail(NET_ORB_MAX_USERNUM) - 1;
     }
-    std::unique_ptr<Transport> transport = Open(info);
+    const bool simulated = View(info.address).starts_with(kSimulated);
+    std::unique_ptr<Transport> transport = simulated ? OpenSimulated(info) : OpenHttp(info);
     if (!transport) {
         return -1;
     }

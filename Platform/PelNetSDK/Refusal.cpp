@@ -18,9 +18,6 @@ namespace PelNet
 namespace
 {
 
-// A status document takes some hundred bytes; the bound keeps hostile ones cheap to read.
-constexpr std::size_t kLongestDocument = 16 * 1024;
-
 int ReadCode(std::string_view text)
 {
     const std::size_t begin = text.find_first_not_of(" \t\r\n");
@@ -111,7 +108,7 @@ std::optional<StatusDocument> ReadJson(const std::string& text)
 std::optional<StatusDocument> ReadStatusDocument(const std::string& text)
 {
     const std::size_t begin = text.find_first_not_of("\xEF\xBB\xBF \t\r\n");
-    if (begin == std::string::npos || text.size() > kLongestDocument) {
+    if (begin == std::string::npos || text.size() > kLongestStatusDocument) {
         return std::nullopt;
     }
     return text[begin] == '{' ? ReadJson(text.substr(begin)) : ReadXml(text);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -9,6 +10,9 @@
 
 namespace PelNet
 {
+
+/// A status document takes some hundred bytes; the bound keeps hostile ones cheap to read.
+inline constexpr std::size_t kLongestStatusDocument = std::size_t{16} * 1024;
 
 /// What was asked; an unknown ability has an error number of its own.
 enum class RequestKind

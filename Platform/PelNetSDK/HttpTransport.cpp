@@ -1,0 +1,146 @@
+// The connections of one session over HTTP.
+// SPDX-License-Identifier: Apache-2.0
+#include "PelNetSDK/HttpTransport.h"
+
+#include <fstream>
+#include <new>
+#include <utility>
+
+namespace PelNet
+{
+
+namespace
+{
+
+struct UrlCloser
+{
+    void operator()(CURLU* url) const { curl_url_cleanup(url); }
+};
+using Url = std::unique_ptr<CURLU, UrlCloser>;
+
+std::optional<std::string> UrlPart(const Url& url, CURLUPart part)
+{
+    char* text = nullptr;
+    if (curl_url_get(url.get(), part, &text, 0) != CURLUE_OK) {
+        return std::nullopt;
+    }
+    const std::unique_ptr<char, decltype(&curl_free)> owner(text, &curl_free);
+    return std::string(text);
+}
+
+std::string Text(const char* text)
+{
+    return text == nullptr ? std::string() : std::string(text);
+}
+
+/// Overwrites in a way that the compiler may not leave out.
+void Wipe(std::string& secret) noexcept
+{
+    volatile char* bytes = secret.data();
+    for (std::size_t i = 0; i < secret.size(); ++i) {
+        bytes[i] = '\0';
+    }
+    secret.clear();
+}
+
+}  // namespace
+
+std::optional<HttpSettings> ReadHttpSettings(const tagNET_ORB_LOGIN_INFO& info)
+{
+    const Url url(curl_url());
+    if (!url) {
+        throw std::bad_alloc();
+    }
+    if (curl_url_set(url.get(), CURLUPART_URL, info.address, 0) != CURLUE_OK) {
+        return std::nullopt;
+    }
+    const std::string scheme = UrlPart(url, CURLUPART_SCHEME).value_or("");
+    const bool bare = UrlPart(url, CURLUPART_PATH).value_or("/") == "/" &&
+                      !UrlPart(url, CURLUPART_QUERY) && !UrlPart(url, CURLUPART_FRAGMENT) &&
+                      !UrlPart(url, CURLUPART_USER) && !UrlPart(url, CURLUPART_PASSWORD);
+    std::optional<std::string> base = UrlPart(url, CURLUPART_URL);
+    if ((scheme != "http" && scheme != "https") || !bare || !base) {
+        return std::nullopt;
+    }
+    HttpSettings settings;
+    settings.base = base->ends_with('/') ? base->substr(0, base->size() - 1) : *base;
+    settings.secure = scheme == "https";
+    settings.certificateFile = Text(info.certificateFile);
+    if (!settings.certificateFile.empty() && !std::ifstream(settings.certificateFile)) {
+        return std::nullopt;
+    }
+    settings.user = Text(info.userName);
+    settings.password = Text(info.password);
+    settings.trustAnyCertificate = info.trustAnyCertificate != 0;
+    settings.allowBasic = info.allowBasic != 0;
+    if (info.connectTimeout > 0) {
+        settings.connectTimeout = std::chrono::milliseconds(info.connectTimeout);
+    }
+    if (info.receiveTimeout > 0) {
+        settings.receiveTimeout = std::chrono::milliseconds(info.receiveTimeout);
+    }
+    return settings;
+}
+
+HttpTransport::HttpTransport(HttpSettings settings) : settings_(std::move(settings))
+{
+    static const CURLcode initialised = curl_global_init(CURL_GLOBAL_DEFAULT);
+    if (initialised != CURLE_OK) {
+        throw std::bad_alloc();
+    }
+}
+
+HttpTransport::~HttpTransport()
+{
+    Wipe(settings_.password);
+}
+
+unsigned HttpTransport::Exchange(const TransportRequest& request, TransportAnswer& answer)
+{
+    std::unique_ptr<HttpConnection> connection = Take();
+    if (!connection) {
+        return NET_ORB_CANCELLED;
+    }
+    const unsigned error = connection->Exchange(request, answer);
+    GiveBack(std::move(connection));
+    return error;
+}
+
+std::unique_ptr<HttpConnection> HttpTransport::Take()
+{
+    const std::lock_guard lock(mutex_);
+    if (cancelled_) {
+        return nullptr;
+    }
+    if (idle_.empty()) {
+        auto connection = std::make_unique<HttpConnection>(settings_, cancelled_);
+        idle_.reserve(made_ + 1);
+        ++made_;
+        return connection;
+    }
+    auto connection = std::move(idle_.back());
+    idle_.pop_back();
+    return connection;
+}
+
+void HttpTransport::GiveBack(std::unique_ptr<HttpConnection> connection) noexcept
+{
+    const std::lock_guard lock(mutex_);
+    // The room was made when the connection was.
+    if (!cancelled_) {
+        idle_.push_back(std::move(connection));
+    }
+}
+
+void HttpTransport::Cancel() noexcept
+{
+    cancelled_ = true;
+    std::vector<std::unique_ptr<HttpConnection>> idle;
+    {
+        const std::lock_guard lock(mutex_);
+        idle.swap(idle_);
+        Wipe(settings_.password);
+    }
+}
+
+}  // namespace PelNet
