@@ -35,14 +35,19 @@ bool MatchParameters(const Answer& answer, const ParsedRequest& request)
 bool MatchRoot(const Answer& answer, const ParsedRequest& request)
 {
     // A body that cannot be read is refused by whoever the path leads to.
-    return answer.root.empty() || request.document.form == RequestDocument::Form::Malformed ||
-           std::ranges::find(request.document.roots, answer.root) != request.document.roots.end();
+    if (request.document.form == RequestDocument::Form::Malformed) {
+        return true;
+    }
+    const std::vector<std::string>& roots = request.document.roots;
+    return (answer.root.empty() || std::ranges::find(roots, answer.root) != roots.end()) &&
+           (answer.channelName.empty() || answer.channelName == request.document.channelName);
 }
 
 auto Closeness(const Answer& answer)
 {
     const auto placeholders = std::ranges::count_if(answer.path, &IsPlaceholder);
-    return std::tuple(-placeholders, answer.parameters.size(), !answer.root.empty());
+    return std::tuple(-placeholders, answer.parameters.size(), !answer.root.empty(),
+                      !answer.channelName.empty());
 }
 
 // Texts by which clients say that they mean no channel in particular.

@@ -28,7 +28,7 @@ public:
     };
 
     /// The closest answer: literal segments count before placeholders, more named parameters
-    /// before fewer, a named root before none.
+    /// before fewer, a named root before none, a named channel element before none.
     [[nodiscard]] Found Find(const ParsedRequest& request) const;
 
 private:

@@ -97,19 +97,23 @@ void ReadChannels(const Json::Value& channels, Profile& profile)
     }
 }
 
-// "deviceAbility 17 PTZAbility" and "stdAbility 4360" are short for the SDK's requests.
+// "deviceAbility 17 PTZAbility" and "stdAbility 4360" are short for the SDK's requests. A fourth
+// word tells apart requests that share code and root: it is the element by which one names a
+// channel.
 void ReadAbility(const std::vector<std::string>& words, Answer& answer)
 {
     const bool device = words[0] == "deviceAbility";
     int code = 0;
-    if (words.size() < 2 || words.size() > (device ? 3u : 2u) || !ReadNumber(words[1], code) ||
+    if (words.size() < 2 || words.size() > (device ? 4u : 2u) || !ReadNumber(words[1], code) ||
         code < 0) {
         throw Fault("\"" + answer.request + "\" is not \"" +
-                    (device ? "deviceAbility <code> [<root>]\"" : "stdAbility <code>\""));
+                    (device ? "deviceAbility <code> [<root> [<channel element>]]\""
+                            : "stdAbility <code>\""));
     }
     answer.method = device ? "POST" : "GET";
     answer.path = {"TARN", "SDK", words[0], words[1]};
-    answer.root = words.size() == 3 ? words[2] : std::string();
+    answer.root = words.size() > 2 ? words[2] : std::string();
+    answer.channelName = words.size() > 3 ? words[3] : std::string();
 }
 
 void ReadRequestLine(Answer& answer)

@@ -23,6 +23,7 @@ struct Answer
     std::vector<std::string> path;      ///< segments; "{channel}", "{sdkChannel}" and "{any}" match
     std::vector<Parameter> parameters;  ///< those a request must carry; it may carry more
     std::string root;                   ///< root of the request's body; empty: any, or no body
+    std::string channelName;            ///< element of the body that names a channel; empty: any
     bool setting = false;               ///< GET reads it, PUT replaces it
     std::optional<Status> status;       ///< answered with a status document instead of a file
 
