@@ -116,7 +116,6 @@ Real ReadReal(std::string_view text)
         const bool isLarge = IsLarge(text.substr(0, mantissa), text.substr(mantissa, exponent));
         value = isLarge ? std::numeric_limits<Real>::max() : Real{0};
     }
-    value = std::min(value, std::numeric_limits<Real>::max());
     return isNegative ? -value : value;
 }
 

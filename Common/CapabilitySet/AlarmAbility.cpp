@@ -1,0 +1,29 @@
+// What a device's wireless and call-for-help alarms can do.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/AlarmAbility.h"
+
+#include <memory>
+
+#include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/RequestXml.h"
+
+namespace CapabilitySet
+{
+
+bool AlarmAbility::GetAlarmAbility(AlarmAbility& out, unsigned int& err, const int userID,
+                                   const unsigned int channel)
+{
+    const query::Operation operation{.place = CAPABILITYSET_HERE,
+                                     .name = "GetAlarmAbility",
+                                     .growth = query::kDeviceAbilityGrowth};
+    return query::Fill(out, err, operation, [&]() -> std::unique_ptr<query::Request> {
+        int protocolChannel = 0;
+        if (!query::ToProtocolChannel(operation, userID, static_cast<int>(channel), protocolChannel,
+                                      err))
+            return nullptr;
+        return std::make_unique<query::DeviceAbilityRequest>(
+            userID, 10, query::RequestXml(kRoot).Child("channelID", protocolChannel).Text());
+    });
+}
+
+}  // namespace CapabilitySet

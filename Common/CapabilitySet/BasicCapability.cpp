@@ -1,0 +1,100 @@
+// The basic capability record, its query, and the memory of 3D positioning.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/BasicCapability.h"
+
+#include "CapabilitySet/private/FirstSavedCache.h"
+#include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/XmlFields.h"
+
+namespace CapabilitySet
+{
+namespace
+{
+
+using PtzCache = FirstSavedCache<int, bool>;
+
+PtzCache& Support3DPTZ()
+{
+    static PtzCache cache;
+    return cache;
+}
+
+/// The key's number: the pair of texts stands for a device, not for a channel.
+constexpr int kWholeDevice = 0;
+
+}  // namespace
+
+void RS485OfBC::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void ZoneNum::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void TriggerNum::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void Sensor::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void HardwareCapability::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void LocalVout::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void NeedReboot::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void SoftwareCapability::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void BasicCapability::Parse(const std::string& text)
+{
+    xml::ParseDocument(*this, text, "BasicCapability", CAPABILITYSET_HERE);
+}
+
+void BasicCapability::Parse(_xmlNode* element)
+{
+    xml::ParseNode(*this, element == nullptr ? nullptr : element->children);
+}
+
+bool BasicCapability::GetBasicCapability(BasicCapability& out, unsigned int& err, const int userID)
+{
+    return query::Fill(out, err,
+                       {.place = CAPABILITYSET_HERE,
+                        .name = "GetBasicCapability",
+                        .growth = query::kDeviceAbilityGrowth,
+                        .limitLine = query::LimitLine::TagAlone,
+                        .timedAs = "BasicCapability"},
+                       [&] { return query::DeviceAbilityRequest(userID, 1); });
+}
+
+bool BasicCapability::SaveIsSupper3DPTZAbility(bool value, const std::string& first,
+                                               const std::string& second)
+{
+    return Support3DPTZ().Save(value, first, second, kWholeDevice);
+}
+
+bool BasicCapability::GetIsSupper3DPTZAbility(bool& value, const std::string& first,
+                                              const std::string& second)
+{
+    return Support3DPTZ().Get(value, first, second, kWholeDevice);
+}
+
+}  // namespace CapabilitySet

@@ -1,0 +1,121 @@
+// Any record as a tree of names and values.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/RecordTree.h"
+
+#include <array>
+#include <charconv>
+
+namespace CapabilitySet::tree
+{
+namespace
+{
+
+using Kind = RecordNode::Kind;
+
+RecordNode Bounds(std::string name, bool announced, unsigned int min, unsigned int max)
+{
+    return {std::move(name), Kind::Range, {}, announced, {Whole("min", min), Whole("max", max)}};
+}
+
+}  // namespace
+
+RecordNode Flag(std::string name, bool value)
+{
+    return {std::move(name), Kind::Flag, value ? "true" : "false", true, {}};
+}
+
+RecordNode Text(std::string name, std::string value)
+{
+    return {std::move(name), Kind::Text, std::move(value), true, {}};
+}
+
+RecordNode Real(std::string name, double value)
+{
+    // Shortest form that reads back the same, whatever the client's locale.
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+    return {std::move(name), Kind::Number, {digits.data(), end.ptr}, true, {}};
+}
+
+RecordNode Options(std::string name, bool announced, const std::vector<std::string>& options)
+{
+    RecordNode node{std::move(name), Kind::Options, {}, announced, {}};
+    for (const std::string& option : options)
+        node.children.push_back(Text({}, option));
+    return node;
+}
+
+RecordNode Node(std::string name, const OptElement<std::string>& value)
+{
+    RecordNode node = Options(std::move(name), value.capable, value.opt);
+    if (!value.attri.empty())
+        node.children.push_back(Options("attri", true, value.attri));
+    return node;
+}
+
+RecordNode Node(std::string name, const MinMaxElement& value)
+{
+    RecordNode node = Bounds(std::move(name), value.capable, value.min, value.max);
+    if (value.hasDefault)
+        node.children.push_back(Whole("def", value.def));
+    return node;
+}
+
+RecordNode Node(std::string name, const MinMaxPropElement& value)
+{
+    return Bounds(std::move(name), value.capable, value.min, value.max);
+}
+
+RecordNode Node(std::string name, const RangeElement& value)
+{
+    RecordNode node{std::move(name), Kind::Range, {}, value.capable, {}};
+    for (const int number : value.range)
+        node.children.push_back(Whole({}, number));
+    if (value.hasDefault)
+        node.children.push_back(Whole("def", value.def));
+    return node;
+}
+
+RecordNode Node(std::string name, const MinMaxOrRangeElement& value)
+{
+    return {std::move(name),
+            Kind::Record,
+            {},
+            value.capable,
+            {Node("minMax", value.minMax), Node("range", value.range)}};
+}
+
+RecordNode Node(std::string name, const DefaultElement& value)
+{
+    RecordNode node = Whole(std::move(name), value.value);
+    node.announced = value.capable;
+    return node;
+}
+
+RecordNode Node(std::string name, const OptJsonElement& value)
+{
+    return Options(std::move(name), value.capable, value.opt);
+}
+
+RecordNode Node(std::string name, const MisinfoMinMaxElement& value)
+{
+    return {std::move(name),
+            Kind::Range,
+            {},
+            value.capable,
+            {Whole("min", value.min), Whole("max", value.max)}};
+}
+
+RecordNode Node(std::string name, const AbilityElement& value)
+{
+    RecordNode node{std::move(name), Kind::Record, value.text, true, {}};
+    for (const auto& [attribute, text] : value.attributes)
+        node.children.push_back(Text("@" + attribute, text));
+    for (const AbilityElement& child : value.children)
+        node.children.push_back(Node(child.name, child));
+    if (node.children.empty())
+        node.kind = Kind::Text;
+    return node;
+}
+
+}  // namespace CapabilitySet::tree

@@ -1,0 +1,122 @@
+// Finds all fields of a record in one pass over an element's children.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/private/FieldIndex.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+namespace CapabilitySet::xml
+{
+namespace
+{
+
+const char* NameOf(const xmlNode* element)
+{
+    return reinterpret_cast<const char*>(element->name);
+}
+
+bool Same(const char* a, const char* b)
+{
+    return *a == *b && std::strcmp(a, b) == 0;
+}
+
+}  // namespace
+
+void FieldIndex::Add(const char* name, bool repeated)
+{
+    fields_.push_back({name, repeated});
+}
+
+void FieldIndex::Finish()
+{
+    slots_.assign(std::bit_ceil(2 * fields_.size() + 1), {});
+    for (std::size_t field = 0; field < fields_.size(); ++field) {
+        const std::uint32_t hash = HashOf(fields_[field].name);
+        std::size_t at = hash & (slots_.size() - 1);
+        while (slots_[at].field != 0)
+            at = (at + 1) & (slots_.size() - 1);
+        slots_[at] = {hash, static_cast<std::uint32_t>(field + 1)};
+    }
+}
+
+std::uint32_t FieldIndex::HashOf(const char* name)
+{
+    std::uint32_t hash = 2166136261U;
+    for (; *name != '\0'; ++name)
+        hash = (hash ^ static_cast<unsigned char>(*name)) * 16777619U;
+    return hash ^ (hash >> 15U);
+}
+
+std::size_t FieldIndex::Find(const char* name) const
+{
+    const std::uint32_t hash = HashOf(name);
+    for (std::size_t at = hash & (slots_.size() - 1); slots_[at].field != 0;
+         at = (at + 1) & (slots_.size() - 1)) {
+        if (slots_[at].hash == hash && Same(fields_[slots_[at].field - 1].name, name))
+            return slots_[at].field - 1;
+    }
+    return kNone;
+}
+
+FieldMatches::FieldMatches(const FieldIndex& index, xmlNode* firstChild) : index_(index)
+{
+    matches_ = inline_.data();
+    if (index.Size() > kInline) {
+        more_.resize(index.Size());
+        matches_ = more_.data();
+    }
+    std::fill_n(matches_, index.Size(), Match{nullptr, 0});
+    if (!MatchInOrder(firstChild))
+        MatchByCursor(firstChild);
+}
+
+/// Takes each child for the field of its name. False when a field stands behind one that comes
+/// later in the record: then the cursor, which goes for the earlier field, skips some of them.
+bool FieldMatches::MatchInOrder(xmlNode* firstChild)
+{
+    bool inOrder = true;
+    std::size_t next = 0;
+    std::size_t ordinal = 0;
+    for (xmlNode* node = firstChild; node != nullptr; node = node->next) {
+        if (node->type != XML_ELEMENT_NODE)
+            continue;
+        ++ordinal;
+        const bool expected = next < index_.Size() && Same(index_.NameOf(next), NameOf(node));
+        const std::size_t field = expected ? next : index_.Find(NameOf(node));
+        if (field == FieldIndex::kNone)
+            continue;
+        Match& match = matches_[field];
+        match.last = ordinal;
+        if (field >= next) {
+            match.element = node;
+            next = field + 1;
+        } else if (match.element == nullptr || (index_.IsRepeated(field) && field + 1 != next))
+            inOrder = false;
+    }
+    return inOrder;
+}
+
+/// What a cursor finds that searches each name from where the last one was found. It never
+/// searches for a name that does not follow, so that it passes each child once.
+void FieldMatches::MatchByCursor(xmlNode* firstChild)
+{
+    xmlNode* node = firstChild;
+    std::size_t passed = 0;
+    for (std::size_t field = 0; field < index_.Size(); ++field) {
+        Match& match = matches_[field];
+        match.element = nullptr;
+        const std::size_t end = match.last;
+        while (passed < end) {
+            const bool element = node->type == XML_ELEMENT_NODE;
+            if (element && match.element == nullptr && Same(index_.NameOf(field), NameOf(node)))
+                match.element = node;
+            node = node->next;
+            passed += element ? 1 : 0;
+            if (match.element != nullptr && !index_.IsRepeated(field))
+                break;
+        }
+    }
+}
+
+}  // namespace CapabilitySet::xml

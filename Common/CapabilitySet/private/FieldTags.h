@@ -1,0 +1,50 @@
+// How a field is read where its type alone does not tell: the third argument of a field list.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+namespace CapabilitySet::as
+{
+
+/// What the type itself tells; the same as no tag.
+struct Plain
+{
+};
+inline constexpr Plain plain;
+
+/// A range read from the element's attributes instead of its children.
+struct Attributes
+{
+};
+inline constexpr Attributes attributes;
+
+/// A flag that is true when the element exists, whatever it holds.
+struct Presence
+{
+};
+inline constexpr Presence presence;
+
+/// As presence, but the element does not make its record count as read.
+struct Marker
+{
+};
+inline constexpr Marker marker;
+
+/// A flag announced by options: true or false when "opt" holds one entry, else left as it is.
+struct EnabledFlag
+{
+};
+inline constexpr EnabledFlag enabledFlag;
+
+/// A list of the elements of this name among the record's own children.
+struct Repeated
+{
+};
+inline constexpr Repeated repeated;
+
+/// A list inside an element of its own: the elements named `item` among its children.
+struct Items
+{
+    const char* item;
+};
+
+}  // namespace CapabilitySet::as

@@ -1,0 +1,185 @@
+// One parser context per thread, kept between documents, that trusts no device.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/private/XmlDocument.h"
+
+#include <cstring>
+#include <new>
+
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+#include <libxml/xmlerror.h>
+
+namespace CapabilitySet::xml
+{
+namespace
+{
+
+/// No device puts more on one element, and the parser's time grows with their square.
+constexpr int kMostAttributes = 1000;
+/// A kept dictionary beyond this is given back: a device could fill it with names.
+constexpr std::size_t kMostDictionaryBytes = 256 * 1024;
+
+struct FreeContext
+{
+    void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+};
+using Context = std::unique_ptr<xmlParserCtxt, FreeContext>;
+
+void IgnoreError(void* /*context*/, xmlErrorPtr /*error*/) {}
+
+/// Why a hook refused the document being parsed on this thread; no message when none did.
+thread_local struct
+{
+    int line;
+    const char* message;
+} refusal;
+
+/// Ends the parse: the document counts as one that is not well-formed.
+void Refuse(xmlParserCtxt* context, const char* why)
+{
+    refusal = {context->input == nullptr ? 0 : context->input->line, why};
+    xmlStopParser(context);
+    context->wellFormed = 0;
+}
+
+void RefuseEntity(void* context, const xmlChar* /*name*/, int /*type*/, const xmlChar* /*publicId*/,
+                  const xmlChar* /*systemId*/, xmlChar* /*content*/)
+{
+    Refuse(static_cast<xmlParserCtxt*>(context), "The document declares entities");
+}
+
+void StartElement(void* context, const xmlChar* localName, const xmlChar* prefix,
+                  const xmlChar* uri, int namespaceCount, const xmlChar** namespaces,
+                  int attributeCount, int defaultedCount, const xmlChar** attributes)
+{
+    if (attributeCount > kMostAttributes || namespaceCount > kMostAttributes) {
+        Refuse(static_cast<xmlParserCtxt*>(context), "An element has more than 1000 attributes");
+        return;
+    }
+    xmlSAX2StartElementNs(context, localName, prefix, uri, namespaceCount, namespaces,
+                          attributeCount, defaultedCount, attributes);
+}
+
+Context NewContext(Form form)
+{
+    Context context(xmlNewParserCtxt());
+    if (context == nullptr)
+        throw std::bad_alloc();
+    // Set whatever the client's global defaults say, so that they are not obeyed.
+    const bool blankFree = form == Form::BlankFree;
+    context->options = XML_PARSE_COMPACT | (blankFree ? XML_PARSE_NOBLANKS : 0);
+    context->dictNames = 1;
+    context->keepBlanks = blankFree ? 0 : 1;
+    context->replaceEntities = 0;
+    context->loadsubset = 0;
+    context->validate = 0;
+    context->pedantic = 0;
+    context->linenumbers = 1;
+    context->sax->ignorableWhitespace = blankFree ? xmlSAX2IgnorableWhitespace : xmlSAX2Characters;
+    context->sax->serror = IgnoreError;
+    context->sax->entityDecl = RefuseEntity;
+    context->sax->startElementNs = StartElement;
+    return context;
+}
+
+Problem LastProblem()
+{
+    if (refusal.message != nullptr)
+        return {refusal.line, refusal.message};
+    const xmlError* error = xmlGetLastError();
+    if (error == nullptr)
+        return {};
+    return {error->line, error->message == nullptr ? "" : error->message};
+}
+
+bool RanOutOfMemory()
+{
+    const xmlError* error = xmlGetLastError();
+    return error != nullptr && error->code == XML_ERR_NO_MEMORY;
+}
+
+/// Puts the text before the context as its only input.
+bool Feed(xmlParserCtxt* context, const char* text, int length, Form form)
+{
+    xmlParserInputBuffer* buffer =
+        xmlParserInputBufferCreateMem(text, length, XML_CHAR_ENCODING_NONE);
+    if (buffer == nullptr)
+        return false;
+    xmlParserInput* input = xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
+    if (input == nullptr) {
+        xmlFreeParserInputBuffer(buffer);
+        return false;
+    }
+    if (inputPush(context, input) < 0) {
+        xmlFreeInputStream(input);
+        return false;
+    }
+    if (form == Form::BlankFree)
+        xmlSwitchToEncoding(context, xmlFindCharEncodingHandler("UTF-8"));
+    return true;
+}
+
+}  // namespace
+
+Document ParseText(const std::string& text, Form form, Problem& problem)
+{
+    thread_local Context kept[2];
+    Context context = std::move(kept[static_cast<int>(form)]);
+    xmlResetLastError();
+    refusal = {};
+    const std::size_t length = std::strlen(text.c_str());
+    if (context == nullptr)
+        context = NewContext(form);
+    else
+        xmlCtxtReset(context.get());
+
+    if (length == 0 || length > static_cast<std::size_t>(INT_MAX) ||
+        !Feed(context.get(), text.c_str(), static_cast<int>(length), form)) {
+        problem = LastProblem();
+        return nullptr;
+    }
+    xmlParseDocument(context.get());
+    Document document(context->myDoc);
+    context->myDoc = nullptr;
+    // A tree that was built while memory ran out is wrong in places, well-formed or not.
+    if (context->wellFormed == 0 || document == nullptr || RanOutOfMemory()) {
+        problem = LastProblem();
+        return nullptr;
+    }
+    // Only after a clean parse is the context as good as new, and worth keeping.
+    if (xmlDictGetUsage(context->dict) <= kMostDictionaryBytes)
+        kept[static_cast<int>(form)] = std::move(context);
+    return document;
+}
+
+Document OpenRoot(const std::string& text, const char* rootName, const log::Place& place, Form form,
+                  const RootTexts& texts, xmlNode*& root)
+{
+    Problem problem;
+    Document document = ParseText(text, form, problem);
+    if (document == nullptr) {
+        log::Error(place,
+                   "%sCann't parse the XML, The error is at line[%d], the error message is [%s].",
+                   texts.prefix, problem.line, problem.message.c_str());
+        return nullptr;
+    }
+    root = xmlDocGetRootElement(document.get());
+    if (root == nullptr) {
+        problem = LastProblem();
+        log::Error(
+            place,
+            "%sCann't get root element from the XML, The error is at line[%d], the error message "
+            "is [%s].",
+            texts.prefix, problem.line, problem.message.c_str());
+        return nullptr;
+    }
+    if (!NextElementNamed(root, rootName)) {
+        if (texts.tellMismatch)
+            log::Error(place, "%sThe root element is mismatched with the %sXML.", texts.prefix,
+                       texts.document);
+        return nullptr;
+    }
+    return document;
+}
+
+}  // namespace CapabilitySet::xml
