@@ -4,9 +4,11 @@
 
 #include <memory>
 
+#include <log4cxx/helpers/class.h>
 #include <log4cxx/helpers/transcoder.h>
 #include <log4cxx/level.h>
 #include <log4cxx/logmanager.h>
+#include <log4cxx/spi/hierarchyeventlistener.h>
 #include <log4cxx/spi/loggerrepository.h>
 
 namespace Keel::details
@@ -18,15 +20,55 @@ namespace
 /// Set once static objects go away: log4cxx, some of whose own are gone by then, can hang.
 std::atomic<bool> processEnds{false};
 
-/// Made after what log4cxx has made for itself, so it goes away before that does.
-void WatchProcessEnd()
+/// A static one, made after what log4cxx has made for itself so far, goes away before that does.
+struct ProcessEndWatch
 {
-    struct Watch
+    ProcessEndWatch() = default;
+    ~ProcessEndWatch() { processEnds.store(true, std::memory_order_relaxed); }
+    ProcessEndWatch(const ProcessEndWatch&) = delete;
+    ProcessEndWatch& operator=(const ProcessEndWatch&) = delete;
+};
+
+/// Set once any logger has, or had, an appender: until then a line costs one look here.
+std::atomic<bool> anyAppender{false};
+
+class AppenderWatch : public log4cxx::spi::HierarchyEventListener
+{
+public:
+    [[nodiscard]] const log4cxx::helpers::Class& getClass() const override
     {
-        ~Watch() { processEnds.store(true, std::memory_order_relaxed); }
-    };
-    static const Watch watch;
-    static_cast<void>(watch);
+        return log4cxx::helpers::Object::getStaticClass();
+    }
+    [[nodiscard]] bool instanceof (const log4cxx::helpers::Class& other) const override
+    {
+        return &other == &getClass();
+    }
+    [[nodiscard]] const void* cast(const log4cxx::helpers::Class& other) const override
+    {
+        return instanceof (other) ? static_cast<const log4cxx::helpers::Object*>(this) : nullptr;
+    }
+
+    void addAppenderEvent(const log4cxx::Logger*, const log4cxx::Appender*) override
+    {
+        anyAppender.store(true, std::memory_order_relaxed);
+    }
+    void removeAppenderEvent(const log4cxx::Logger*, const log4cxx::Appender*) override {}
+};
+
+/// False while no line can reach anyone: nothing is configured yet, or the process ends.
+bool IsAnyoneListening()
+{
+    static const bool isWatching = [] {
+        const auto repository = log4cxx::LogManager::getLoggerRepository();
+        repository->addHierarchyEventListener(std::make_shared<AppenderWatch>());
+        if (repository->isConfigured()) {
+            anyAppender.store(true, std::memory_order_relaxed);
+        }
+        return true;
+    }();
+    static const ProcessEndWatch watch;
+    return isWatching && anyAppender.load(std::memory_order_relaxed) &&
+           !processEnds.load(std::memory_order_relaxed);
 }
 
 /// The repository is asked directly: LogManager::getLogger would look for configuration files in
@@ -87,25 +129,19 @@ void WriteTo(const log4cxx::LoggerPtr& logger, LogLevel level, const std::string
     log4cxx::LogString logString;
     log4cxx::helpers::Transcoder::decodeUTF8(message, logString);
     logger->forcedLogLS(Log4cxxLevel(level), logString, location);
-    WatchProcessEnd();
-}
-
-bool ProcessEnds()
-{
-    return processEnds.load(std::memory_order_relaxed);
+    static const ProcessEndWatch watch;
 }
 
 }  // namespace
 
-const log4cxx::LoggerPtr* LogChannel::Logger() const noexcept
+const log4cxx::LoggerPtr* LogChannel::Find() const noexcept
 try {
-    if (ProcessEnds()) {
+    if (!IsAnyoneListening()) {
         return nullptr;
     }
     const log4cxx::LoggerPtr* known = logger_.load(std::memory_order_acquire);
     if (known == nullptr) {
         auto found = std::make_unique<const log4cxx::LoggerPtr>(FindLogger(name_));
-        WatchProcessEnd();
         if (logger_.compare_exchange_strong(known, found.get(), std::memory_order_acq_rel)) {
             known = found.release();
         }
@@ -117,7 +153,7 @@ try {
 
 bool LogChannel::IsEnabled(LogLevel level) const noexcept
 try {
-    const log4cxx::LoggerPtr* logger = Logger();
+    const log4cxx::LoggerPtr* logger = Find();
     return logger != nullptr && IsWanted(*logger, level);
 } catch (...) {
     return false;
@@ -126,7 +162,7 @@ try {
 void LogChannel::Write(LogLevel level, const std::string& message,
                        const log4cxx::spi::LocationInfo& location) const noexcept
 try {
-    if (const log4cxx::LoggerPtr* logger = Logger()) {
+    if (const log4cxx::LoggerPtr* logger = Find()) {
         WriteTo(*logger, level, message, location);
     }
 } catch (...) {
@@ -135,7 +171,7 @@ try {
 
 bool LogChannel::IsEnabled(LogLevel level, const std::string& name) noexcept
 try {
-    return !ProcessEnds() && IsWanted(FindLogger(name), level);
+    return IsAnyoneListening() && IsWanted(FindLogger(name), level);
 } catch (...) {
     return false;
 }
@@ -143,7 +179,7 @@ try {
 void LogChannel::Write(LogLevel level, const std::string& name, const std::string& message,
                        const log4cxx::spi::LocationInfo& location) noexcept
 try {
-    if (!ProcessEnds()) {
+    if (IsAnyoneListening()) {
         WriteTo(FindLogger(name), level, message, location);
     }
 } catch (...) {

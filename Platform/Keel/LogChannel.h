@@ -33,7 +33,7 @@ public:
                       const log4cxx::spi::LocationInfo& location) noexcept;
 
 private:
-    [[nodiscard]] const log4cxx::LoggerPtr* Logger() const noexcept;
+    [[nodiscard]] const log4cxx::LoggerPtr* Find() const noexcept;
 
     const char* name_;
     mutable std::atomic<const log4cxx::LoggerPtr*> logger_{nullptr};
