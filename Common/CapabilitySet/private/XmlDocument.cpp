@@ -9,13 +9,13 @@
 #include <libxml/parserInternals.h>
 #include <libxml/xmlerror.h>
 
+#include "CapabilitySet/private/AttributeFlood.h"
+
 namespace CapabilitySet::xml
 {
 namespace
 {
 
-/// No device puts more on one element, and the parser's time grows with their square.
-constexpr int kMostAttributes = 1000;
 /// A kept dictionary beyond this is given back: a device could fill it with names.
 constexpr std::size_t kMostDictionaryBytes = 256 * 1024;
 
@@ -24,6 +24,8 @@ struct FreeContext
     void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
 };
 using Context = std::unique_ptr<xmlParserCtxt, FreeContext>;
+
+constexpr const char* kFlood = "An element has more than 1000 attributes";
 
 void IgnoreError(void* /*context*/, xmlErrorPtr /*error*/) {}
 
@@ -53,7 +55,7 @@ void StartElement(void* context, const xmlChar* localName, const xmlChar* prefix
                   int attributeCount, int defaultedCount, const xmlChar** attributes)
 {
     if (attributeCount > kMostAttributes || namespaceCount > kMostAttributes) {
-        Refuse(static_cast<xmlParserCtxt*>(context), "An element has more than 1000 attributes");
+        Refuse(static_cast<xmlParserCtxt*>(context), kFlood);
         return;
     }
     xmlSAX2StartElementNs(context, localName, prefix, uri, namespaceCount, namespaces,
@@ -128,6 +130,10 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
     xmlResetLastError();
     refusal = {};
     const std::size_t length = std::strlen(text.c_str());
+    if (HoldsAttributeFlood({text.c_str(), length})) {
+        problem.message = kFlood;
+        return nullptr;
+    }
     if (context == nullptr)
         context = NewContext(form);
     else
