@@ -18,9 +18,9 @@ struct Untaken
     std::string reason;
 };
 
-/// Why an element that matches no field, or a field that went to another element, is not read.
-/// Empty when it is.
-std::string WhyUntaken(const FieldIndex& index, const FieldMatches& matches, xmlNode* element);
+/// Adds what reading passes over among an element's children.
+void ExplainPassedOver(const FieldIndex& index, const FieldMatches& matches, xmlNode* firstChild,
+                       const std::string& path, std::vector<Untaken>& untaken);
 
 template <class Record>
 void ExplainChildren(const Record& sample, xmlNode* firstChild, const std::string& path,
@@ -28,13 +28,7 @@ void ExplainChildren(const Record& sample, xmlNode* firstChild, const std::strin
 {
     const FieldIndex& index = IndexOf<Record>();
     const FieldMatches matches(index, firstChild);
-    for (xmlNode* node = firstChild; node != nullptr; node = node->next) {
-        if (node->type != XML_ELEMENT_NODE)
-            continue;
-        std::string reason = WhyUntaken(index, matches, node);
-        if (!reason.empty())
-            untaken.push_back({path + XmlCharToString(node->name), xmlGetLineNo(node), reason});
-    }
+    ExplainPassedOver(index, matches, firstChild, path, untaken);
     std::size_t field = 0;
     Record::Fields(sample, [&](const char* name, const auto& member, auto... /*how*/) {
         xmlNode* const element = matches[field++];
