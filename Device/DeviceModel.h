@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -50,6 +51,11 @@ public:
                                              std::string_view password) const = 0;
     /// The password of a user, for digest authentication; null when there is no such user.
     [[nodiscard]] virtual const std::string* PasswordOf(std::string_view user) const = 0;
+
+    /// Names of the device's users, sorted.
+    [[nodiscard]] virtual std::vector<std::string> UserNames() const { return {}; }
+    /// The SDK's channel numbers and the protocol's number of each.
+    [[nodiscard]] virtual std::map<int, int> Channels() const { return {}; }
 
     /// Answers one request. Beside the protocol's own "/TARN/" paths it serves the SDK's:
     /// POST /TARN/SDK/deviceAbility/<code> (request XML as body),
