@@ -10,6 +10,7 @@
 
 #include "Device/Behaviour.h"
 #include "Device/EmbeddedProfiles.h"
+#include "Device/HostileModel.h"
 #include "Device/Profile.h"
 
 namespace Device
@@ -41,15 +42,33 @@ public:
         return found == profile_.users.end() ? nullptr : &found->second;
     }
 
+    [[nodiscard]] std::vector<std::string> UserNames() const override
+    {
+        std::vector<std::string> names;
+        for (const auto& user : profile_.users) {
+            names.push_back(user.first);
+        }
+        return names;
+    }
+
+    [[nodiscard]] std::map<int, int> Channels() const override { return profile_.channels; }
+
     Response Handle(const Request& request) override
     {
         const ParsedRequest parsed(request);
+        std::optional<Response> methodNotAllowed;
         for (const std::unique_ptr<Behaviour>& behaviour : behaviours_) {
-            if (std::optional<Response> response = behaviour->Answer(parsed)) {
+            std::optional<Response> response = behaviour->Answer(parsed);
+            if (response && response->status != Outcome::kMethodNotAllowed.httpStatus) {
                 return *std::move(response);
             }
+            if (response) {
+                // Another behaviour may answer the same path with this method.
+                methodNotAllowed = std::move(response);
+            }
         }
-        return MakeStatus(Outcome::kNotSupport, request.target);
+        return methodNotAllowed ? *std::move(methodNotAllowed)
+                                : MakeStatus(Outcome::kNotSupport, request.target);
     }
 
 private:
@@ -96,6 +115,9 @@ std::string Listed(const std::vector<std::string>& names)
 
 std::shared_ptr<DeviceModel> DeviceModel::Load(const std::string& profile, std::string& error)
 {
+    if (IsHostileProfile(profile)) {
+        return MakeHostileModel(profile, error);
+    }
     ProfileFiles files;
     if (profile.find('/') != std::string::npos) {
         files = FilesOf(std::filesystem::path(profile));
@@ -122,6 +144,8 @@ std::vector<std::string> DeviceModel::ProfileNames()
     for (const EmbeddedProfile* profile : EmbeddedProfiles()) {
         names.emplace_back(profile->name);
     }
+    names.emplace_back("hostile");
+    std::ranges::sort(names);
     return names;
 }
 

@@ -25,7 +25,9 @@ void Split(std::string_view text, char separator, Take take)
     }
 }
 
-std::string Decode(std::string_view text)
+}  // namespace
+
+std::string UndoPercentEncoding(std::string_view text)
 {
     std::string out;
     for (size_t i = 0; i < text.size(); ++i) {
@@ -42,8 +44,6 @@ std::string Decode(std::string_view text)
     return out;
 }
 
-}  // namespace
-
 std::vector<Parameter> ParseParameters(std::string_view target)
 {
     std::vector<Parameter> parameters;
@@ -53,9 +53,9 @@ std::vector<Parameter> ParseParameters(std::string_view target)
     }
     Split(target.substr(query + 1), '&', [&](std::string_view part) {
         const size_t equals = std::min(part.find('='), part.size());
-        parameters.push_back({Decode(part.substr(0, equals)), equals < part.size()
-                                                                  ? Decode(part.substr(equals + 1))
-                                                                  : std::string()});
+        parameters.push_back(
+            {UndoPercentEncoding(part.substr(0, equals)),
+             equals < part.size() ? UndoPercentEncoding(part.substr(equals + 1)) : std::string()});
     });
     return parameters;
 }

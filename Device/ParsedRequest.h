@@ -42,6 +42,9 @@ struct ParsedRequest
     [[nodiscard]] const std::string* FindParameter(std::string_view name) const;
 };
 
+/// The text with each "%41" replaced by the byte it stands for; anything else stays.
+std::string UndoPercentEncoding(std::string_view text);
+
 /// Reads a text that is one decimal number of an `int` and nothing else.
 bool ReadNumber(std::string_view text, int& number);
 

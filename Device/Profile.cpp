@@ -116,29 +116,37 @@ void ReadAbility(const std::vector<std::string>& words, Answer& answer)
     answer.channelName = words.size() > 3 ? words[3] : std::string();
 }
 
-void ReadRequestLine(Answer& answer)
+std::vector<std::string> SplitWords(const std::string& text)
 {
     std::vector<std::string> words;
-    for (size_t at = 0; at < answer.request.size();) {
-        const size_t end = std::min(answer.request.find(' ', at), answer.request.size());
-        words.push_back(answer.request.substr(at, end - at));
+    for (size_t at = 0; at < text.size();) {
+        const size_t end = std::min(text.find(' ', at), text.size());
+        words.push_back(text.substr(at, end - at));
         at = end + 1;
     }
+    return words;
+}
+
+void ReadRequestLine(Answer& answer)
+{
+    const std::vector<std::string> words = SplitWords(answer.request);
     if (!words.empty() && (words[0] == "deviceAbility" || words[0] == "stdAbility")) {
         ReadAbility(words, answer);
         return;
     }
     constexpr std::string_view kMethods[] = {"GET", "PUT", "POST", "DELETE"};
-    const bool hasMethod = words.size() == 2;
-    if (words.empty() || words.size() > 2 || !words.back().starts_with('/') ||
-        (hasMethod && std::ranges::find(kMethods, words[0]) == std::end(kMethods)) ||
-        (hasMethod && answer.setting)) {
+    // A target may hold blanks, so only what stands before the first one can be a method.
+    const bool hasMethod = !answer.request.starts_with('/') && words.size() > 1;
+    const std::string target =
+        hasMethod ? answer.request.substr(words[0].size() + 1) : answer.request;
+    if (!target.starts_with('/') || (hasMethod && answer.setting) ||
+        (hasMethod && std::ranges::find(kMethods, words[0]) == std::end(kMethods))) {
         throw Fault("\"" + answer.request + "\" is no request" +
                     (answer.setting ? " of a setting, which is a path without a method" : ""));
     }
     answer.method = answer.setting ? "" : hasMethod ? words[0] : "GET";
-    answer.path = ParsePath(words.back());
-    answer.parameters = ParseParameters(words.back());
+    answer.path = ParsePath(target);
+    answer.parameters = ParseParameters(target);
 }
 
 std::string ContentType(const std::string& file)

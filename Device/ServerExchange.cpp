@@ -1,0 +1,74 @@
+// Bodies that drip, end early or grow, and targets decoded.
+// SPDX-License-Identifier: Apache-2.0
+#include "Device/ServerExchange.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "Device/ParsedRequest.h"
+
+namespace Device
+{
+
+void StopSignal::Stop()
+{
+    {
+        const std::lock_guard lock(mutex_);
+        stopped_ = true;
+    }
+    changed_.notify_all();
+}
+
+bool StopSignal::Wait(std::chrono::milliseconds time)
+{
+    // A wait that is longer than a day would overflow the clock.
+    constexpr std::chrono::milliseconds kLongest = std::chrono::hours(24);
+    std::unique_lock lock(mutex_);
+    return !changed_.wait_for(lock, std::min(time, kLongest), [this] { return stopped_.load(); });
+}
+
+AnswerBody::AnswerBody(std::string body, const FaultPlan& plan, StopSignal& stop)
+    : body_(std::move(body)), plan_(plan), stop_(stop)
+{
+}
+
+std::int64_t AnswerBody::Read(std::uint64_t position, char* buffer, size_t size)
+{
+    if (stop_.Stopped()) {
+        return -1;
+    }
+    std::uint64_t count = std::min<std::uint64_t>(size, AnnouncedSize() - position);
+    if (plan_.dripBytes > 0) {
+        if (position > 0 && !stop_.Wait(plan_.dripInterval)) {
+            return -1;
+        }
+        count = std::min(count, plan_.dripBytes);
+    }
+    if (plan_.truncateAt) {
+        if (position >= *plan_.truncateAt) {
+            return -1;
+        }
+        count = std::min(count, *plan_.truncateAt - position);
+    }
+    if (position < body_.size()) {
+        count = std::min<std::uint64_t>(count, body_.size() - position);
+        std::memcpy(buffer, body_.data() + position, count);
+    } else {
+        std::memset(buffer, ' ', count);
+    }
+    sent_ = position + count;
+    return static_cast<std::int64_t>(count);
+}
+
+std::string DecodeTarget(const std::string& uri)
+{
+    const size_t query = std::min(uri.find('?'), uri.size());
+    std::string path = UndoPercentEncoding(std::string_view(uri).substr(0, query));
+    for (size_t at = 0; (at = path.find('?', at)) != std::string::npos; at += 3) {
+        path.replace(at, 1, "%3F");
+    }
+    return path + uri.substr(query);
+}
+
+}  // namespace Device
