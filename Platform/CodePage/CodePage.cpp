@@ -6,10 +6,16 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <limits>
 #include <new>
+#include <utility>
 
+#if defined(_WIN32)
+#include <windows.h>
+#else
 #include <iconv.h>
 #include <langinfo.h>
+#endif
 
 namespace CodePage
 {
@@ -17,12 +23,109 @@ namespace CodePage
 namespace
 {
 
+bool IsAscii(std::string_view text)
+{
+    return std::none_of(text.begin(), text.end(), [](char c) { return (c & 0x80) != 0; });
+}
+
+}  // namespace
+
+#if defined(_WIN32)
+
+namespace
+{
+
+struct NamedCodePage
+{
+    std::string_view name;
+    UINT codePage;
+};
+
+constexpr std::array<NamedCodePage, 12> kCodePages{{{"UTF-8", CP_UTF8},
+                                                    {"GBK", 936},
+                                                    {"GB2312", 936},
+                                                    {"GB18030", 54936},
+                                                    {"BIG5", 950},
+                                                    {"SHIFT_JIS", 932},
+                                                    {"EUC-JP", 20932},
+                                                    {"EUC-KR", 949},
+                                                    {"KOI8-R", 20866},
+                                                    {"ISO-8859-1", 28591},
+                                                    {"ISO-8859-15", 28605},
+                                                    {"WINDOWS-1252", 1252}}};
+
+int Size(std::size_t size)
+{
+    if (size > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        throw std::bad_alloc();
+    }
+    return static_cast<int>(size);
+}
+
+std::string Convert(std::string_view text, UINT from, UINT to)
+{
+    if (text.empty()) {
+        return {};
+    }
+    const int size = Size(text.size());
+    const int wideSize = MultiByteToWideChar(from, 0, text.data(), size, nullptr, 0);
+    std::wstring wide(static_cast<std::size_t>(wideSize), L'\0');
+    MultiByteToWideChar(from, 0, text.data(), size, wide.data(), wideSize);
+    const int bytes =
+        WideCharToMultiByte(to, 0, wide.data(), wideSize, nullptr, 0, nullptr, nullptr);
+    std::string converted(static_cast<std::size_t>(bytes), '\0');
+    WideCharToMultiByte(to, 0, wide.data(), wideSize, converted.data(), bytes, nullptr, nullptr);
+    return converted;
+}
+
+const NamedCodePage* FindCodePage(const char* codeSet)
+{
+    const auto* found =
+        std::find_if(kCodePages.begin(), kCodePages.end(), [codeSet](const NamedCodePage& page) {
+            return codeSet != nullptr && _stricmp(page.name.data(), codeSet) == 0;
+        });
+    return found == kCodePages.end() ? nullptr : found;
+}
+
+}  // namespace
+
+std::string AnsiToUtf8(std::string_view text)
+{
+    return IsAscii(text) ? std::string(text) : Convert(text, CP_ACP, CP_UTF8);
+}
+
+std::string Utf8ToAnsi(std::string_view utf8)
+{
+    return IsAscii(utf8) ? std::string(utf8) : Convert(utf8, CP_UTF8, CP_ACP);
+}
+
+std::string ToUtf8(std::string_view text, const char* codeSet)
+{
+    const NamedCodePage* page = FindCodePage(codeSet);
+    return page != nullptr ? Convert(text, page->codePage, CP_UTF8) : std::string();
+}
+
+std::string FromUtf8(std::string_view utf8, const char* codeSet)
+{
+    const NamedCodePage* page = FindCodePage(codeSet);
+    return page != nullptr ? Convert(utf8, CP_UTF8, page->codePage) : std::string();
+}
+
+#else
+
+namespace
+{
+
+constexpr const char* kUtf8 = "UTF-8";
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD in UTF-8
 
 class Converter
 {
 public:
-    Converter(const char* to, const char* from) : handle_(iconv_open(to, from)) {}
+    Converter(const char* to, const char* from)
+        : handle_(to != nullptr && from != nullptr ? iconv_open(to, from) : kNone)
+    {
+    }
     ~Converter()
     {
         if (*this) {
@@ -32,10 +135,7 @@ public:
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
 
-    explicit operator bool() const
-    {
-        return handle_ != reinterpret_cast<iconv_t>(-1);  // NOLINT: iconv's own error value
-    }
+    explicit operator bool() const { return handle_ != kNone; }
 
     /// Converts as much as can be, appends it to `out` and takes it off `in`. False: `in` now
     /// begins with something that cannot be converted.
@@ -49,7 +149,7 @@ public:
             error = Step(&from, &left, out);
         } while (error == E2BIG);
         in.remove_prefix(in.size() - left);
-        return error == 0;
+        return error == 0 || in.empty();
     }
 
     /// Appends what a code set with shift states needs at the end of a text.
@@ -67,13 +167,10 @@ private:
         return error;
     }
 
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): iconv's own error value
+    static inline const iconv_t kNone = reinterpret_cast<iconv_t>(-1);
     iconv_t handle_;
 };
-
-bool IsAscii(std::string_view text)
-{
-    return std::none_of(text.begin(), text.end(), [](char c) { return (c & 0x80) != 0; });
-}
 
 /// Bytes of the well-formed character at the beginning of UTF-8 text.
 std::size_t CharacterLength(std::string_view utf8)
@@ -85,6 +182,29 @@ std::size_t CharacterLength(std::string_view utf8)
     return length;
 }
 
+/// iconv passes what the first UTF-8 had beyond U+10FFFF: each byte of such text is a bad one.
+std::string WithoutBeyondUnicode(std::string utf8)
+{
+    const std::string_view text = utf8;
+    const auto isBeyond = [text](std::size_t at) {
+        const auto lead = static_cast<unsigned char>(text[at]);
+        return lead > 0xF4 || (lead == 0xF4 && static_cast<unsigned char>(text[at + 1]) > 0x8F);
+    };
+    std::string cleaned;
+    std::size_t kept = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (isBeyond(at)) {
+            cleaned.append(text.substr(kept, at - kept));
+            kept = at + CharacterLength(text.substr(at));
+            for (; at < kept; ++at) {
+                cleaned.append(kReplacement);
+            }
+            --at;
+        }
+    }
+    return kept == 0 ? std::move(utf8) : cleaned.append(text.substr(kept));
+}
+
 /// The code set of the calling thread's locale. The plain "C" locale says US-ASCII: a client that
 /// never chose a locale works in UTF-8.
 const char* AnsiCodeSet()
@@ -93,7 +213,7 @@ const char* AnsiCodeSet()
     const std::string_view name = codeSet;
     const bool isUnset = name.empty() || name == "ANSI_X3.4-1968" || name == "US-ASCII" ||
                          name == "646" || name == "ASCII";
-    return isUnset ? "UTF-8" : codeSet;
+    return isUnset ? kUtf8 : codeSet;
 }
 
 }  // namespace
@@ -103,15 +223,23 @@ std::string AnsiToUtf8(std::string_view text)
     if (IsAscii(text)) {
         return std::string(text);
     }
-    const char* codeSet = AnsiCodeSet();
-    const std::string converted = ToUtf8(text, codeSet);
-    return converted.empty() ? ToUtf8(text, "UTF-8") : converted;
+    const std::string converted = ToUtf8(text, AnsiCodeSet());
+    return converted.empty() ? ToUtf8(text, kUtf8) : converted;
+}
+
+std::string Utf8ToAnsi(std::string_view utf8)
+{
+    if (IsAscii(utf8)) {
+        return std::string(utf8);
+    }
+    const std::string converted = FromUtf8(utf8, AnsiCodeSet());
+    return converted.empty() ? ToUtf8(utf8, kUtf8) : converted;
 }
 
 std::string ToUtf8(std::string_view text, const char* codeSet)
 {
     std::string utf8;
-    Converter converter("UTF-8", codeSet);
+    Converter converter(kUtf8, codeSet);
     if (!converter) {
         return utf8;
     }
@@ -122,27 +250,27 @@ std::string ToUtf8(std::string_view text, const char* codeSet)
         text.remove_prefix(1);
     }
     converter.Finish(utf8);
-    return utf8;
+    return WithoutBeyondUnicode(std::move(utf8));
 }
 
-std::string Utf8ToAnsi(std::string_view utf8)
+std::string FromUtf8(std::string_view utf8, const char* codeSet)
 {
-    if (IsAscii(utf8)) {
-        return std::string(utf8);
-    }
-    const std::string wellFormed = ToUtf8(utf8, "UTF-8");
-    Converter converter(AnsiCodeSet(), "UTF-8");
+    Converter converter(codeSet, kUtf8);
+    std::string text;
     if (!converter) {
-        return wellFormed;
+        return text;
     }
+    // What is not UTF-8 becomes U+FFFD first, so what stops the converter is a whole character.
+    const std::string wellFormed = ToUtf8(utf8, kUtf8);
     std::string_view rest = wellFormed;
-    std::string ansi;
-    while (!converter.Append(rest, ansi)) {
-        ansi.push_back('?');
+    while (!converter.Append(rest, text)) {
+        text.push_back('?');
         rest.remove_prefix(CharacterLength(rest));
     }
-    converter.Finish(ansi);
-    return ansi;
+    converter.Finish(text);
+    return text;
 }
+
+#endif
 
 }  // namespace CodePage

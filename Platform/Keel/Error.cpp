@@ -8,9 +8,22 @@ namespace Keel::Error
 namespace
 {
 
-ErrorCode& LastError()
+/// Set when the thread's last error is gone: static objects outlive that of the main thread.
+thread_local bool isGone = false;
+
+struct LastError
 {
-    thread_local ErrorCode lastError;
+    LastError() = default;
+    ~LastError() { isGone = true; }
+    LastError(const LastError&) = delete;
+    LastError& operator=(const LastError&) = delete;
+
+    ErrorCode code;
+};
+
+LastError& ThreadsLastError()
+{
+    thread_local LastError lastError;
     return lastError;
 }
 
@@ -18,12 +31,15 @@ ErrorCode& LastError()
 
 void SetLastError(const ErrorCode& error)
 {
-    LastError() = error;
+    if (!isGone) {
+        ThreadsLastError().code = error;
+    }
 }
 
 const ErrorCode& GetLastError()
 {
-    return LastError();
+    static const ErrorCode* const none = new ErrorCode;
+    return isGone ? *none : ThreadsLastError().code;
 }
 
 }  // namespace Keel::Error
