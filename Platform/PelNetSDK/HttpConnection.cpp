@@ -17,7 +17,7 @@ namespace
 {
 
 // Far beyond any device's; a server that sends headers for ever is none.
-constexpr std::size_t kMostHeaderBytes = 1024 * 1024;
+constexpr std::size_t kMostHeaderBytes = std::size_t{256} * 1024;
 
 // The request itself and its repeat after a nonce that grew stale.
 constexpr int kMostSent = 2;
@@ -71,7 +71,6 @@ void HttpConnection::Set(CURLoption option, Value value)
 HttpConnection::HttpConnection(const HttpSettings& settings, const std::atomic<bool>& cancelled)
     : base_(settings.base),
       cancelled_(cancelled),
-      receiveTimeout_(settings.receiveTimeout),
       hasCredentials_(!settings.user.empty() || !settings.password.empty()),
       basicAllowed_(settings.secure || settings.allowBasic),
       handle_(curl_easy_init())
@@ -130,31 +129,26 @@ void HttpConnection::SetCallbacks()
     Set(CURLOPT_XFERINFODATA, this);
 }
 
-unsigned HttpConnection::Exchange(const TransportRequest& request, TransportAnswer& answer)
+unsigned HttpConnection::Exchange(const TransportRequest& request, TransportAnswer& answer,
+                                  Clock::time_point deadline)
 {
-    const auto timeout = request.receiveTimeout > 0
-                             ? std::chrono::milliseconds(request.receiveTimeout)
-                             : receiveTimeout_;
-    const Clock::time_point deadline = Clock::now() + timeout;
     unsigned error = Perform(request, answer, deadline);
     if (error == NET_ORB_NOERROR && answer.status == 401 && TakeChallenge()) {
         answer.body.Clear();
         error = Perform(request, answer, deadline);
     }
-    answer.passwordChecked = scheme_ != CURLAUTH_NONE && answer.status != 401;
+    answer.passwordChecked = KnowsChallenge() && answer.status != 401;
     return error;
 }
 
-/// Whether to answer the device's challenge: at first, and when the device forgot the nonce that
-/// it gave before, as after a restart. A password that was refused is not sent again.
+/// Chooses how to answer the device's first challenge; false when there is no answer to it.
 bool HttpConnection::TakeChallenge()
 {
     long offered = CURLAUTH_NONE;
     curl_easy_getinfo(handle_.get(), CURLINFO_HTTPAUTH_AVAIL, &offered);
     const bool digest = (offered & static_cast<long>(CURLAUTH_DIGEST)) != 0;
     const bool basic = (offered & static_cast<long>(CURLAUTH_BASIC)) != 0 && basicAllowed_;
-    const bool first = scheme_ == CURLAUTH_NONE;
-    if (!hasCredentials_ || requestsSent_ > 1 || !(digest || (basic && first))) {
+    if (!hasCredentials_ || KnowsChallenge() || !(digest || basic)) {
         return false;
     }
     scheme_ = static_cast<long>(digest ? CURLAUTH_DIGEST : CURLAUTH_BASIC);

@@ -37,13 +37,19 @@ public:
     /// `cancelled` outlives the connection. Throws std::bad_alloc.
     HttpConnection(const HttpSettings& settings, const std::atomic<bool>& cancelled);
 
-    /// As Transport::Exchange. A request other than GET reaches the device once at most, save that
-    /// a device which answers it with a challenge is sent it again.
-    unsigned Exchange(const TransportRequest& request, TransportAnswer& answer);
-
-private:
     using Clock = std::chrono::steady_clock;
 
+    /// As Transport::Exchange, over at the deadline. An answer of 401 is final: the connection is
+    /// of no use afterwards, for libcurl misreads the next challenge. A request other than GET
+    /// reaches the device once at most, save that a device which answers it with a challenge is
+    /// sent it again.
+    unsigned Exchange(const TransportRequest& request, TransportAnswer& answer,
+                      Clock::time_point deadline);
+
+    /// Whether the device has challenged this connection, and its requests carry the answer.
+    [[nodiscard]] bool KnowsChallenge() const { return scheme_ != CURLAUTH_NONE; }
+
+private:
     /// Why a callback ended the transfer, as an error number.
     static constexpr unsigned kNotStopped = 0;
 
@@ -71,7 +77,6 @@ private:
     std::array<char, CURL_ERROR_SIZE> detail_{};
     const std::string base_;
     const std::atomic<bool>& cancelled_;
-    const std::chrono::milliseconds receiveTimeout_;
     const bool hasCredentials_;
     const bool basicAllowed_;
     long scheme_ = CURLAUTH_NONE;  ///< chosen from the device's challenge

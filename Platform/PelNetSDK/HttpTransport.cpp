@@ -97,39 +97,65 @@ HttpTransport::~HttpTransport()
 
 unsigned HttpTransport::Exchange(const TransportRequest& request, TransportAnswer& answer)
 {
+    const auto timeout = request.receiveTimeout > 0
+                             ? std::chrono::milliseconds(request.receiveTimeout)
+                             : settings_.receiveTimeout;
+    const HttpConnection::Clock::time_point deadline = HttpConnection::Clock::now() + timeout;
     std::unique_ptr<HttpConnection> connection = Take();
     if (!connection) {
         return NET_ORB_CANCELLED;
     }
-    const unsigned error = connection->Exchange(request, answer);
-    GiveBack(std::move(connection));
+    const bool knewChallenge = connection->KnowsChallenge();
+    const auto challenged = [&](unsigned result) {
+        return result == NET_ORB_NOERROR && answer.status == 401;
+    };
+    unsigned error = connection->Exchange(request, answer, deadline);
+    if (challenged(error) && knewChallenge) {
+        // A device that restarted has forgotten its nonce; the password may still be right.
+        connection = Make();
+        if (!connection) {
+            return NET_ORB_CANCELLED;
+        }
+        answer.body.Clear();
+        error = connection->Exchange(request, answer, deadline);
+    }
+    if (!challenged(error) && error != NET_ORB_PASSWORD_ERROR) {
+        GiveBack(std::move(connection));
+    }
     return error;
 }
 
 std::unique_ptr<HttpConnection> HttpTransport::Take()
 {
+    {
+        const std::lock_guard lock(mutex_);
+        if (!idle_.empty()) {
+            auto connection = std::move(idle_.back());
+            idle_.pop_back();
+            return connection;
+        }
+    }
+    return Make();
+}
+
+std::unique_ptr<HttpConnection> HttpTransport::Make()
+{
     const std::lock_guard lock(mutex_);
+    // The password is wiped by then.
     if (cancelled_) {
         return nullptr;
     }
-    if (idle_.empty()) {
-        auto connection = std::make_unique<HttpConnection>(settings_, cancelled_);
-        idle_.reserve(made_ + 1);
-        ++made_;
-        return connection;
-    }
-    auto connection = std::move(idle_.back());
-    idle_.pop_back();
-    return connection;
+    return std::make_unique<HttpConnection>(settings_, cancelled_);
 }
 
 void HttpTransport::GiveBack(std::unique_ptr<HttpConnection> connection) noexcept
-{
+try {
     const std::lock_guard lock(mutex_);
-    // The room was made when the connection was.
     if (!cancelled_) {
         idle_.push_back(std::move(connection));
     }
+} catch (const std::bad_alloc&) {
+    // The exchange succeeded all the same; the next one opens a connection of its own.
 }
 
 void HttpTransport::Cancel() noexcept

@@ -30,14 +30,15 @@ public:
     void Cancel() noexcept override;
 
 private:
+    /// An idle connection or a new one; null once cancelled.
     [[nodiscard]] std::unique_ptr<HttpConnection> Take();
+    [[nodiscard]] std::unique_ptr<HttpConnection> Make();
     void GiveBack(std::unique_ptr<HttpConnection> connection) noexcept;
 
     std::atomic<bool> cancelled_{false};
     std::mutex mutex_;
     HttpSettings settings_;
     std::vector<std::unique_ptr<HttpConnection>> idle_;
-    std::size_t made_ = 0;
 };
 
 }  // namespace PelNet
