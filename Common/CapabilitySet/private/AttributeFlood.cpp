@@ -15,9 +15,11 @@ namespace
 constexpr std::size_t kSmallestFlood = 64 * 1024;
 
 /// Whether a tag has more attributes than allowed. No '<' can stand inside a tag, so that each one
-/// is judged by itself, whatever precedes it.
+/// is judged by itself, whatever precedes it. What '!' and '?' begin holds text, quotes and all.
 bool IsFlooded(std::string_view tag)
 {
+    if (!tag.empty() && (tag.front() == '!' || tag.front() == '?'))
+        return false;
     int attributes = 0;
     char quote = '\0';
     for (const char c : tag) {
@@ -41,8 +43,9 @@ bool ShowsItsTags(std::string_view text)
     if (text.substr(0, 3) == "\xEF\xBB\xBF")
         text.remove_prefix(3);
     text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+    // The parser refuses what does not begin with '<', but for one encoding that it guesses.
     if (text.empty() || text.front() != '<')
-        return false;
+        return text.substr(0, 4) != "\x4C\x6F\xA7\x94";
     std::string_view declaration = text.substr(0, std::min(text.find("?>"), text.size()));
     declaration = declaration.substr(0, std::min(declaration.find('>'), declaration.size()));
     const std::size_t encoding = declaration.find("encoding");

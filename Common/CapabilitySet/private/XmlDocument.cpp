@@ -19,6 +19,9 @@ namespace
 /// A kept dictionary beyond this is given back: a device could fill it with names.
 constexpr std::size_t kMostDictionaryBytes = 256 * 1024;
 
+/// Values that a document gives its elements by declaration, at most.
+constexpr std::size_t kMostDefaultedBytes = 64 * 1024;
+
 struct FreeContext
 {
     void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
@@ -29,12 +32,33 @@ constexpr const char* kFlood = "An element has more than 1000 attributes";
 
 void IgnoreError(void* /*context*/, xmlErrorPtr /*error*/) {}
 
+/// Parts of the parser report past its context, to the thread's handlers: the client's, or stderr.
+/// Their place is taken while a document is parsed.
+class SilentThread
+{
+public:
+    SilentThread() : handler_(xmlStructuredError), context_(xmlStructuredErrorContext)
+    {
+        xmlSetStructuredErrorFunc(nullptr, IgnoreError);
+    }
+    ~SilentThread() { xmlSetStructuredErrorFunc(context_, handler_); }
+    SilentThread(const SilentThread&) = delete;
+    SilentThread& operator=(const SilentThread&) = delete;
+
+private:
+    xmlStructuredErrorFunc handler_;
+    void* context_;
+};
+
 /// Why a hook refused the document being parsed on this thread; no message when none did.
 thread_local struct
 {
     int line;
     const char* message;
 } refusal;
+
+/// Bytes of attributes that the document being parsed on this thread has by declaration alone.
+thread_local std::size_t defaulted;
 
 /// Ends the parse: the document counts as one that is not well-formed.
 void Refuse(xmlParserCtxt* context, const char* why)
@@ -44,18 +68,43 @@ void Refuse(xmlParserCtxt* context, const char* why)
     context->wellFormed = 0;
 }
 
+constexpr const char* kEntities = "The document declares entities";
+
 void RefuseEntity(void* context, const xmlChar* /*name*/, int /*type*/, const xmlChar* /*publicId*/,
                   const xmlChar* /*systemId*/, xmlChar* /*content*/)
 {
-    Refuse(static_cast<xmlParserCtxt*>(context), "The document declares entities");
+    Refuse(static_cast<xmlParserCtxt*>(context), kEntities);
+}
+
+void RefuseUnparsedEntity(void* context, const xmlChar* /*name*/, const xmlChar* /*publicId*/,
+                          const xmlChar* /*systemId*/, const xmlChar* /*notation*/)
+{
+    Refuse(static_cast<xmlParserCtxt*>(context), kEntities);
+}
+
+/// Declared values, up to the size that is allowed, for each element of a name: a few kilobytes of
+/// document can stand for gigabytes of attributes.
+bool DefaultsTooMuch(int defaultedCount, int attributeCount, const xmlChar** attributes)
+{
+    std::size_t bytes = static_cast<std::size_t>(defaultedCount);
+    for (int i = attributeCount - defaultedCount; i < attributeCount; ++i)
+        bytes += static_cast<std::size_t>(attributes[5 * i + 4] - attributes[5 * i + 3]);
+    defaulted += bytes;
+    return defaulted > kMostDefaultedBytes;
 }
 
 void StartElement(void* context, const xmlChar* localName, const xmlChar* prefix,
                   const xmlChar* uri, int namespaceCount, const xmlChar** namespaces,
                   int attributeCount, int defaultedCount, const xmlChar** attributes)
 {
-    if (attributeCount > kMostAttributes || namespaceCount > kMostAttributes) {
-        Refuse(static_cast<xmlParserCtxt*>(context), kFlood);
+    auto* const parser = static_cast<xmlParserCtxt*>(context);
+    // Names are looked up among all namespaces in scope, each element's own and its parents'.
+    if (attributeCount > kMostAttributes || parser->nsNr / 2 > kMostAttributes) {
+        Refuse(parser, kFlood);
+        return;
+    }
+    if (defaultedCount > 0 && DefaultsTooMuch(defaultedCount, attributeCount, attributes)) {
+        Refuse(parser, "The document declares values for too many attributes");
         return;
     }
     xmlSAX2StartElementNs(context, localName, prefix, uri, namespaceCount, namespaces,
@@ -80,6 +129,7 @@ Context NewContext(Form form)
     context->sax->ignorableWhitespace = blankFree ? xmlSAX2IgnorableWhitespace : xmlSAX2Characters;
     context->sax->serror = IgnoreError;
     context->sax->entityDecl = RefuseEntity;
+    context->sax->unparsedEntityDecl = RefuseUnparsedEntity;
     context->sax->startElementNs = StartElement;
     return context;
 }
@@ -127,8 +177,10 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
 {
     thread_local Context kept[2];
     Context context = std::move(kept[static_cast<int>(form)]);
+    const SilentThread silent;
     xmlResetLastError();
     refusal = {};
+    defaulted = 0;
     const std::size_t length = std::strlen(text.c_str());
     if (HoldsAttributeFlood({text.c_str(), length})) {
         problem.message = kFlood;
