@@ -233,6 +233,8 @@ TEST_F(KeelLogTest, EndsWhenStaticObjectsStillLog)
 TEST_F(KeelLogTest, KeepsLinesOfManyThreadsWhole)
 {
     const std::string output = OutputOf([] {
+        // ThreadSanitizer does not see how log4cxx, built without it, guards its first use.
+        Log().Info("", "too early", Here());
         std::vector<std::thread> threads;
         for (int i = 0; i < 4; ++i) {
             threads.emplace_back([i] {

@@ -22,8 +22,11 @@ enum class LogLevel
 };
 
 /// Writes log lines through log4cxx. A tag is the name of a log4cxx logger; the empty tag is the
-/// logger "Keel". While the client has not configured log4cxx nothing is written anywhere.
-/// All members may be called from any thread. Reached through CSingleton<CLog>::Instance().
+/// logger "Keel". Messages are UTF-8. While the client has not configured log4cxx nothing is
+/// written anywhere and log4cxx is not made to look for a configuration; the same holds where no
+/// appender takes a line, and once static objects of the process are destroyed. All members may be
+/// called from any thread and throw nothing; a line that cannot be written is lost.
+/// Reached through CSingleton<CLog>::Instance().
 class KEEL_API CLog
 {
 public:
