@@ -3,7 +3,8 @@ set(CPACK_GENERATOR "DEB;TGZ")
 set(CPACK_PACKAGE_NAME capabilityset)
 set(CPACK_PACKAGE_VENDOR "CapabilitySet")
 set(CPACK_PACKAGE_CONTACT "CapabilitySet maintainers <maintainers@capabilityset.invalid>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+# Each package has a whole description of its own; a summary here would be put before it.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_PACKAGING_INSTALL_PREFIX "${CMAKE_INSTALL_PREFIX}")
 set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
 set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
@@ -24,10 +25,12 @@ set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS OFF)
 set(runtime libcapabilityset${PROJECT_VERSION_MAJOR})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+file(WRITE ${PROJECT_BINARY_DIR}/debian/triggers "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_BINARY_DIR}/debian/triggers")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
     "Capabilities of video-security devices, shared libraries
- Asks a network camera, recorder, alarm host or managed switch what it can do
- and hands the answers to a client as plain C++ records.")
+Asks a network camera, recorder, alarm host or managed switch what it can do
+and hands the answers to a client as plain C++ records.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libcapabilityset-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
@@ -36,14 +39,14 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "libcurl4-openssl-dev")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
     "Capabilities of video-security devices, development files
- Headers, static libraries, CMake package and pkg-config files of the library
- that hands the capabilities of video-security devices to a client.")
+Headers, static libraries, CMake package and pkg-config files of the library
+that hands the capabilities of video-security devices to a client.")
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME capset)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
 set(CPACK_COMPONENT_TOOL_DESCRIPTION
     "Shows what a video-security device can do
- Asks a device on the network, or a simulated one in its own process, and
- prints its capability records as tables or JSON.")
+Asks a device on the network, or a simulated one in its own process, and
+prints its capability records as tables or JSON.")
 
 # What every Debian package carries under share/doc.
 if(CAPABILITYSET_DEBIAN_DOCS)
