@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <json/json.h>
 #include <libxml/parser.h>
 #include <stdlib.h>
 
