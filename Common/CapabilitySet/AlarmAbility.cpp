@@ -1,14 +1,46 @@
-// What a device's wireless and call-for-help alarms can do.
+// What a channel's wireless, infrared and call-for-help alarms can do.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/AlarmAbility.h"
 
 #include <memory>
 
+#include "CapabilitySet/private/ParseToSDK.h"
 #include "CapabilitySet/private/QueryFrame.h"
 #include "CapabilitySet/private/RequestXml.h"
+#include "CapabilitySet/private/XmlFields.h"
 
 namespace CapabilitySet
 {
+
+void PIRAlarm::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void WirelessAlarm::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void CallHelpAlarm::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void channelEntry::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void AlarmAbility::Parse(const std::string& text)
+{
+    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE);
+}
+
+void AlarmAbility::Parse(_xmlNode* element)
+{
+    xml::ParseNode(*this, element);
+}
 
 bool AlarmAbility::GetAlarmAbility(AlarmAbility& out, unsigned int& err, const int userID,
                                    const unsigned int channel)
@@ -21,6 +53,7 @@ bool AlarmAbility::GetAlarmAbility(AlarmAbility& out, unsigned int& err, const i
         if (!query::ToProtocolChannel(operation, userID, static_cast<int>(channel), protocolChannel,
                                       err))
             return nullptr;
+        SetAlarmQueryHandle(userID);
         return std::make_unique<query::DeviceAbilityRequest>(
             userID, 10, query::RequestXml(kRoot).Child("channelID", protocolChannel).Text());
     });

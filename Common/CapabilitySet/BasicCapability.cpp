@@ -66,7 +66,7 @@ void SoftwareCapability::Parse(_xmlNode* firstChild)
 
 void BasicCapability::Parse(const std::string& text)
 {
-    xml::ParseDocument(*this, text, "BasicCapability", CAPABILITYSET_HERE);
+    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE);
 }
 
 void BasicCapability::Parse(_xmlNode* element)

@@ -460,6 +460,8 @@ struct CAPABILITYSET_API SoftwareCapability
 /// The device's basic ability document.
 struct CAPABILITYSET_API BasicCapability
 {
+    static constexpr const char* kRoot = "BasicCapability";
+
     bool valid = false;  ///< either part read at least one element
     HardwareCapability hardware;
     SoftwareCapability software;

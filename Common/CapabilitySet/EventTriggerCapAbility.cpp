@@ -3,17 +3,56 @@
 #include "CapabilitySet/EventTriggerCapAbility.h"
 
 #include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/XmlFields.h"
 
 namespace CapabilitySet
 {
+
+void EventTriggerCapType::Parse(_xmlNode* element)
+{
+    xml::ParseNode(*this, element);
+}
+
+void EventTriggerCap::Parse(const std::string& text)
+{
+    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE);
+}
+
+void EventTriggerCap::Parse(_xmlNode* element)
+{
+    xml::ParseNode(*this, element);
+}
+
+void EventTARNAbility::Parse(const std::string& text)
+{
+    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE);
+}
+
+void EventTARNAbility::Parse(_xmlNode* element)
+{
+    xml::ParseNode(*this, element);
+}
+
+void ChannelEventAbility::Parse(const std::string& text)
+{
+    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE);
+}
+
+void ChannelEventAbility::Parse(_xmlNode* element)
+{
+    xml::ParseNode(*this, element);
+}
 
 bool EventTriggerCap::GetEventTriggerCapAbility(EventTriggerCap& out, unsigned int err, int userID,
                                                 unsigned int channel)
 {
     return query::Fill(out, err,
                        {.place = CAPABILITYSET_HERE,
-                        .name = "GetEventTriggerCapAbility",
-                        .growth = query::kStandardAbilityGrowth},
+                        // Kept: support staff search traces for this name, another operation's.
+                        .name = "GetScurityAbility",
+                        .growth = {16384, 16384, 16384000},
+                        .failedCall = "NET_ORB_STDXMLConfig",
+                        .needsFlag = true},
                        [&] { return query::StandardAbilityRequest(userID, 3501, channel); });
 }
 

@@ -75,6 +75,13 @@ RecordNode Node(std::string name, const Member& value)
     return Whole(std::move(name), value);
 }
 
+template <class Member>
+    requires std::is_enum_v<Member>
+RecordNode Node(std::string name, const Member& value)
+{
+    return Whole(std::move(name), static_cast<std::underlying_type_t<Member>>(value));
+}
+
 template <std::floating_point Member>
 RecordNode Node(std::string name, const Member& value)
 {

@@ -2,7 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-namespace CapabilitySet::as
+namespace CapabilitySet
+{
+
+struct OptionCodes;
+
+namespace as
 {
 
 /// What the type itself tells; the same as no tag.
@@ -47,4 +52,52 @@ struct Items
     const char* item;
 };
 
-}  // namespace CapabilitySet::as
+/// A number that is read but does not make its record count as read.
+struct Quiet
+{
+};
+inline constexpr Quiet quiet;
+
+/// A flag announced by options: whether the first entry of "opt" is "true".
+struct FirstOption
+{
+};
+inline constexpr FirstOption firstOption;
+
+/// A flag that is true for exactly the text "true".
+struct TextFlag
+{
+};
+inline constexpr TextFlag textFlag;
+
+/// A flag for the texts "true" and "false"; any other leaves it as it is.
+struct TrueOrFalse
+{
+};
+inline constexpr TrueOrFalse trueOrFalse;
+
+/// Options that stand for codes of a table.
+struct Codes
+{
+    const OptionCodes& table;
+};
+
+/// Alarm handling options; in the answer to an alarm ability query with that query's login.
+struct HandleTypes
+{
+    bool withAlarmLogin;
+};
+inline constexpr HandleTypes handleTypes{false};
+inline constexpr HandleTypes handleTypesOfLogin{true};
+
+/// A value with a companion flag that is set when it was read.
+template <class Flag>
+struct Noted
+{
+    Flag& flag;
+};
+template <class Flag>
+Noted(Flag&) -> Noted<Flag>;
+
+}  // namespace as
+}  // namespace CapabilitySet

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/OptionTypes.h"
 #include "CapabilitySet/private/FieldIndex.h"
 #include "CapabilitySet/private/FieldTags.h"
 #include "CapabilitySet/private/XmlDocument.h"
@@ -104,6 +105,19 @@ inline bool ReadValue(xmlNode* /*node*/, bool& value, as::Marker /*how*/)
 }
 
 bool ReadValue(xmlNode* node, bool& value, as::EnabledFlag how);
+bool ReadValue(xmlNode* node, bool& value, as::FirstOption how);
+bool ReadValue(xmlNode* node, bool& value, as::TextFlag how);
+bool ReadValue(xmlNode* node, bool& value, as::TrueOrFalse how);
+bool ReadValue(xmlNode* node, unsigned int& value, as::Quiet how);
+bool ReadValue(xmlNode* node, std::vector<int>& codes, as::Codes how);
+bool ReadValue(xmlNode* node, std::vector<AlarmHandleType::HandleType>& types, as::HandleTypes how);
+
+template <class Value>
+bool ReadValue(xmlNode* node, Value& value, as::Noted<bool> how)
+{
+    how.flag = true;
+    return ReadValue(node, value, as::plain);
+}
 
 inline bool ReadValue(xmlNode* node, MinMaxElement& value, as::Attributes /*how*/)
 {
@@ -124,28 +138,35 @@ bool ReadValue(xmlNode* node, Nested& value, as::Plain /*how*/)
 
 /// Appends the elements of this name, from `first` on among its siblings.
 template <class Item>
-bool AppendItems(xmlNode* first, const char* name, std::vector<std::shared_ptr<Item>>& items)
+void AppendItems(xmlNode* first, const char* name, std::vector<Item>& items)
 {
-    xmlNode* cursor = first;
-    const std::size_t before = items.size();
-    while (NextElementNamed(cursor, name)) {
+    for (xmlNode* cursor = first; NextElementNamed(cursor, name); cursor = cursor->next) {
+        Item item{};
+        ReadValue(cursor, item, as::plain);
+        items.push_back(std::move(item));
+    }
+}
+
+template <class Item>
+void AppendItems(xmlNode* first, const char* name, std::vector<std::shared_ptr<Item>>& items)
+{
+    for (xmlNode* cursor = first; NextElementNamed(cursor, name); cursor = cursor->next) {
         auto item = std::make_shared<Item>();
         ReadValue(cursor, *item, as::plain);
         items.push_back(std::move(item));
-        cursor = cursor->next;
     }
-    return items.size() > before;
 }
 
 template <class Item>
-bool ReadValue(xmlNode* first, std::vector<std::shared_ptr<Item>>& items, as::Repeated /*how*/)
+bool ReadValue(xmlNode* first, std::vector<Item>& items, as::Repeated /*how*/)
 {
     // The name is that of the first item: the field's own.
-    return AppendItems(first, reinterpret_cast<const char*>(first->name), items);
+    AppendItems(first, reinterpret_cast<const char*>(first->name), items);
+    return true;
 }
 
 template <class Item>
-bool ReadValue(xmlNode* list, std::vector<std::shared_ptr<Item>>& items, as::Items how)
+bool ReadValue(xmlNode* list, std::vector<Item>& items, as::Items how)
 {
     AppendItems(list->children, how.item, items);
     return true;
@@ -198,6 +219,12 @@ public:
 
     /// Whether a field was read that counts.
     [[nodiscard]] bool Read() const { return read_; }
+
+    /// Whether the field's element was found.
+    [[nodiscard]] bool Found(const char* name) const
+    {
+        return matches_[IndexOf<Record>().Find(name)] != nullptr;
+    }
 
 private:
     FieldMatches matches_;
