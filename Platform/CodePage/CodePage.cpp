@@ -123,7 +123,7 @@ class Converter
 {
 public:
     Converter(const char* to, const char* from)
-        : handle_(to != nullptr && from != nullptr ? iconv_open(to, from) : kNone)
+        : handle_(to != nullptr && from != nullptr ? iconv_open(to, from) : None())
     {
     }
     ~Converter()
@@ -135,7 +135,7 @@ public:
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
 
-    explicit operator bool() const { return handle_ != kNone; }
+    explicit operator bool() const { return handle_ != None(); }
 
     /// Converts as much as can be, appends it to `out` and takes it off `in`. False: `in` now
     /// begins with something that cannot be converted.
@@ -156,6 +156,9 @@ public:
     void Finish(std::string& out) { Step(nullptr, nullptr, out); }
 
 private:
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): iconv's own error value
+    static iconv_t None() { return reinterpret_cast<iconv_t>(-1); }
+
     int Step(char** from, std::size_t* left, std::string& out)
     {
         std::array<char, 1024> piece;
@@ -167,8 +170,6 @@ private:
         return error;
     }
 
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): iconv's own error value
-    static inline const iconv_t kNone = reinterpret_cast<iconv_t>(-1);
     iconv_t handle_;
 };
 
@@ -209,6 +210,7 @@ std::string WithoutBeyondUnicode(std::string utf8)
 /// never chose a locale works in UTF-8.
 const char* AnsiCodeSet()
 {
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): races only with a client that changes its locale
     const char* codeSet = nl_langinfo(CODESET);
     const std::string_view name = codeSet;
     const bool isUnset = name.empty() || name == "ANSI_X3.4-1968" || name == "US-ASCII" ||

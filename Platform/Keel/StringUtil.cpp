@@ -22,6 +22,7 @@ std::string FormatStringV(const char* format, std::va_list arguments)
     std::va_list again;
     va_copy(again, arguments);
     std::array<char, 512> common;
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): every caller has started the list
     const int length = std::vsnprintf(common.data(), common.size(), format, arguments);
     std::string text;
     if (length >= 0 && static_cast<std::size_t>(length) < common.size()) {
