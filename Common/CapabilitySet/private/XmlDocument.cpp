@@ -19,6 +19,10 @@ namespace
 /// A kept dictionary beyond this is given back: a device could fill it with names.
 constexpr std::size_t kMostDictionaryBytes = 256 * 1024;
 
+/// Names of one document, in bytes: a hundred thousand and more. The dictionary's time grows with
+/// their square.
+constexpr std::size_t kLargestDictionary = 1024 * 1024;
+
 /// Values that a document gives its elements by declaration, at most.
 constexpr std::size_t kMostDefaultedBytes = 64 * 1024;
 
@@ -120,6 +124,7 @@ Context NewContext(Form form)
     const bool blankFree = form == Form::BlankFree;
     context->options = XML_PARSE_COMPACT | (blankFree ? XML_PARSE_NOBLANKS : 0);
     context->dictNames = 1;
+    xmlDictSetLimit(context->dict, kLargestDictionary);
     context->keepBlanks = blankFree ? 0 : 1;
     context->replaceEntities = 0;
     context->loadsubset = 0;
