@@ -54,7 +54,7 @@ ScriptedServer::Script AfterLogin(ScriptedServer::Script script)
     };
 }
 
-/// A server that wants a digest: `fresh` says whether this request's nonce will do.
+/// A server that wants a digest and takes any.
 ScriptedServer::Script Digest(std::string body)
 {
     return [body = std::move(body)](const std::string& request, int) {
@@ -264,6 +264,25 @@ TEST_F(SdkHttp, LoginWantsADeviceNotJustAnyWebServer)
         EXPECT_EQ(LoginError(server), c.error) << c.status << ' ' << c.body;
         EXPECT_EQ(server.Requests().size(), 1U);
     }
+}
+
+TEST_F(SdkHttp, ChannelMapOfNonsenseIsNoChannel)
+{
+    std::string answer = "1";
+    const ScriptedServer server([&](const auto&, int) { return Reply{HttpAnswer(200, answer)}; });
+    const LoggedIn device(At(server));
+    for (const auto& [text, error] : std::vector<std::pair<std::string, unsigned>>{
+             {"<html/>", NET_ORB_NETWORK_ERRORDATA},
+             {"", NET_ORB_NETWORK_ERRORDATA},
+             {"99999999999", NET_ORB_NETWORK_ERRORDATA},
+             {std::string(5000, '1'), NET_ORB_NETWORK_ERRORDATA},
+             {"-1", NET_ORB_CHANNEL_ERROR}}) {
+        answer = text;
+        EXPECT_EQ(NET_ORB_SDKChannelToTARN(device.UserID(), 1, 1), -1) << text.substr(0, 20);
+        EXPECT_EQ(NET_ORB_GetLastError(), error) << text.substr(0, 20);
+    }
+    answer = "7\r\n";
+    EXPECT_EQ(NET_ORB_SDKChannelToTARN(device.UserID(), 1, 1), 7);
 }
 
 TEST_F(SdkHttp, RefusalsAreTold)

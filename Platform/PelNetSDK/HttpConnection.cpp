@@ -71,7 +71,7 @@ void HttpConnection::Set(CURLoption option, Value value)
 HttpConnection::HttpConnection(const HttpSettings& settings, const std::atomic<bool>& cancelled)
     : base_(settings.base),
       cancelled_(cancelled),
-      hasCredentials_(!settings.user.empty() || !settings.password.empty()),
+      hasCredentials_(!settings.user.empty() || !settings.password.Empty()),
       basicAllowed_(settings.secure || settings.allowBasic),
       handle_(curl_easy_init())
 {
@@ -111,7 +111,7 @@ void HttpConnection::SetCredentials(const HttpSettings& settings)
     Set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_NONE));
     if (hasCredentials_) {
         Set(CURLOPT_USERNAME, settings.user.c_str());
-        Set(CURLOPT_PASSWORD, settings.password.c_str());
+        Set(CURLOPT_PASSWORD, settings.password.Text());
     }
 }
 

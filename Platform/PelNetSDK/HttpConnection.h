@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 
+#include "PelNetSDK/Secret.h"
 #include "PelNetSDK/Transport.h"
 
 namespace PelNet
@@ -21,7 +22,7 @@ struct HttpSettings
     std::string base;  ///< "http://host:port" or "https://host:port"
     bool secure = false;
     std::string user;
-    std::string password;
+    Secret password;
     std::string certificateFile;  ///< PEM file of trusted certificates, empty: the system's
     bool trustAnyCertificate = false;
     bool allowBasic = false;

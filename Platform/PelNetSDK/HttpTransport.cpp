@@ -33,16 +33,6 @@ std::string Text(const char* text)
     return text == nullptr ? std::string() : std::string(text);
 }
 
-/// Overwrites in a way that the compiler may not leave out.
-void Wipe(std::string& secret) noexcept
-{
-    volatile char* bytes = secret.data();
-    for (std::size_t i = 0; i < secret.size(); ++i) {
-        bytes[i] = '\0';
-    }
-    secret.clear();
-}
-
 }  // namespace
 
 std::optional<HttpSettings> ReadHttpSettings(const tagNET_ORB_LOGIN_INFO& info)
@@ -70,7 +60,7 @@ std::optional<HttpSettings> ReadHttpSettings(const tagNET_ORB_LOGIN_INFO& info)
         return std::nullopt;
     }
     settings.user = Text(info.userName);
-    settings.password = Text(info.password);
+    settings.password = Secret(info.password == nullptr ? "" : info.password);
     settings.trustAnyCertificate = info.trustAnyCertificate != 0;
     settings.allowBasic = info.allowBasic != 0;
     if (info.connectTimeout > 0) {
@@ -88,11 +78,6 @@ HttpTransport::HttpTransport(HttpSettings settings) : settings_(std::move(settin
     if (initialised != CURLE_OK) {
         throw std::bad_alloc();
     }
-}
-
-HttpTransport::~HttpTransport()
-{
-    Wipe(settings_.password);
 }
 
 unsigned HttpTransport::Exchange(const TransportRequest& request, TransportAnswer& answer)
@@ -165,7 +150,7 @@ void HttpTransport::Cancel() noexcept
     {
         const std::lock_guard lock(mutex_);
         idle.swap(idle_);
-        Wipe(settings_.password);
+        settings_.password.Wipe();
     }
 }
 

@@ -24,7 +24,6 @@ class HttpTransport : public Transport
 {
 public:
     explicit HttpTransport(HttpSettings settings);
-    ~HttpTransport() override;
 
     unsigned Exchange(const TransportRequest& request, TransportAnswer& answer) override;
     void Cancel() noexcept override;

@@ -35,10 +35,11 @@ extern "C"
     /* How to reach a device and as whom. Zero-initialise it, then set what is needed. */
     typedef struct tagNET_ORB_LOGIN_INFO
     {
-        /* "sim:" and a profile ("sim:dome") or a profile folder for the simulated device in this
-         * process; "http://host[:port]" or "https://host[:port]" for one on the network. */
+        /* "sim:" and a profile ("sim:dome") or a profile folder for a simulated device in this
+         * process, each login a device of its own; "http://host[:port]" or "https://host[:port]"
+         * for one on the network, without path or credentials. */
         const char* address;
-        const char* userName;        /* null: none */
+        const char* userName;        /* null: none; a simulated device then asks for no password */
         const char* password;        /* null: none; copied, wiped at logout */
         const char* certificateFile; /* PEM file of trusted certificates; null: the system's */
         unsigned int connectTimeout; /* milliseconds, 0: 5,000 */
@@ -49,11 +50,18 @@ extern "C"
     } tagNET_ORB_LOGIN_INFO;
 
     /* Logs a device in: reaches it and checks the password, once. Returns the user ID (0 or
-     * greater), or -1. May be called from any thread; a user ID may be used by any number of
-     * threads at once. */
+     * greater), or -1 with the last error set; at most 512 are in use at a time. May be called from
+     * any thread; a user ID may be used by any number of threads at once, over HTTP each on a
+     * connection of its own.
+     *
+     * The password travels as an answer to the device's challenge only and is tried once. A device
+     * that challenges a session anew (after a restart, or since the password was changed) is
+     * answered once more. The SDK repeats no request but a GET whose kept connection had broken. */
     PELNETSDK_API int NET_ORB_Login(const tagNET_ORB_LOGIN_INFO* info);
 
-    /* Logs out; requests still running on the user ID end with NET_ORB_CANCELLED. */
+    /* Logs out, without waiting; requests still running on the user ID end with NET_ORB_CANCELLED
+     * within about a second, later ones with NET_ORB_NOINIT. Returns 0 when nobody is logged in
+     * under the user ID. */
     PELNETSDK_API int NET_ORB_Logout(int userID);
 
     /* What an error number means, as a sentence without a full stop; static text, never null. */

@@ -70,14 +70,21 @@ int AskChannel(int userID, int channel, int mode)
         "/TARN/SDK/channels/" + std::to_string(channel) + "?mode=" + std::to_string(mode);
     if (Ask(userID, RequestKind::Request, {{"GET", target}, {}, 0},
             {text, sizeof text, nullptr, 0, &length, false}) == 0) {
-        const unsigned error = LastFailure().error;
-        const bool noChannel = error == NET_ORB_NOSUPPORT || error == NET_ORB_DEVICE_REFUSED;
-        return (noChannel ? Fail(NET_ORB_CHANNEL_ERROR) : 0) - 1;
+        switch (LastFailure().error) {
+            case NET_ORB_NOSUPPORT:
+            case NET_ORB_DEVICE_REFUSED:
+                return Fail(NET_ORB_CHANNEL_ERROR) - 1;
+            case NET_ORB_BUFFER_TOO_SMALL:  // whatever it is, it is no number
+                return Fail(NET_ORB_NETWORK_ERRORDATA) - 1;
+            default:
+                return -1;
+        }
     }
     int number = -1;
-    std::from_chars(text, text + length, number);
-    if (number < 0) {
-        return Fail(NET_ORB_CHANNEL_ERROR) - 1;
+    const auto parsed = std::from_chars(text, text + length, number);
+    if (parsed.ec != std::errc() || number < 0) {
+        return Fail(parsed.ec != std::errc() ? NET_ORB_NETWORK_ERRORDATA : NET_ORB_CHANNEL_ERROR) -
+               1;
     }
     session->LearnChannel(channel, mode, number);
     return number;
