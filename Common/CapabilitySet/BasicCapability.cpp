@@ -80,7 +80,7 @@ bool BasicCapability::GetBasicCapability(BasicCapability& out, unsigned int& err
                        {.place = CAPABILITYSET_HERE,
                         .name = "GetBasicCapability",
                         .growth = query::kDeviceAbilityGrowth,
-                        .limitLine = query::LimitLine::TagAlone,
+                        .limit = query::LimitReport::TraceAndTag,
                         .timedAs = "BasicCapability"},
                        [&] { return query::DeviceAbilityRequest(userID, 1); });
 }

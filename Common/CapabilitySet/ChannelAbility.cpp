@@ -38,7 +38,7 @@ bool ChannelInfoAbility::GetChannelInfoAbility(ChannelInfoAbility& out, unsigned
                        {.place = CAPABILITYSET_HERE,
                         .name = "GetChannelInfoAbility",
                         .growth = query::kStandardAbilityGrowth,
-                        .limitLine = query::LimitLine::Whole},
+                        .limit = query::LimitReport::TraceAndWhole},
                        [&] {
                            return query::StandardAbilityRequest(userID, 4360,
                                                                 static_cast<unsigned int>(channel));
@@ -106,6 +106,7 @@ bool CustomStreamCap::GetCustomStreamAbility(CustomStreamCap& out, unsigned int&
                        {.place = CAPABILITYSET_HERE,
                         .name = "GetCustomStreamAbility",
                         .growth = query::kTransparentGrowth,
+                        .limitTag = "[kelvar]",
                         .needsFlag = true},
                        [&] {
                            return query::TransparentRequest(

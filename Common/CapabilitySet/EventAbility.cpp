@@ -170,7 +170,7 @@ bool EventAbility::GetEventAbility(EventAbility& out, unsigned int& err, const i
         {.place = CAPABILITYSET_HERE,
          .name = "GetEventAbility",
          .growth = query::kDeviceAbilityGrowth,
-         .limitLine = query::LimitLine::TagAlone,
+         .limit = query::LimitReport::TraceAndTag,
          .limitTag = "[DWN]",
          // Kept: support staff search logs for this call's name.
          .failedCall = "NET_ORB_STDXMLConfig"},

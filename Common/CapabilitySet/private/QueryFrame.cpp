@@ -22,10 +22,16 @@ void ReportSdkError(const Operation& operation, const char* call, unsigned int e
 {
     const bool unknownAbility = error == NET_ORB_ABILITY_FAILED && operation.growth.report1000As23;
     err = unknownAbility ? kNotSupported : error;
+    if (operation.failure == FailureReport::Tag) {
+        log::Error(operation.place, "%s", operation.failureTag);
+        return;
+    }
     Keel::Error::ErrorCode last;
     comm_method::getLastSDKError(last.module, last.code);
-    log::Error(operation.place, "%s failed, [%d]-[%d].", call, last.module, last.code);
-    Keel::Error::SetLastError(last);
+    log::Error(operation.place, "%s%s failed, [%d]-[%d].", operation.failureTag, call, last.module,
+               last.code);
+    if (operation.failure == FailureReport::Full)
+        Keel::Error::SetLastError(last);
 }
 
 /// Gives up because the largest buffer was too small. The last error stays as it was.
@@ -33,12 +39,19 @@ void ReportLimit(const Operation& operation, int userID, unsigned int& err)
 {
     err = NET_ORB_BUFFER_TOO_SMALL;
     const int code = static_cast<int>(err);
+    if (operation.limit == LimitReport::Silent)
+        return;
+    if (operation.limit == LimitReport::Line) {
+        log::Error(operation.place, "%s%s failed, buf is small.", operation.limitTag,
+                   operation.name);
+        return;
+    }
     VSK_OutputDebug("%sfailure to CCapabilityApp::%s, userID = [%d], error code = [%d]",
                     operation.limitTag, operation.name, userID, code);
     // Kept: support staff search logs for the bare tag.
-    if (operation.limitLine == LimitLine::TagAlone)
+    if (operation.limit == LimitReport::TraceAndTag)
         log::Error(operation.place, "[DWN]");
-    else if (operation.limitLine == LimitLine::Whole)
+    else if (operation.limit == LimitReport::TraceAndWhole)
         log::Error(operation.place,
                    "[DWN],failure to CCapabilityApp::%s, userID = [%d], error code = [%d]",
                    operation.name, userID, code);
@@ -75,6 +88,11 @@ bool TransparentRequest::Send(char* buffer, unsigned int size)
     input.size = sizeof input;
     input.requestUrl = line_.data();
     input.requestUrlLength = static_cast<unsigned int>(line_.size());
+    if (!body_.empty()) {
+        input.inBuffer = body_.data();
+        input.inBufferSize = static_cast<unsigned int>(body_.size());
+    }
+    input.receiveTimeout = timeout_;
     tagNET_ORB_XML_CONFIG_OUTPUT output{};
     output.size = sizeof output;
     output.outBuffer = buffer;
@@ -104,12 +122,12 @@ bool Ask(const Operation& operation, Request& request, ReceiveBuffer& answer, un
 }
 
 bool ToProtocolChannel(const Operation& operation, int userID, int channel, int& protocolChannel,
-                       unsigned int& err)
+                       unsigned int& err, const char* call)
 {
     protocolChannel = NET_ORB_SDKChannelToTARN(userID, channel, 1);
     if (protocolChannel != -1)
         return true;
-    ReportSdkError(operation, "NET_ORB_SDKChannelToTARN", NET_ORB_GetLastError(), err);
+    ReportSdkError(operation, call, NET_ORB_GetLastError(), err);
     return false;
 }
 

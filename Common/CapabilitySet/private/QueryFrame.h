@@ -7,6 +7,7 @@
 
 #include "CapabilitySet/private/Log.h"
 #include "CapabilitySet/private/ReceiveBuffer.h"
+#include "CapabilitySet/private/XmlReading.h"
 #include "PelNetSDK/PelNetSDK.h"
 
 namespace CapabilitySet::query
@@ -30,24 +31,39 @@ inline constexpr Growth kDeviceAbilityGrowth{8192, 8192, 81920};
 inline constexpr Growth kStandardAbilityGrowth{16384, 16384, 163840};
 inline constexpr Growth kTransparentGrowth{16384, 16384, 16384000};
 
-/// The error line an operation writes when its buffer has reached the limit.
-enum class LimitLine
+/// JSON operations grow on 43 alone and hand every other number on unchanged.
+inline constexpr Growth kJsonGrowth{16384, 16384, 16384000, false, false};
+
+/// What an operation tells when its buffer has reached the limit.
+enum class LimitReport
 {
-    None,
-    TagAlone,  ///< "[DWN]"
-    Whole      ///< "[DWN]," and what failed
+    Trace,          ///< a debug trace of the operation, user and error
+    TraceAndTag,    ///< the trace, and "[DWN]" alone in the log
+    TraceAndWhole,  ///< the trace, and its text behind "[DWN]," in the log
+    Line,           ///< a log line that says that the buffer is small
+    Silent
+};
+
+/// What an operation tells of any other error of the SDK.
+enum class FailureReport
+{
+    Full,  ///< a log line with the error's class and number, and the last error
+    Line,  ///< the log line alone
+    Tag    ///< a log line that holds the failure tag and nothing else
 };
 
 /// What the frame has to know of an operation beside its request.
 struct Operation
 {
     log::Place place;  ///< CAPABILITYSET_HERE in the exported operation
-    const char* name;  ///< as the traces name it after "CCapabilityApp::"
+    const char* name;  ///< as its traces and lines name it
     Growth growth;
-    LimitLine limitLine = LimitLine::None;
-    const char* limitTag = "[dwn]";    ///< before the trace of a reached limit
+    LimitReport limit = LimitReport::Trace;
+    FailureReport failure = FailureReport::Full;
+    const char* limitTag = "[dwn]";    ///< before what tells of a reached limit
+    const char* failureTag = "";       ///< before the line of a failure
+    const char* failedCall = nullptr;  ///< named in that line; null: the call that was made
     const char* timedAs = nullptr;     ///< what is traced at start and finish; null: nothing is
-    const char* failedCall = nullptr;  ///< named in the failure line; null: the call that was made
     bool needsFlag = false;            ///< an answer that leaves the record's flag down is an error
 };
 
@@ -104,12 +120,16 @@ private:
     unsigned int channel_;
 };
 
-/// A request line on the device's protocol, without a body.
+/// A request line on the device's protocol, with or without a body.
 class TransparentRequest : public Request
 {
 public:
-    TransparentRequest(int userID, std::string line)
-        : Request(userID, "NET_ORB_STDXMLConfig"), line_(std::move(line))
+    explicit TransparentRequest(int userID, std::string line, std::string body = {},
+                                unsigned int timeout = 0)
+        : Request(userID, "NET_ORB_STDXMLConfig"),
+          line_(std::move(line)),
+          body_(std::move(body)),
+          timeout_(timeout)
     {
     }
 
@@ -117,15 +137,18 @@ public:
 
 private:
     std::string line_;
+    std::string body_;
+    unsigned int timeout_;  ///< milliseconds, 0: the SDK's default
 };
 
 /// Sends the request with larger and larger buffers until the answer fits. False: `err`, the last
 /// error, traces and log lines tell why.
 bool Ask(const Operation& operation, Request& request, ReceiveBuffer& answer, unsigned int& err);
 
-/// The protocol's number of a channel; false: the failure is reported as one of the operation.
+/// The protocol's number of a channel; false: the failure is reported as one of the operation, of
+/// a call of this name.
 bool ToProtocolChannel(const Operation& operation, int userID, int channel, int& protocolChannel,
-                       unsigned int& err);
+                       unsigned int& err, const char* call = "NET_ORB_SDKChannelToTARN");
 
 /// Runs an exported operation's body: whatever it throws becomes error 23 and false.
 template <class Body>
@@ -146,7 +169,7 @@ bool Guarded(unsigned int& err, Body&& body)
 template <class Record, class MakeRequest>
 bool Fill(Record& out, unsigned int& err, const Operation& operation, MakeRequest&& makeRequest)
 {
-    return Guarded(err, [&] {
+    const bool filled = Guarded(err, [&] {
         out = Record();
         err = 0;
         auto request = makeRequest();
@@ -156,6 +179,9 @@ bool Fill(Record& out, unsigned int& err, const Operation& operation, MakeReques
                 return false;
         } else if (!Ask(operation, request, answer, err))
             return false;
+        // Here a failed allocation inside Parse reaches the guard: no half-read record is a
+        // success.
+        const xml::ReadingLevel level;
         out.Parse(std::string(answer.Text()));
         if constexpr (requires { out.Capable(); }) {
             if (operation.needsFlag && !out.Capable()) {
@@ -165,6 +191,9 @@ bool Fill(Record& out, unsigned int& err, const Operation& operation, MakeReques
         }
         return true;
     });
+    if (!filled)
+        out = Record();
+    return filled;
 }
 
 }  // namespace CapabilitySet::query

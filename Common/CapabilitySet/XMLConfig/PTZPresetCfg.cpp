@@ -1,0 +1,230 @@
+// Presets, patterns and patrols of a pan-tilt-zoom channel.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
+
+#include <atomic>
+#include <thread>
+
+#include "CapabilitySet/private/JsonReading.h"
+#include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/XmlFields.h"
+
+namespace CapabilitySet
+{
+namespace
+{
+
+constexpr xml::RootTexts kListTexts{.prefix = "[pmv-v2.0.0]", .tellMismatch = false};
+
+/// Reads the items of a list among the children of its root.
+template <class Item>
+void ReadItems(std::vector<Item>& items, const char* itemName, xmlNode* firstChild)
+{
+    xmlNode* cursor = firstChild;
+    while (xml::NextElementNamed(cursor, itemName)) {
+        if (cursor->children != nullptr) {
+            items.emplace_back(cursor->children);
+            cursor = cursor->next;
+        } else {
+            // Kept: clients rely on this order of steps; an item without children is found again
+            // and again. The fence makes the endless search one that the language defines.
+            std::atomic_thread_fence(std::memory_order_seq_cst);
+            std::this_thread::yield();
+        }
+    }
+}
+
+template <class List, class Item>
+void ParseList(const std::string& text, std::vector<Item>& items, const char* itemName,
+               const log::Place& place)
+{
+    xml::WithRoot(
+        text, List::kRoot, place,
+        [&](xmlNode* root) { ReadItems(items, itemName, root->children); }, xml::Form::BlankFree,
+        kListTexts);
+}
+
+struct ListNames
+{
+    const char* root;
+    const char* item;
+};
+constexpr ListNames kPresets{CVelTarnPTZPresetList::kRoot, "PTZPreset"};
+constexpr ListNames kPatterns{CVelTarnPTZPatternList::kRoot, "PTZPattern"};
+constexpr ListNames kPatrols{CVelTarnPTZPatrolList::kRoot, "PTZPatrol"};
+
+bool HoldsEmptyItem(xmlNode* root, const ListNames& names)
+{
+    if (!xml::NextElementNamed(root, names.root))
+        return false;
+    for (xmlNode* item = root->children; xml::NextElementNamed(item, names.item);
+         item = item->next) {
+        if (item->children == nullptr)
+            return true;
+    }
+    return false;
+}
+
+constexpr const char* kTrackingTag = "[pmv-v2.0.1]";
+// Kept: support staff search logs for the older tag where setting cannot convert a channel.
+constexpr const char* kOldTrackingTag = "[pmv-v2.0.0]";
+
+/// The last size tried is the one before 16,384,000 bytes.
+constexpr query::Growth kTrackingGrowth{16384, 16384, 16384000 - 16384, false, false};
+
+constexpr query::Operation TrackingOperation(const log::Place& place, const char* name)
+{
+    return {.place = place,
+            .name = name,
+            .growth = kTrackingGrowth,
+            .limit = query::LimitReport::Line,
+            .failure = query::FailureReport::Line,
+            .limitTag = kTrackingTag,
+            .failureTag = kTrackingTag};
+}
+
+/// Sends a request about the tracking switch of a channel; false after the line that says why.
+bool AskTracking(const query::Operation& operation, const char* channelTag, const int userID,
+                 const int channel, const char* method, std::string body,
+                 query::ReceiveBuffer& answer)
+{
+    unsigned int err = 0;
+    int protocolChannel = 0;
+    query::Operation conversion = operation;
+    conversion.failureTag = channelTag;
+    if (!query::ToProtocolChannel(conversion, userID, channel, protocolChannel, err,
+                                  "ChannelToTARN"))
+        return false;
+    query::TransparentRequest request(userID,
+                                      method + std::string(" /TARN/PTZCtrl/channels/") +
+                                          std::to_string(protocolChannel) +
+                                          "/moveAutoTracking?format=json\r\n",
+                                      std::move(body));
+    return query::Ask(operation, request, answer, err);
+}
+
+}  // namespace
+
+bool HasEmptyItem(const std::string& text)
+{
+    try {
+        xml::Problem problem;
+        const xml::Document document = xml::ParseText(text, xml::Form::BlankFree, problem);
+        xmlNode* const root = document == nullptr ? nullptr : xmlDocGetRootElement(document.get());
+        return HoldsEmptyItem(root, kPresets) || HoldsEmptyItem(root, kPatterns) ||
+               HoldsEmptyItem(root, kPatrols);
+    } catch (...) {  // out of memory: better to leave the list alone
+        return true;
+    }
+}
+
+void CPTZPresetCfg::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void CPTZPresetListCfg::Parse(const std::string& text)
+{
+    ParseList<CPTZPresetListCfg>(text, presets, kPresets.item, CAPABILITYSET_HERE);
+}
+
+void CVelTarnPTZPresetInfo::Parse(_xmlNode* firstChild)
+{
+    // By hand: the position's elements stand one level further down than its members.
+    xml::EndAtException([&] {
+        xmlNode* cursor = firstChild;
+        const auto next = [&cursor](const char* name, auto& member) {
+            if (!xml::NextElementNamed(cursor, name))
+                return;
+            xml::ReadValue(cursor, member, as::plain);
+            cursor = cursor->next;
+        };
+        next("enabled", enabled);
+        next("id", id);
+        if (!xml::NextElementNamed(cursor, "AbsoluteHigh"))
+            return;
+        cursor = cursor->children;
+        next("elevation", elevation);
+        next("azimuth", azimuth);
+        next("absoluteZoom", absoluteZoom);
+    });
+}
+
+void CVelTarnPTZPresetList::Parse(const std::string& text)
+{
+    ParseList<CVelTarnPTZPresetList>(text, presets, kPresets.item, CAPABILITYSET_HERE);
+}
+
+void CVelTarnPTZPattern::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void CVelTarnPTZPatternList::Parse(const std::string& text)
+{
+    ParseList<CVelTarnPTZPatternList>(text, patterns, kPatterns.item, CAPABILITYSET_HERE);
+}
+
+void CVelTarnPTZPatrolPresetInfo::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void CVelTarnPTZPatrol::Parse(const std::string& text)
+{
+    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE, xml::Form::BlankFree, kListTexts);
+}
+
+void CVelTarnPTZPatrol::Parse(_xmlNode* firstChild)
+{
+    xml::ParseNode(*this, firstChild);
+}
+
+void CVelTarnPTZPatrolList::Parse(const std::string& text)
+{
+    ParseList<CVelTarnPTZPatrolList>(text, patrols, kPatrols.item, CAPABILITYSET_HERE);
+}
+
+bool CVelTarnPTZAutoTracking::Parse(const std::string& text)
+{
+    bool read = false;
+    json::WithRoot(text, [&](const Json::Value& root) {
+        const Json::Value& tracking = json::MemberOf(root, "MoveAutoTracking");
+        if (tracking.isNull())
+            return;
+        enabled = json::MemberOf(tracking, "enabled").asBool();
+        read = true;
+    });
+    return read;
+}
+
+bool CVelTarnPTZAutoTracking::SetAutoTrackingState(const int userID, const int channel, bool enable)
+{
+    const log::Place here = CAPABILITYSET_HERE;
+    unsigned int err = 0;
+    return query::Guarded(err, [&] {
+        log::Info(here, "%sSetAutoTrackingState start.", kTrackingTag);
+        const auto operation = TrackingOperation(here, "SetAutoTrackingState");
+        Json::Value body;
+        body["MoveAutoTracking"]["enabled"] = enable;
+        query::ReceiveBuffer answer(operation.growth.limit);
+        return AskTracking(operation, kOldTrackingTag, userID, channel, "PUT",
+                           body.toStyledString(), answer);
+    });
+}
+
+bool CVelTarnPTZAutoTracking::GetAutoTrackingState(const int userID, const int channel,
+                                                   CVelTarnPTZAutoTracking& out)
+{
+    const log::Place here = CAPABILITYSET_HERE;
+    unsigned int err = 0;
+    return query::Guarded(err, [&] {
+        log::Info(here, "%sGetAutoTrackingState start.", kTrackingTag);
+        const auto operation = TrackingOperation(here, "GetAutoTrackingState");
+        query::ReceiveBuffer answer(operation.growth.limit);
+        return AskTracking(operation, kTrackingTag, userID, channel, "GET", {}, answer) &&
+               out.Parse(std::string(answer.Text()));
+    });
+}
+
+}  // namespace CapabilitySet
