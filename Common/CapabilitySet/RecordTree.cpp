@@ -12,6 +12,15 @@ namespace
 
 using Kind = RecordNode::Kind;
 
+/// Shortest form that reads back the same, whatever the client's locale.
+template <class Value>
+std::string Shortest(Value value)
+{
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+    return {digits.data(), end.ptr};
+}
+
 RecordNode Bounds(std::string name, bool announced, unsigned int min, unsigned int max)
 {
     return {std::move(name), Kind::Range, {}, announced, {Whole("min", min), Whole("max", max)}};
@@ -31,10 +40,12 @@ RecordNode Text(std::string name, std::string value)
 
 RecordNode Real(std::string name, double value)
 {
-    // Shortest form that reads back the same, whatever the client's locale.
-    std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-    return {std::move(name), Kind::Number, {digits.data(), end.ptr}, true, {}};
+    return {std::move(name), Kind::Number, Shortest(value), true, {}};
+}
+
+RecordNode Real(std::string name, float value)
+{
+    return {std::move(name), Kind::Number, Shortest(value), true, {}};
 }
 
 RecordNode Options(std::string name, bool announced, const std::vector<std::string>& options)

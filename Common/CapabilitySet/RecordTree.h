@@ -50,6 +50,7 @@ concept HasFields = requires(const Type& r) { Type::Fields(r, [](auto&&... /*fie
 CAPABILITYSET_API RecordNode Flag(std::string name, bool value);
 CAPABILITYSET_API RecordNode Text(std::string name, std::string value);
 CAPABILITYSET_API RecordNode Real(std::string name, double value);
+CAPABILITYSET_API RecordNode Real(std::string name, float value);
 CAPABILITYSET_API RecordNode Options(std::string name, bool announced,
                                      const std::vector<std::string>& options);
 
@@ -85,7 +86,7 @@ RecordNode Node(std::string name, const Member& value)
 template <std::floating_point Member>
 RecordNode Node(std::string name, const Member& value)
 {
-    return Real(std::move(name), static_cast<double>(value));
+    return Real(std::move(name), value);
 }
 
 inline RecordNode Node(std::string name, const std::string& value)

@@ -28,6 +28,7 @@ bool SystemDeviceCap::GetSystemDeviceAbility(SystemDeviceCap& out, unsigned int&
         {.place = CAPABILITYSET_HERE,
          .name = "GetSystemDeviceAbility",
          .growth = {16384, 16384, 16384000, false, false},
+         .limitTag = "[kelvar]",
          .needsFlag = true},
         [&] { return query::TransparentRequest(userID, "GET /TARN/System/capabilities\r\n"); });
 }
@@ -38,6 +39,7 @@ bool ClusterCapability::GetClusterCap(ClusterCapability& out, unsigned int& err,
                        {.place = CAPABILITYSET_HERE,
                         .name = "GetClusterCap",
                         .growth = query::kTransparentGrowth,
+                        .limitTag = "[kelvar]",
                         .needsFlag = true},
                        [&] {
                            return query::TransparentRequest(
@@ -52,6 +54,7 @@ bool DiscoveryModeCap::getDiscoveryModeAbility(DiscoveryModeCap& out, unsigned i
                        {.place = CAPABILITYSET_HERE,
                         .name = "getDiscoveryModeAbility",
                         .growth = query::kTransparentGrowth,
+                        .limitTag = "[kelvar]",
                         .needsFlag = true},
                        [&] {
                            // Kept: devices are asked without a line end here.

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "CapabilitySet/private/JsonReading.h"
@@ -83,13 +84,17 @@ void ReadFields(Record& record, const Json::Value& object)
 template <class Item>
 void ReadValue(const Json::Value& value, std::vector<Item>& items)
 {
-    if (value.isArray())
-        items.reserve(items.size() + value.size());
-    for (Json::ArrayIndex i = 0; i < value.size(); ++i) {
-        if constexpr (requires(Item item) { ReadValue(value[i], item); })
-            ReadValue(value[i], items.emplace_back());
+    if (!value.isArray()) {
+        if (!value.empty())
+            static_cast<void>(value[0U]);  // throws
+        return;
+    }
+    items.reserve(items.size() + value.size());
+    for (const Json::Value& entry : value) {
+        if constexpr (requires(Item item) { ReadValue(entry, item); })
+            ReadValue(entry, items.emplace_back());
         else
-            ReadFields(items.emplace_back(), value[i]);
+            ReadFields(items.emplace_back(), entry);
     }
 }
 

@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
+#include <new>
+
+#include <libxml/xmlerror.h>
 
 namespace CapabilitySet::xml
 {
@@ -36,8 +39,15 @@ std::string_view View(const xmlChar* text)
     return text == nullptr ? std::string_view{} : std::string_view{Chars(text)};
 }
 
-std::string_view Keep(XmlText text, std::string& spare)
+/// A copy for which memory ran out is null or cut short: neither is the text.
+template <class Copy>
+std::string_view Keep(Copy&& copy, std::string& spare)
 {
+    xmlResetLastError();
+    const XmlText text(copy());
+    const xmlError* const error = xmlGetLastError();
+    if (text == nullptr || (error != nullptr && error->code == XML_ERR_NO_MEMORY))
+        throw std::bad_alloc();
     spare = View(text.get());
     return spare;
 }
@@ -68,7 +78,7 @@ std::string_view TextOf(const xmlNode* node, std::string& spare)
         return {};
     if (IsOnePiece(node->children))
         return View(node->children->content);
-    return Keep(XmlText(xmlNodeGetContent(node)), spare);
+    return Keep([node] { return xmlNodeGetContent(node); }, spare);
 }
 
 bool AttributeOf(const xmlNode* element, const char* name, std::string& spare,
@@ -90,7 +100,7 @@ bool AttributeOf(const xmlNode* element, const char* name, std::string& spare,
     if (attribute == nullptr && (element->doc == nullptr || element->doc->intSubset == nullptr ||
                                  xmlHasProp(element, key) == nullptr))
         return false;
-    value = Keep(XmlText(xmlGetProp(element, key)), spare);
+    value = Keep([=] { return xmlGetProp(element, key); }, spare);
     return true;
 }
 

@@ -18,7 +18,7 @@ namespace CapabilitySet::xml
 bool NextElementNamed(xmlNode*& cursor, const char* name);
 
 /// The text of a node, viewed in place when it is one piece; otherwise `spare` holds a copy. Valid
-/// while both the document and `spare` live. Empty for a null node.
+/// while both the document and `spare` live. Empty for a null node. Throws std::bad_alloc.
 std::string_view TextOf(const xmlNode* node, std::string& spare);
 
 /// An attribute's text, in the same manner; false when the element has no such attribute.
