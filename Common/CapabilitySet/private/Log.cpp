@@ -20,7 +20,8 @@ void Line(Write write, const Place& place, const char* format, va_list arguments
 {
     (Keel::CSingleton<CLog>::Instance().*write)(
         {}, Keel::StringUtil::FormatStringV(format, arguments),
-        {place.file, place.shortFile, place.function, place.line});
+        {place.file, log4cxx::spi::LocationInfo::calcShortFileName(place.file), place.function,
+         place.line});
 }
 
 bool Wanted(LogLevel level)

@@ -13,7 +13,6 @@ namespace CapabilitySet::log
 struct Place
 {
     const char* file;
-    const char* shortFile;
     const char* function;
     int line;
 };
@@ -25,7 +24,4 @@ void Info(const Place& place, const char* format, ...) KEEL_PRINTF(2, 3);
 }  // namespace CapabilitySet::log
 
 /// The exported operation this stands in, for its log lines.
-#define CAPABILITYSET_HERE                                                                \
-    (::CapabilitySet::log::Place{__FILE__,                                                \
-                                 log4cxx::spi::LocationInfo::calcShortFileName(__FILE__), \
-                                 __PRETTY_FUNCTION__, __LINE__})
+#define CAPABILITYSET_HERE (::CapabilitySet::log::Place{__FILE__, __PRETTY_FUNCTION__, __LINE__})
