@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/RecordTree.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -130,3 +131,16 @@ RecordNode Node(std::string name, const AbilityElement& value)
 }
 
 }  // namespace CapabilitySet::tree
+
+namespace CapabilitySet
+{
+
+bool SameValues(const RecordNode& a, const RecordNode& b)
+{
+    return a.name == b.name && a.kind == b.kind && a.text == b.text &&
+           (a.kind == RecordNode::Kind::Record || a.announced == b.announced) &&
+           std::equal(a.children.begin(), a.children.end(), b.children.begin(), b.children.end(),
+                      SameValues);
+}
+
+}  // namespace CapabilitySet

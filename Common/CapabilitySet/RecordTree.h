@@ -156,11 +156,15 @@ RecordNode Describe(std::string name, const Record& record)
     }
 }
 
+/// Whether two trees hold the same values. That a record was announced at all does not count: one
+/// that was just made and one that a device sent back are the same.
+CAPABILITYSET_API bool SameValues(const RecordNode& a, const RecordNode& b);
+
 /// Whether two records of a type hold the same values in all their fields.
 template <class Record>
 bool SameFields(const Record& a, const Record& b)
 {
-    return Describe({}, a) == Describe({}, b);
+    return SameValues(Describe({}, a), Describe({}, b));
 }
 
 }  // namespace CapabilitySet

@@ -1,0 +1,36 @@
+// The members that XmlRecord declares; a source file instantiates them for its own records.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CapabilitySet/XmlRecord.h"
+#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/XmlWriting.h"
+
+namespace CapabilitySet
+{
+
+template <class Record>
+void XmlRecord<Record>::Parse(const std::string& text)
+{
+    xml::ParseDocument(static_cast<Record&>(*this), text, Record::kElement, CAPABILITYSET_HERE);
+}
+
+template <class Record>
+void XmlRecord<Record>::Parse(_xmlNode* element)
+{
+    xml::ParseNode(static_cast<Record&>(*this), element);
+}
+
+template <class Record>
+_xmlNode* XmlRecord<Record>::CreateXmlNodePtr() const
+{
+    return xml::CreateNode(static_cast<const Record&>(*this), Record::kElement);
+}
+
+template <class Record>
+std::string XmlRecord<Record>::MakeDocument(const char* version) const
+{
+    return xml::DumpDocument(CreateXmlNodePtr(), version);
+}
+
+}  // namespace CapabilitySet

@@ -1,0 +1,129 @@
+// Builds request documents from records' field lists.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <concepts>
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include <libxml/tree.h>
+
+#include "CapabilitySet/private/FieldTags.h"
+
+namespace CapabilitySet::xml
+{
+
+/// Makes an unlinked element; the caller owns it. Null when memory ran out.
+xmlNode* NewElement(const char* name);
+
+/// Adds a child that holds a text, escaped; an empty text gives an empty element.
+void AddText(xmlNode* parent, const char* name, const std::string& text);
+
+/// Links `child` below `parent`, which then owns it; null is left out.
+void AddChild(xmlNode* parent, xmlNode* child);
+
+inline std::string TextOfValue(const std::string& value)
+{
+    return value;
+}
+
+inline std::string TextOfValue(bool value)
+{
+    return value ? "true" : "false";
+}
+
+template <std::integral Number>
+    requires(!std::same_as<Number, bool>)
+std::string TextOfValue(Number value)
+{
+    return std::to_string(value);
+}
+
+/// Shortest form that reads back the same, whatever the client's locale.
+std::string TextOfValue(double value);
+
+/// A record that makes its own element.
+template <class Type>
+concept MakesNode = requires(const Type& r) {
+    {
+        r.CreateXmlNodePtr()
+    } -> std::convertible_to<_xmlNode*>;
+};
+
+template <class Record>
+xmlNode* MakeNode(const Record& record, const char* name);
+
+/// Writes one member below `parent`.
+template <class Member>
+void WriteMember(xmlNode* parent, const char* name, const Member& member)
+{
+    if constexpr (requires { TextOfValue(member); })
+        AddText(parent, name, TextOfValue(member));
+    else if constexpr (requires { *member; })
+        WriteMember(parent, name, *member);
+    else
+        AddChild(parent, MakeNode(member, name));
+}
+
+/// Visits a field list and writes each member, set or not, in the list's order.
+class FieldWriter
+{
+public:
+    explicit FieldWriter(xmlNode* parent) : parent_(parent) {}
+
+    template <class Member, class How = as::Plain>
+    void operator()(const char* name, const Member& member, [[maybe_unused]] How how = {}) const
+    {
+        if constexpr (std::is_same_v<How, as::Repeated>) {
+            for (const auto& item : member)
+                WriteMember(parent_, name, item);
+        } else if constexpr (std::is_same_v<How, as::Items>) {
+            // Linked first, so that its owner frees it whatever happens to the items.
+            xmlNode* const list = NewElement(name);
+            AddChild(parent_, list);
+            for (const auto& item : member)
+                WriteMember(list, how.item, item);
+        } else {
+            WriteMember(parent_, name, member);
+        }
+    }
+
+private:
+    xmlNode* parent_;
+};
+
+/// A record's element, unlinked; the caller owns it. Null when memory ran out.
+template <class Record>
+xmlNode* MakeNode(const Record& record, const char* name)
+{
+    xmlNode* const element = NewElement(name);
+    if (element == nullptr)
+        return nullptr;
+    struct FreeNode
+    {
+        void operator()(xmlNode* node) const { xmlFreeNode(node); }
+    };
+    std::unique_ptr<xmlNode, FreeNode> owner(element);
+    Record::Fields(record, FieldWriter(element));
+    return owner.release();
+}
+
+/// A record's element as CreateXmlNodePtr gives it: null instead of an exception.
+template <class Record>
+xmlNode* CreateNode(const Record& record, const char* name)
+{
+    try {
+        return MakeNode(record, name);
+    } catch (...) {  // callers are exported, and nothing is thrown at clients
+        return nullptr;
+    }
+}
+
+/// The body that a root makes: an indented UTF-8 document whose root carries the version, unless
+/// that is empty; text that is in the client's ANSI code page is converted. Takes the root over.
+/// Empty when anything fails. Never throws.
+std::string DumpDocument(xmlNode* root, const char* version);
+
+}  // namespace CapabilitySet::xml
