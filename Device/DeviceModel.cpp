@@ -44,10 +44,9 @@ public:
 
     [[nodiscard]] std::vector<std::string> UserNames() const override
     {
-        std::vector<std::string> names;
-        for (const auto& user : profile_.users) {
-            names.push_back(user.first);
-        }
+        std::vector<std::string> names(profile_.users.size());
+        std::ranges::transform(profile_.users, names.begin(),
+                               [](const auto& user) { return user.first; });
         return names;
     }
 

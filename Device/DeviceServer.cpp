@@ -68,7 +68,7 @@ MHD_Result ResetConnection(MHD_Connection* connection)
         // which would come first, then finds nothing to shut down.
         sockaddr nowhere{};
         nowhere.sa_family = AF_UNSPEC;
-        connect(info->connect_fd, &nowhere, sizeof nowhere);
+        static_cast<void>(connect(info->connect_fd, &nowhere, sizeof nowhere));
     }
     return MHD_NO;
 }
@@ -84,6 +84,8 @@ public:
     }
 
     ~HttpServer() override { StopDaemon(); }
+    HttpServer(const HttpServer&) = delete;
+    HttpServer& operator=(const HttpServer&) = delete;
 
     bool Listen(std::string& error);
 

@@ -249,9 +249,14 @@ constexpr char kBrokenUtf8[] = "ok \xc3( \xed\xa0\x80 \xf8 \xff";
 constexpr char kByteOrderMark[] = "\xef\xbb\xbf";
 constexpr char kBlanks[] = " \t\r\n";
 
+std::string NamedJson(Text root, Text name)
+{
+    return "{\"" + root + R"(": {"name": ")" + name + "\"}}\n";
+}
+
 std::string LongText()
 {
-    return std::string(4'000'000, 'x');
+    return Repeat("x", 4'000'000);
 }
 
 constexpr HostileCase kCases[] = {
@@ -302,7 +307,7 @@ constexpr HostileCase kCases[] = {
      [](Text, Text sample) { return JsonWithTexts(sample, ""); }},
     {"unknownElements", "ten thousand unknown elements around the known ones", &UnknownElements,
      [](Text, Text sample) {
-         return JsonWithMembers(sample, Repeat("\"unknown\": {\"x\": 2},", 10000));
+         return JsonWithMembers(sample, Repeat(R"("unknown": {"x": 2},)", 10000));
      }},
     {"wrongKinds", "elements where texts are due; arrays for objects, texts for numbers",
      [](Text, Text sample) {
@@ -314,16 +319,16 @@ constexpr HostileCase kCases[] = {
          return Rooted(root, Repeat("<unknown>1</unknown>", kOversize / 20) + Content(sample));
      },
      [](Text, Text sample) {
-         return JsonWithMembers(sample, Repeat("\"unknown\": \"1234567\",", kOversize / 20));
+         return JsonWithMembers(sample, Repeat(R"("unknown": "1234567",)", kOversize / 20));
      }},
     {"undeclaredGbk", "texts in GBK without saying so",
      [](Text, Text sample) { return WithTexts(sample, [](Text text) { return kGbk + text; }); },
-     [](Text root, Text) { return "{\"" + root + "\": {\"name\": \"" + kGbk + "\"}}\n"; }},
+     [](Text root, Text) { return NamedJson(root, kGbk); }},
     {"brokenUtf8", "texts that are no UTF-8",
      [](Text, Text sample) {
          return WithTexts(sample, [](Text text) { return text + kBrokenUtf8; });
      },
-     [](Text root, Text) { return "{\"" + root + "\": {\"name\": \"" + kBrokenUtf8 + "\"}}\n"; }},
+     [](Text root, Text) { return NamedJson(root, kBrokenUtf8); }},
     {"wrongEncoding", "declares UTF-16 and is UTF-8",
      [](Text, Text sample) { return Redeclared(sample, "UTF-16"); }, nullptr},
     {"unknownEncoding", "declares an encoding that nobody knows",

@@ -56,7 +56,8 @@ void RefuseUnknownKeys(const Json::Value& object, std::initializer_list<std::str
 {
     for (const std::string& key : object.getMemberNames()) {
         if (std::ranges::find(known, key) == known.end()) {
-            throw Fault(where + ": \"" + key + "\" is no key of a manifest");
+            throw Fault(
+                std::string(where).append(": \"").append(key).append("\" is no key of a manifest"));
         }
     }
 }
@@ -91,7 +92,7 @@ void ReadChannels(const Json::Value& channels, Profile& profile)
         int number = 0;
         const Json::Value& protocol = channels[key];
         if (!ReadNumber(key, number) || number < 0 || !protocol.isInt() || protocol.asInt() < 0) {
-            throw Fault("\"channels\": \"" + key + "\" does not map a number to a number");
+            throw Fault(R"("channels": ")" + key + "\" does not map a number to a number");
         }
         profile.channels.emplace(number, protocol.asInt());
     }
@@ -208,7 +209,7 @@ Answer ReadAnswer(const ProfileFiles& files, const Json::Value& entry, unsigned 
     const std::string status = TextMember(entry, "status", where, false);
     if (file.empty() == status.empty() || (answer.setting && file.empty())) {
         throw Fault(where + (answer.setting ? " needs a \"file\""
-                                            : " needs either a \"file\" or a \"status\""));
+                                            : R"( needs either a "file" or a "status")"));
     }
     if (!file.empty()) {
         ReadDocument(files, file, answer);

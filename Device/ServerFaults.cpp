@@ -47,6 +47,7 @@ void Add(const Fault& fault, FaultPlan& plan)
 void FaultPlanner::Set(std::vector<Fault> faults)
 {
     std::vector<Active> active;
+    active.reserve(faults.size());
     for (Fault& fault : faults) {
         active.push_back({std::move(fault)});
     }
