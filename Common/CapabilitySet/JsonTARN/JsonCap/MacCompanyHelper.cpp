@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonCap/MacCompanyHelper.h"
 
-#include <atomic>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -13,24 +11,6 @@
 
 namespace CapabilitySet
 {
-namespace
-{
-
-using Companies = std::map<std::string, std::string>;
-
-// What the first object of the process loaded, for the later ones to copy. Never destroyed: a
-// client's static objects may outlive any that is.
-constinit std::atomic<const Companies*> loadedCompanies{nullptr};
-
-void KeepForLaterObjects(const Companies& companies)
-{
-    auto kept = std::make_unique<const Companies>(companies);
-    const Companies* none = nullptr;
-    if (loadedCompanies.compare_exchange_strong(none, kept.get(), std::memory_order_acq_rel))
-        static_cast<void>(kept.release());
-}
-
-}  // namespace
 
 CMacCompanyHelper::CMacCompanyHelper()
 {
@@ -39,51 +19,68 @@ CMacCompanyHelper::CMacCompanyHelper()
 
 void CMacCompanyHelper::initialTable()
 {
-    const bool isFirstLoad = companies_.empty();
-    try {
-        const Companies* const loaded = loadedCompanies.load(std::memory_order_acquire);
-        if (isFirstLoad && loaded != nullptr) {
-            companies_ = *loaded;
-            return;
-        }
+    if (shared_ != nullptr)
+        return;
+    const auto loadTexts = [this] {
         for (const std::string& text : MacCompanyTexts())
             convertStringToMap(text);
-        if (isFirstLoad)
-            KeepForLaterObjects(companies_);
+    };
+    try {
+        if (!own_.empty()) {
+            loadTexts();
+            return;
+        }
+        // The first object loads what all share; when that fails, the next one tries. It is never
+        // destroyed: a client's static objects may be the last to use it.
+        static const Companies* const table = [&] {
+            loadTexts();
+            return new Companies(std::move(own_));
+        }();
+        shared_ = table;
     } catch (...)  // out of memory: what is loaded stays
     {
     }
 }
 
-void CMacCompanyHelper::convertStringToMap(std::string text)
+void CMacCompanyHelper::convertStringToMap(const std::string& text)
 {
     Json::Value root;
     if (!json::ParseText(text, root) || !root.isObject())
         return;
     const Json::Value& members = root;
-    auto place = companies_.begin();
-    for (auto member = members.begin(); member != members.end(); ++member) {
+    const auto end = members.end();
+    auto place = own_.begin();
+    for (auto member = members.begin(); member != end; ++member) {
         const char* labelBegin = nullptr;
         const char* labelEnd = nullptr;
-        if (!member->isString() || !member->getString(&labelBegin, &labelEnd))
-            continue;
+        if (!member->getString(&labelBegin, &labelEnd))
+            continue;  // no text
         const char* prefixEnd = nullptr;
         const char* const prefixBegin = member.memberName(&prefixEnd);
         const std::string_view prefix(prefixBegin, prefixEnd);
-        // Members come in the map's own order: one walk over both finds every place.
-        while (place != companies_.end() && place->first < prefix)
+        // Members come in the map's own order: one walk along both finds every place. A prefix that
+        // is there keeps its label.
+        while (place != own_.end() && own_.key_comp()(place->first, prefix))
             ++place;
-        if (place == companies_.end() || place->first != prefix)
-            place = companies_.emplace_hint(place, prefix, std::string(labelBegin, labelEnd));
+        place = own_.emplace_hint(place, prefix, std::string_view(labelBegin, labelEnd));
     }
+}
+
+const std::string& CMacCompanyHelper::LabelOf(std::string&& prefix)
+{
+    if (shared_ != nullptr) {
+        if (const auto known = shared_->find(prefix); known != shared_->end())
+            return known->second;
+    }
+    // Kept: an unknown prefix is added with an empty label.
+    return own_[std::move(prefix)];
 }
 
 std::string CMacCompanyHelper::getCompanyNameByMAc(std::string prefix)
 {
     std::string label;
     try {
-        // Kept: a prefix that is not there is added with an empty label.
-        label = companies_[std::move(prefix)];
+        label = LabelOf(std::move(prefix));
         log::Info(CAPABILITYSET_HERE, "CMacCompanyHelper::getCompanyNameByMAc: strCompanyName [%s]",
                   label.c_str());
     } catch (...)  // out of memory: the label, when it was found, is still told

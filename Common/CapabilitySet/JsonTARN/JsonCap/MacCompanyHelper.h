@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <string>
+#include <string_view>
 
 #include "CapabilitySet/Export.h"
 
@@ -14,23 +16,22 @@ namespace CapabilitySet
 /// computers that a device reports. The table of about 4,400 prefixes is part of the library:
 /// nothing is fetched.
 ///
-/// Make one object and keep it. The first one in a process parses the whole table (some
-/// milliseconds, half a megabyte), each later one copies it; none shares anything with another that
-/// a client could notice. A copy copies the table, a moved-from object has none until
-/// initialTable() is called.
+/// The first object of a process parses the table, which takes some milliseconds and stays in half
+/// a megabyte until the process ends; later objects find it there and cost next to nothing. What
+/// one object adds to the table is seen by no other. Copies take along what was added.
 ///
 /// Nothing throws but copying. When memory runs out, what is loaded stays.
 ///
 /// Threads: an object has no lock and a lookup may change it, so even two lookups on one object
-/// must not overlap. Different objects may be used and made on any threads at once.
+/// must not overlap. Different objects may be made and used on any threads at once.
 class CAPABILITYSET_API CMacCompanyHelper
 {
 public:
     /// Loads the table.
     CMacCompanyHelper();
 
-    /// Adds the library's table to the object's. A prefix that is there keeps its label, be it one
-    /// that an earlier lookup added without a label. The constructor has called this already.
+    /// Loads the table, as the constructor has done already. A prefix that the object knows keeps
+    /// its label, be it an empty one.
     void initialTable();
 
     /// The company's label, a short lower-case word such as "tp-link"; empty for a prefix that is
@@ -39,14 +40,38 @@ public:
     /// `prefix` is the first three bytes of the address as six lower-case hexadecimal digits, and
     /// is compared as it stands: separators, upper case or further digits make it unknown.
     ///
-    /// Each distinct unknown prefix stays in the object with an empty label, for the object's
-    /// lifetime: filter addresses from an untrusted source first. Writes one line at info level.
+    /// Each distinct unknown prefix is added to the object's table with an empty label and stays
+    /// for the object's lifetime: filter what an untrusted source sends. Writes one line at info
+    /// level.
     std::string getCompanyNameByMAc(std::string prefix);
 
 private:
-    void convertStringToMap(std::string text);
+    /// The order of texts by their bytes. Prefixes differ in their first few: a loop in place is
+    /// quicker than a call that compares them all.
+    struct PrefixOrder
+    {
+        bool operator()(std::string_view left, std::string_view right) const
+        {
+            const std::size_t common = left.size() < right.size() ? left.size() : right.size();
+            for (std::size_t i = 0; i < common; ++i) {
+                if (left[i] != right[i])
+                    return static_cast<unsigned char>(left[i]) <
+                           static_cast<unsigned char>(right[i]);
+            }
+            return left.size() < right.size();
+        }
+    };
+    using Companies = std::map<std::string, std::string, PrefixOrder>;
 
-    std::map<std::string, std::string> companies_;
+    /// Adds the members of a JSON object to what the object added; a text that is none adds
+    /// nothing.
+    void convertStringToMap(const std::string& text);
+    const std::string& LabelOf(std::string&& prefix);
+
+    // An object's table is the one that all objects share, which nobody changes, and what the
+    // object added. No prefix is in both.
+    const Companies* shared_ = nullptr;
+    Companies own_;
 };
 
 }  // namespace CapabilitySet
