@@ -1,9 +1,8 @@
-# Compares what README.md shows with the files and programs it was taken from.
+# Compares what README.md and docs/errors.md say with the sources and programs they were taken from.
 # Variables: SOURCE (the repository), FIRST_QUERY and CAPSET (the programs; CAPSET may be empty).
 cmake_minimum_required(VERSION 3.25)
 
 file(READ ${SOURCE}/README.md readme)
-set(faults 0)
 
 # expect(<what> <text>): the text must stand in README.md.
 function(expect what text)
@@ -38,5 +37,17 @@ string(REGEX MATCHALL "\\]\\([^):#]+[):#]" links "${readme}")
 foreach(link IN LISTS links)
   if(link MATCHES "\\]\\(([^):#]+)[)#]" AND NOT EXISTS ${SOURCE}/${CMAKE_MATCH_1})
     message(SEND_ERROR "README.md points to ${CMAKE_MATCH_1}, which is not there")
+  endif()
+endforeach()
+
+# Every error number that a header names has its row in docs/errors.md.
+file(READ ${SOURCE}/docs/errors.md errors)
+file(STRINGS ${SOURCE}/Platform/PelNetSDK/PelNetSDK.h named REGEX "^#define NET_ORB_[A-Z_]+ [0-9]+u")
+file(STRINGS ${SOURCE}/Platform/PelNetSDK/Login.h more REGEX "^#define NET_ORB_[A-Z_]+ [0-9]+u")
+foreach(line IN LISTS named more)
+  string(REGEX MATCH "(NET_ORB_[A-Z_]+) ([0-9]+)u" line "${line}")
+  string(FIND "${errors}" "| ${CMAKE_MATCH_2} | `${CMAKE_MATCH_1}` |" place)
+  if(place EQUAL -1)
+    message(SEND_ERROR "docs/errors.md has no row for ${CMAKE_MATCH_1}, ${CMAKE_MATCH_2}")
   endif()
 endforeach()
