@@ -1,0 +1,27 @@
+// Records and failures as JSON for programs; docs/capset.md describes the form.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include <json/value.h>
+
+#include "CapabilitySet/RecordTree.h"
+
+namespace Tool
+{
+
+/// A member's value: flags are booleans, numbers numbers, lists arrays, options and ranges objects,
+/// and what is not announced is null.
+Json::Value ToJson(const CapabilitySet::RecordNode& node);
+
+/// {"number": 23, "text": "..."}.
+Json::Value ErrorToJson(unsigned int number, const std::string& text);
+
+/// The document as text, indented by two blanks and ended by a line feed, in ASCII.
+std::string Dump(const Json::Value& value);
+
+/// Reads a JSON text; false when it is none.
+bool ReadJson(const std::string& text, Json::Value& value);
+
+}  // namespace Tool

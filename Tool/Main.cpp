@@ -1,0 +1,84 @@
+// capset: asks a video-security device what it can do, and shows the answer.
+// SPDX-License-Identifier: Apache-2.0
+#include <csignal>
+#include <exception>
+#include <iostream>
+#include <new>
+
+#include "Arguments.h"
+#include "Failure.h"
+#include "Log.h"
+#include "Text.h"
+
+namespace
+{
+
+using namespace Tool;
+
+void Describe(CLI::App& app, CommandLine& line)
+{
+    app.footer(
+        "Exit codes: 0 the device answered, 1 it refused or failed, 2 the command line makes no "
+        "sense.\n\nExample:\n  capset show sim:dome BasicCapability");
+    app.set_version_flag("--version", "capset " CAPSET_VERSION, "the version");
+    app.require_subcommand(1);
+    app.get_formatter()->column_width(34);
+    AddShowCommands(app, line);
+    AddCallCommand(app, line);
+    AddParseCommand(app, line);
+    AddDeviceCommands(app, line);
+    app.set_help_all_flag("--help-all", "the help of all subcommands");
+}
+
+/// The exit code of a command line that ends here, in help or in a mistake.
+int EndAtCommandLine(const CLI::App& app, const CLI::ParseError& error)
+{
+    if (error.get_exit_code() == 0) {
+        return app.exit(error);
+    }
+    Complain(std::string(error.what()) + "; \"capset --help\" tells more");
+    return kUsage;
+}
+
+int Run(int argc, char** argv)
+{
+    CLI::App app("Asks a video-security device what it can do, and shows the answer.", "capset");
+    CommandLine line;
+    Describe(app, line);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return EndAtCommandLine(app, error);
+    }
+    if (!line.common.logLevel.empty()) {
+        LogToStderr(line.common.logLevel);
+    }
+    return line.chosen();
+}
+
+int RunGuarded(int argc, char** argv)
+{
+    try {
+        return Run(argc, argv);
+    } catch (const Failure& failure) {
+        Complain(failure.what());
+        return failure.Code();
+    } catch (const std::bad_alloc&) {
+        Complain("there is not enough memory");
+    } catch (const std::exception& error) {
+        Complain(error.what());
+    }
+    return kFailed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    // A reader that goes away ends the output, not the program in the middle of something.
+    std::signal(SIGPIPE, SIG_IGN);
+    UseUtf8Widths();
+    const int result = RunGuarded(argc, argv);
+    std::cout.flush();
+    return FinishOutput() ? result : kFailed;
+}
