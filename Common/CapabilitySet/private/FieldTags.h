@@ -90,6 +90,24 @@ struct HandleTypes
 inline constexpr HandleTypes handleTypes{false};
 inline constexpr HandleTypes handleTypesOfLogin{true};
 
+/// A JSON array of objects that each hold the item under this key.
+struct Wrapped
+{
+    const char* key;
+};
+
+/// A JSON value of any kind, kept as its styled text.
+struct StyledText
+{
+};
+inline constexpr StyledText styledText;
+
+/// A number that JSON documents hold as a text of decimal digits.
+struct DecimalText
+{
+};
+inline constexpr DecimalText decimalText;
+
 /// A value with a companion flag that is set when it was read.
 template <class Flag>
 struct Noted

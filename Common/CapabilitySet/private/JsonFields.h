@@ -8,7 +8,9 @@
 #include <utility>
 #include <vector>
 
+#include "CapabilitySet/private/FieldTags.h"
 #include "CapabilitySet/private/JsonReading.h"
+#include "CapabilitySet/private/NumberText.h"
 
 namespace CapabilitySet::json
 {
@@ -54,6 +56,54 @@ auto ReadValue(const Json::Value& value, Part& member) -> decltype(member.Parse(
 template <class Item>
 void ReadValue(const Json::Value& value, std::vector<Item>& items);
 
+template <class Item>
+void ReadItem(const Json::Value& value, Item& item);
+
+// The ways of reading a member that a tag tells.
+
+template <class Member>
+void ReadAs(const Json::Value& value, Member& member, as::Plain /*how*/)
+{
+    ReadValue(value, member);
+}
+
+inline void ReadAs(const Json::Value& value, bool& member, as::TextFlag /*how*/)
+{
+    member = value.asString() == "true";
+}
+
+inline void ReadAs(const Json::Value& value, std::string& member, as::StyledText /*how*/)
+{
+    member = value.toStyledString();
+}
+
+inline void ReadAs(const Json::Value& value, int& member, as::DecimalText /*how*/)
+{
+    member = StringToInt(value.asString());
+}
+
+/// Calls `read` for each entry of an array in order; anything but an array, an object or null has
+/// no entries.
+template <class Read>
+void ForEachEntry(const Json::Value& value, Read&& read)
+{
+    if (!value.isArray()) {
+        if (!value.empty())
+            static_cast<void>(value[0U]);  // throws
+        return;
+    }
+    for (const Json::Value& entry : value)
+        read(entry);
+}
+
+template <class Item>
+void ReadAs(const Json::Value& value, std::vector<Item>& items, as::Wrapped how)
+{
+    ForEachEntry(value, [&](const Json::Value& entry) {
+        ReadItem(MemberOf(entry, how.key), items.emplace_back());
+    });
+}
+
 /// Visits a field list and reads each member, there or not: a missing one reads as false, 0 or
 /// empty. Throws what JsonCpp throws for a member of the wrong kind.
 class FieldReader
@@ -61,14 +111,14 @@ class FieldReader
 public:
     explicit FieldReader(const Json::Value& object) : object_(object) {}
 
-    template <class Member>
-    void operator()(std::string_view name, Member& member) const
+    template <class Member, class How = as::Plain>
+    void operator()(std::string_view name, Member& member, How how = {}) const
     {
         static_assert(
-            requires(const Json::Value& value) { ReadValue(value, member); },
-            "A field of this type cannot be read from JSON: give the type a Parse(const "
-            "Json::Value&), or add a ReadValue overload to JsonFields.h.");
-        ReadValue(MemberOf(object_, name), member);
+            requires(const Json::Value& value) { ReadAs(value, member, how); },
+            "A field of this type and tag cannot be read from JSON: give the type a Parse(const "
+            "Json::Value&), or add a ReadValue or ReadAs overload to JsonFields.h.");
+        ReadAs(MemberOf(object_, name), member, how);
     }
 
 private:
@@ -82,20 +132,21 @@ void ReadFields(Record& record, const Json::Value& object)
 }
 
 template <class Item>
+void ReadItem(const Json::Value& value, Item& item)
+{
+    if constexpr (requires { ReadValue(value, item); })
+        ReadValue(value, item);
+    else
+        ReadFields(item, value);
+}
+
+template <class Item>
 void ReadValue(const Json::Value& value, std::vector<Item>& items)
 {
-    if (!value.isArray()) {
-        if (!value.empty())
-            static_cast<void>(value[0U]);  // throws
-        return;
-    }
-    items.reserve(items.size() + value.size());
-    for (const Json::Value& entry : value) {
-        if constexpr (requires(Item item) { ReadValue(entry, item); })
-            ReadValue(entry, items.emplace_back());
-        else
-            ReadFields(items.emplace_back(), entry);
-    }
+    if (value.isArray())
+        items.reserve(items.size() + value.size());
+    ForEachEntry(value,
+                 [&items](const Json::Value& entry) { ReadItem(entry, items.emplace_back()); });
 }
 
 }  // namespace CapabilitySet::json

@@ -1,0 +1,55 @@
+// The members that JsonRecord and JsonPart declare; a source file instantiates them for its own.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/private/JsonFields.h"
+#include "CapabilitySet/private/JsonWriting.h"
+
+namespace CapabilitySet
+{
+
+template <class Part>
+void JsonPart<Part>::Parse(const Json::Value& value)
+{
+    if (value.isNull())
+        return;
+    json::ReadFields(static_cast<Part&>(*this), value);
+    present = true;
+}
+
+template <class Record>
+void JsonRecord<Record>::Parse(const std::string& text)
+{
+    json::WithRoot(text, [this](Json::Value& document) {
+        constexpr std::string_view kKey = Record::kKey;
+        if constexpr (kKey.empty()) {
+            root.swap(document);
+        } else {
+            // Checked first: a document that can have no members throws, and root stays.
+            const bool there = !json::MemberOf(document, kKey).isNull();
+            if (there)
+                root.swap(document[Record::kKey]);
+            else
+                root = Json::Value();
+        }
+        json::ReadFields(static_cast<Record&>(*this), root);
+    });
+}
+
+template <class Record>
+std::string JsonRecord<Record>::Make() const
+{
+    try {
+        constexpr std::string_view kKey = Record::kKey;
+        Json::Value document(Json::objectValue);
+        Json::Value& target = kKey.empty() ? document : document[Record::kKey];
+        target = root;
+        json::WriteFields(target, static_cast<const Record&>(*this));
+        return document.toStyledString();
+    } catch (...) {  // callers are exported, and nothing is thrown at clients
+        return {};
+    }
+}
+
+}  // namespace CapabilitySet
