@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <new>
+#include <string_view>
 
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
@@ -155,18 +156,52 @@ bool RanOutOfMemory()
     return error != nullptr && error->code == XML_ERR_NO_MEMORY;
 }
 
-/// Puts the text before the context as its only input.
-bool Feed(xmlParserCtxt* context, const char* text, int length, Form form)
+/// Whether the parser takes the text as UTF-8 whatever follows its first line: it guesses nothing
+/// from a "<", and no other encoding is declared.
+bool IsPlainUtf8(std::string_view text)
 {
-    xmlParserInputBuffer* buffer =
-        xmlParserInputBufferCreateMem(text, length, XML_CHAR_ENCODING_NONE);
+    if (text.empty() || text.front() != '<')
+        return false;
+    if (text.substr(0, 5) != "<?xml")
+        return true;
+    const std::string_view declaration = text.substr(0, text.find("?>"));
+    constexpr std::string_view kEncoding = "encoding";
+    const std::size_t at = declaration.find(kEncoding);
+    if (at == std::string_view::npos)
+        return true;
+    const std::string_view value = declaration.substr(at + kEncoding.size());
+    return value.find(kEncoding) == std::string_view::npos &&
+           (value.substr(0, 8) == "=\"UTF-8\"" || value.substr(0, 8) == "=\"utf-8\"");
+}
+
+/// An input that the parser reads where the text stands. It cannot change its encoding. The parser
+/// stops at the NUL behind the text, and frees nothing of it.
+xmlParserInput* InputInPlace(xmlParserCtxt* context, std::string_view text)
+{
+    return xmlNewStringInputStream(context, reinterpret_cast<const xmlChar*>(text.data()));
+}
+
+/// An input that can be converted while it is read, from a copy of the text.
+xmlParserInput* InputOfCopy(xmlParserCtxt* context, std::string_view text)
+{
+    xmlParserInputBuffer* const buffer = xmlParserInputBufferCreateMem(
+        text.data(), static_cast<int>(text.size()), XML_CHAR_ENCODING_NONE);
     if (buffer == nullptr)
-        return false;
-    xmlParserInput* input = xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
-    if (input == nullptr) {
+        return nullptr;
+    xmlParserInput* const input = xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
+    if (input == nullptr)
         xmlFreeParserInputBuffer(buffer);
+    return input;
+}
+
+/// Puts the text, which ends in a NUL, before the context as its only input.
+bool Feed(xmlParserCtxt* context, std::string_view text, Form form)
+{
+    const bool inPlace = form == Form::Plain && IsPlainUtf8(text);
+    xmlParserInput* const input =
+        inPlace ? InputInPlace(context, text) : InputOfCopy(context, text);
+    if (input == nullptr)
         return false;
-    }
     if (inputPush(context, input) < 0) {
         xmlFreeInputStream(input);
         return false;
@@ -197,7 +232,7 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
         xmlCtxtReset(context.get());
 
     if (length == 0 || length > static_cast<std::size_t>(INT_MAX) ||
-        !Feed(context.get(), text.c_str(), static_cast<int>(length), form)) {
+        !Feed(context.get(), {text.c_str(), length}, form)) {
         problem = LastProblem();
         return nullptr;
     }
@@ -209,6 +244,9 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
         problem = LastProblem();
         return nullptr;
     }
+    // A kept context keeps neither the caller's text nor a copy of it.
+    while (xmlParserInput* const input = inputPop(context.get()))
+        xmlFreeInputStream(input);
     // Only after a clean parse is the context as good as new, and worth keeping.
     if (xmlDictGetUsage(context->dict) <= kMostDictionaryBytes)
         kept[static_cast<int>(form)] = std::move(context);
