@@ -1,0 +1,151 @@
+// An SDK that answers from a script and notes every call.
+// SPDX-License-Identifier: Apache-2.0
+#include "support/ScriptedSdk.h"
+
+#include <algorithm>
+#include <cstring>
+#include <mutex>
+
+#include "support/AllocationFaults.h"
+
+namespace TestSupport
+{
+namespace
+{
+
+std::mutex guard;
+std::size_t made = 0;
+thread_local unsigned lastError = 0;
+
+template <class Bytes>
+bool AllZero(const Bytes* bytes, std::size_t size)
+{
+    const auto* begin = reinterpret_cast<const unsigned char*>(bytes);
+    return std::all_of(begin, begin + size, [](unsigned char byte) { return byte == 0; });
+}
+
+/// Of a large buffer only the ends are looked at: reading a mapping costs its pages.
+bool LooksZeroed(const char* buffer, std::size_t size)
+{
+    constexpr std::size_t kEnd = 64 * 1024;
+    return size <= 2 * kEnd ? AllZero(buffer, size)
+                            : AllZero(buffer, kEnd) && AllZero(buffer + size - kEnd, kEnd);
+}
+
+std::string Copy(const void* bytes, std::size_t size)
+{
+    return bytes == nullptr ? std::string() : std::string(static_cast<const char*>(bytes), size);
+}
+
+/// Notes the call and plays the next step into the buffer.
+int Play(SdkCall call, void* buffer, unsigned size, unsigned* returnedSize)
+{
+    ScriptedSdk& sdk = ScriptedSdk::Instance();
+    const std::lock_guard lock(guard);
+    call.size = size;
+    call.isZeroed = LooksZeroed(static_cast<char*>(buffer), size);
+    SdkStep step;
+    if (const auto text = sdk.texts.find(call.code); text != sdk.texts.end())
+        step.answer = text->second;
+    else if (!sdk.steps.empty())
+        step = sdk.steps[std::min(made++, sdk.steps.size() - 1)];
+    if (sdk.keepsCalls)
+        sdk.calls.push_back(std::move(call));
+    lastError = step.error;
+    if (step.fills)
+        std::memset(buffer, 'x', size);
+    std::memcpy(buffer, step.answer.data(), std::min<std::size_t>(step.answer.size(), size));
+    if (returnedSize != nullptr)
+        *returnedSize = step.returnedSize;
+    return step.error == 0 ? 1 : 0;
+}
+
+}  // namespace
+
+ScriptedSdk& ScriptedSdk::Instance()
+{
+    static ScriptedSdk sdk;
+    return sdk;
+}
+
+ScriptedSdk& ScriptedSdk::Fresh()
+{
+    const std::lock_guard lock(guard);
+    made = 0;
+    lastError = 0;
+    return Instance() = ScriptedSdk();
+}
+
+}  // namespace TestSupport
+
+using TestSupport::NoAllocationFaults;
+using TestSupport::SdkCall;
+
+int NET_ORB_GetDeviceAbility(int userID, unsigned int abilityType, char* inBuffer,
+                             unsigned int inLength, char* outBuffer, unsigned int outLength)
+{
+    const NoAllocationFaults pause;
+    SdkCall call{.kind = SdkCall::DeviceAbility, .userID = userID, .code = abilityType};
+    call.hasInput = inBuffer != nullptr;
+    call.input = TestSupport::Copy(inBuffer, inLength);
+    call.isWellFilled = call.hasInput == (inLength > 0);
+    return TestSupport::Play(std::move(call), outBuffer, outLength, nullptr);
+}
+
+int NET_ORB_GetSTDAbility(int userID, unsigned int abilityCode, tagNET_ORB_STD_ABILITY* ability)
+{
+    const NoAllocationFaults pause;
+    SdkCall call{.kind = SdkCall::StandardAbility, .userID = userID, .code = abilityCode};
+    call.hasInput = ability->conditionBuffer != nullptr;
+    call.input = TestSupport::Copy(ability->conditionBuffer, ability->conditionSize);
+    call.isWellFilled = ability->statusBuffer == nullptr && ability->statusSize == 0 &&
+                        ability->returnedSize == 0 &&
+                        TestSupport::AllZero(ability->reserved, sizeof ability->reserved);
+    return TestSupport::Play(std::move(call), ability->outBuffer, ability->outSize,
+                             &ability->returnedSize);
+}
+
+int NET_ORB_STDXMLConfig(int userID, tagNET_ORB_XML_CONFIG_INPUT* input,
+                         tagNET_ORB_XML_CONFIG_OUTPUT* output)
+{
+    const NoAllocationFaults pause;
+    SdkCall call{.kind = SdkCall::Transparent, .userID = userID};
+    call.line = TestSupport::Copy(input->requestUrl, input->requestUrlLength);
+    call.hasInput = input->inBuffer != nullptr;
+    call.input = TestSupport::Copy(input->inBuffer, input->inBufferSize);
+    call.isWellFilled = input->size == 56 && output->size == 56 && input->flag == 0 &&
+                        input->receiveTimeout == 0 && output->returnedSize == 0 &&
+                        output->statusBuffer == nullptr && output->statusSize == 0 &&
+                        call.hasInput == (input->inBufferSize > 0) &&
+                        TestSupport::AllZero(input->reserved, sizeof input->reserved) &&
+                        TestSupport::AllZero(output->reserved, sizeof output->reserved);
+    return TestSupport::Play(std::move(call), output->outBuffer, output->outBufferSize,
+                             &output->returnedSize);
+}
+
+unsigned int NET_ORB_GetLastError(void)
+{
+    return TestSupport::lastError;
+}
+
+int NET_ORB_GetLastErrorModelCode(int* errModelCode, int* errDevSelfEx)
+{
+    const auto& sdk = TestSupport::ScriptedSdk::Instance();
+    if (!sdk.modelCode)
+        return 0;
+    *errModelCode = *sdk.modelCode;
+    *errDevSelfEx = sdk.deviceCode;
+    return 1;
+}
+
+int NET_ORB_SDKChannelToTARN(int userID, int channel, int /*mode*/)
+{
+    const NoAllocationFaults pause;
+    auto& sdk = TestSupport::ScriptedSdk::Instance();
+    const std::lock_guard lock(TestSupport::guard);
+    if (sdk.keepsCalls)
+        sdk.calls.push_back(
+            {.kind = SdkCall::Channel, .userID = userID, .code = static_cast<unsigned>(channel)});
+    TestSupport::lastError = sdk.channelError;
+    return sdk.channelError != 0 ? -1 : channel + sdk.channelStep;
+}

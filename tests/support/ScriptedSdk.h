@@ -1,0 +1,62 @@
+// An SDK that answers from a script and notes every call: linked in place of the bundled one.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "PelNetSDK/PelNetSDK.h"
+
+namespace TestSupport
+{
+
+/// One call as the SDK saw it.
+struct SdkCall
+{
+    enum Kind
+    {
+        DeviceAbility,
+        StandardAbility,
+        Transparent,
+        Channel
+    };
+    Kind kind = DeviceAbility;
+    int userID = 0;
+    unsigned code = 0;         ///< ability code, or the channel to be converted
+    bool hasInput = false;     ///< an input pointer was passed
+    std::string input{};       ///< request XML, condition bytes or body
+    std::string line{};        ///< request line
+    unsigned size = 0;         ///< of the answer buffer
+    bool isZeroed = false;     ///< the answer buffer was all zero
+    bool isWellFilled = true;  ///< the structures' size fields, and everything unused zero
+};
+
+/// What a call answers: an error, or a text.
+struct SdkStep
+{
+    unsigned error = 0;
+    std::string answer{};
+    bool fills = false;         ///< fills the buffer to its last byte, without a NUL
+    unsigned returnedSize = 0;  ///< what the SDK says of the answer's size
+};
+
+/// The script. Set it before calls are made; calls may come from many threads.
+struct ScriptedSdk
+{
+    std::vector<SdkStep> steps;             ///< one a call; the last one answers all further calls
+    std::map<unsigned, std::string> texts;  ///< answers by ability code, before any step
+    std::optional<int> modelCode;           ///< none: the outputs of the model code are left alone
+    int deviceCode = 7;
+    int channelStep = 32;        ///< added by the channel conversion
+    unsigned channelError = 0;   ///< the conversion fails with this
+    std::vector<SdkCall> calls;  ///< kept only while `keepsCalls`
+    bool keepsCalls = true;
+
+    static ScriptedSdk& Instance();
+    /// Back to an SDK without a script.
+    static ScriptedSdk& Fresh();
+};
+
+}  // namespace TestSupport
