@@ -3,7 +3,6 @@
 #include "PelNetSDK/AnswerBody.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace PelNet
@@ -77,7 +76,7 @@ std::size_t AnswerBody::CopyTo(void* target, std::size_t count) const noexcept
         if (part == 0) {
             break;
         }
-        std::memcpy(to + copied, block.data(), part);
+        block.copy(to + copied, part);
         copied += part;
     }
     return copied;

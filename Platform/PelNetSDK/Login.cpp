@@ -64,7 +64,7 @@ Failure JudgeProof(const TransportAnswer& answer)
     // Any web server has an answer to everything; a device asks for the password, gives the
     // channel's number, or speaks in the words of the protocol.
     const bool number =
-        answered && !text.empty() && text.find_first_not_of("0123456789 \r\n") == text.npos;
+        answered && !text.empty() && text.find_first_not_of("0123456789 \r\n") == std::string::npos;
     return {
         answer.passwordChecked || document || number ? NET_ORB_NOERROR : NET_ORB_NETWORK_ERRORDATA,
         0, 0};
