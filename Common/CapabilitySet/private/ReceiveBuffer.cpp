@@ -64,7 +64,7 @@ void ReceiveBuffer::Release()
 {
     if (mapped_ != 0)
         UnmapPages(data_, mapped_);
-    else
+    else if (data_ != first_.data())
         std::free(data_);
     data_ = nullptr;
     mapped_ = 0;
@@ -78,7 +78,10 @@ char* ReceiveBuffer::Renew(std::size_t size)
         return data_;
     }
     Release();
-    if (size < kSmallestMapping || !Map(size))
+    if (size <= first_.size()) {
+        data_ = first_.data();
+        std::memset(data_, 0, size);
+    } else if (size < kSmallestMapping || !Map(size))
         data_ = static_cast<char*>(std::calloc(size, 1));
     if (data_ == nullptr)
         throw std::bad_alloc();

@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
 namespace CapabilitySet::query
 {
 
-/// Small buffers come from the heap. From 128 KiB on one mapping of the largest size serves all
-/// attempts of an operation: only what the SDK wrote to costs memory, and it is given back, not
-/// cleared, before the next attempt.
+/// Up to 16 KiB, the first attempt of most operations, it is the object itself, which so belongs on
+/// the stack; beyond that it comes from the heap. From 128 KiB on one mapping of the largest size
+/// serves all attempts of an operation: only what the SDK wrote to costs memory, and it is given
+/// back, not cleared, before the next attempt.
 class ReceiveBuffer
 {
 public:
@@ -37,6 +39,7 @@ private:
     std::size_t size_ = 0;
     std::size_t mapped_ = 0;  ///< bytes of the mapping, 0: the buffer is on the heap
     char* data_ = nullptr;
+    std::array<char, 16384> first_;  // cleared as far as it is asked for
 };
 
 }  // namespace CapabilitySet::query
