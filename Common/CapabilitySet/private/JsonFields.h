@@ -45,6 +45,12 @@ inline void ReadValue(const Json::Value& value, std::string& member)
         member = value.asString();
 }
 
+/// A value that is kept as it is.
+inline void ReadValue(const Json::Value& value, Json::Value& member)
+{
+    member = value;
+}
+
 /// A nested part with a Parse of its own.
 template <class Part>
 auto ReadValue(const Json::Value& value, Part& member) -> decltype(member.Parse(value))

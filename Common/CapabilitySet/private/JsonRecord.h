@@ -40,16 +40,12 @@ void JsonRecord<Record>::Parse(const std::string& text)
 template <class Record>
 std::string JsonRecord<Record>::Make() const
 {
-    try {
+    return json::MakeText([this](Json::Value& document) {
         constexpr std::string_view kKey = Record::kKey;
-        Json::Value document(Json::objectValue);
         Json::Value& target = kKey.empty() ? document : document[Record::kKey];
         target = root;
         json::WriteFields(target, static_cast<const Record&>(*this));
-        return document.toStyledString();
-    } catch (...) {  // callers are exported, and nothing is thrown at clients
-        return {};
-    }
+    });
 }
 
 }  // namespace CapabilitySet

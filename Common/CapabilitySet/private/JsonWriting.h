@@ -93,4 +93,17 @@ void WriteFields(Json::Value& target, const Record& record)
     Record::Fields(record, FieldWriter(target));
 }
 
+/// The styled text of a document that `write` fills; empty when memory ran out. Never throws.
+template <class Write>
+std::string MakeText(Write&& write)
+{
+    try {
+        Json::Value document(Json::objectValue);
+        write(document);
+        return document.toStyledString();
+    } catch (...) {  // callers are exported, and nothing is thrown at clients
+        return {};
+    }
+}
+
 }  // namespace CapabilitySet::json

@@ -1,0 +1,22 @@
+// What an alarm host tells of its communication, zones, subsystems, outputs and log.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/JsonTARN/JsonConfig/AlarmHostStatus.h"
+
+#include "CapabilitySet/private/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+template struct JsonPart<AlarmHostZone>;
+template struct JsonPart<AlarmHostSubSystem>;
+template struct JsonPart<OutputLinkage>;
+template struct JsonPart<TriggerConfig>;
+template struct JsonPart<AlarmHostDeviceLogMatchItem>;
+
+template struct JsonRecord<AlarmHostCommunicationStatus>;
+template struct JsonRecord<AlarmHostZoneConfig>;
+template struct JsonRecord<AlarmHostSubSystemConfig>;
+template struct JsonRecord<TriggerListConfig>;
+template struct JsonRecord<AlarmHostDeviceLogResult>;
+
+}  // namespace CapabilitySet

@@ -1,0 +1,108 @@
+// Fire detectors: their states, and how their alarms are silenced.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "CapabilitySet/JsonTARN/JsonLimits.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/private/FieldTags.h"
+
+namespace CapabilitySet
+{
+
+// Members bear the names of their keys.
+
+/// State of one sensor of a detector, sent as an object with "status" or as the bare word.
+struct CAPABILITYSET_API DetectorSensor
+{
+    bool present = false;
+    std::string status;
+
+    void Parse(const Json::Value& value);
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("status", r.status);
+    }
+};
+
+/// State of one detector.
+struct CAPABILITYSET_API DetectorStatus : JsonPart<DetectorStatus>
+{
+    std::string status;  ///< "normal" or "abnormal"
+    DetectorSensor Gas;  ///< "preheating", "preheated" or "expired"
+    DetectorSensor Temperature;
+    DetectorSensor Smoke;
+    DetectorSensor Shelter;  ///< the detector is covered
+    DetectorSensor Motion;
+    DetectorSensor Tamper;  ///< the housing was opened
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("status", r.status);
+        field("Gas", r.Gas);
+        field("Temperature", r.Temperature);
+        field("Smoke", r.Smoke);
+        field("Shelter", r.Shelter);
+        field("Motion", r.Motion);
+        field("Tamper", r.Tamper);
+    }
+};
+
+/// The detectors of a host.
+struct CAPABILITYSET_API DetectorStates : JsonRecord<DetectorStates>
+{
+    static constexpr const char* kKey = "";
+
+    std::vector<DetectorStatus> detectors;
+
+    DetectorStates() = default;
+    explicit DetectorStates(const std::string& text) { Parse(text); }
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("List", r.detectors, as::Wrapped{"DetectorStatus"});
+    }
+};
+
+/// Commands that one channel's detectors take.
+struct CAPABILITYSET_API ChannelDetectorCap : JsonPart<ChannelDetectorCap>
+{
+    JsonLimits id;
+    JsonLimits cmd;
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("id", r.id);
+        field("cmd", r.cmd);
+    }
+};
+
+/// Commands that detectors take.
+struct CAPABILITYSET_API DetectorSilenceCap : JsonRecord<DetectorSilenceCap>
+{
+    static constexpr const char* kKey = "DetectorAlarmCap";
+
+    JsonLimits id;
+    JsonLimits cmd;
+    std::vector<ChannelDetectorCap> channels;
+
+    DetectorSilenceCap() = default;
+    explicit DetectorSilenceCap(const std::string& text) { Parse(text); }
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("id", r.id);
+        field("cmd", r.cmd);
+        field("ChannelDetectorCapList", r.channels, as::Wrapped{"ChannelID"});
+    }
+};
+
+}  // namespace CapabilitySet

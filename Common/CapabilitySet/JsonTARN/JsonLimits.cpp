@@ -1,0 +1,12 @@
+// The limits and options of a JSON capability member.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/JsonTARN/JsonLimits.h"
+
+#include "CapabilitySet/private/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+template struct JsonPart<JsonLimits>;
+
+}  // namespace CapabilitySet
