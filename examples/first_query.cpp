@@ -14,8 +14,7 @@ int main(int argc, char** argv)
 
     CapabilitySet::BasicCapability out;
     unsigned int err = NET_ORB_GetLastError();
-    if (userID < 0 || !CapabilitySet::BasicCapability::GetBasicCapability(out, err, userID))
-    {
+    if (userID < 0 || !CapabilitySet::BasicCapability::GetBasicCapability(out, err, userID)) {
         std::cerr << "no answer: " << NET_ORB_GetErrorText(err) << " (" << err << ")\n";
         return 1;
     }

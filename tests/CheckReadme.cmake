@@ -27,7 +27,7 @@ if(CAPSET)
   execute_process(COMMAND ${CAPSET} show sim:dome BasicCapability OUTPUT_VARIABLE output
                   COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL "[^\n]*\n" lines "${output}")
-  list(SUBLIST lines 0 8 lines)
+  list(SUBLIST lines 0 16 lines)
   string(CONCAT head ${lines})
   expect("the first lines of capset" "$ capset show sim:dome BasicCapability\n${head}")
 endif()

@@ -22,8 +22,7 @@ int NET_ORB_GetDeviceAbility(int userID, unsigned int abilityType, char*, unsign
 {
     const bool known = userID == 5 && abilityType == 1 && outLength >= sizeof kDocument;
     lastError = known ? NET_ORB_NOERROR : NET_ORB_ABILITY_FAILED;
-    if (known)
-    {
+    if (known) {
         std::memcpy(outBuffer, kDocument, sizeof kDocument);
     }
     return known ? 1 : 0;
