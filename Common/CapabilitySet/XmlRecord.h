@@ -13,7 +13,8 @@ namespace CapabilitySet
 {
 
 /// A record whose element is named `Record::kElement` and whose field list is read and written
-/// alike: what it writes, it reads back as the same record. Capable when an element was read.
+/// alike: what it writes, it reads back as the same record. Capable when an element was read. A
+/// record that is sent as a document of its own states the version it is sent in, `kVersion`.
 template <class Record>
 struct CAPABILITYSET_API XmlRecord : CBaseCapability
 {
@@ -27,10 +28,11 @@ struct CAPABILITYSET_API XmlRecord : CBaseCapability
     /// until it is linked into a parent or a document. Null when memory ran out.
     [[nodiscard]] _xmlNode* CreateXmlNodePtr() const;
 
-protected:
-    /// The record as a request body whose root carries this version, unless that is empty. Texts
-    /// are expected in the client's ANSI code page. Empty when anything fails.
-    [[nodiscard]] std::string MakeDocument(const char* version) const;
+    /// The record as a request body whose root carries the record's version, unless that is empty.
+    /// Texts are expected in the client's ANSI code page, up to their first NUL; characters that no
+    /// XML document can hold are dropped. Empty when memory ran out.
+    [[nodiscard]] std::string createXml() const
+        requires requires { Record::kVersion; };
 };
 
 }  // namespace CapabilitySet

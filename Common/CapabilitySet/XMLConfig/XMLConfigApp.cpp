@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 
-#include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/RecordRequests.h"
 #include "CapabilitySet/private/XmlRecord.h"
 
 namespace CapabilitySet
@@ -19,30 +19,14 @@ template struct XmlRecord<CMSearchDescription>;
 
 std::string ConfigCapXML::MakeSearchDesXML(const CMSearchDescription& description)
 {
-    return description.MakeDocument("1.0");
+    return description.createXml();
 }
 
 ParseXmlHelper::InterfaceRet ConfigCapXML::SearchContent(const CMSearchDescription& description,
                                                          CMSearchResult& out, const int userID)
 {
-    ParseXmlHelper::InterfaceRet result{false, 2, static_cast<int>(query::kNotSupported)};
-    unsigned int err = 0;
-    query::Guarded(err, [&] {
-        out = CMSearchResult();
-        std::string answer;
-        std::string status;
-        auto sent = ParseXmlHelper::SDKInterfaceManager::instance().TransparentRequset(
-            userID, "POST /TARN/ContentMgmt/search\r\n", MakeSearchDesXML(description), answer,
-            status, 0, false);
-        if (sent.success) {
-            out.Parse(answer);
-            if (!out.Capable())
-                return false;
-        }
-        result = sent;
-        return true;
-    });
-    return result;
+    return ParseXmlHelper::SearchRecord(description, out, userID,
+                                        "POST /TARN/ContentMgmt/search\r\n", CAPABILITYSET_HERE);
 }
 
 }  // namespace CapabilitySet

@@ -138,6 +138,7 @@ struct CAPABILITYSET_API MetaDataList : XmlRecord<MetaDataList>
 struct CAPABILITYSET_API CMSearchDescription : XmlRecord<CMSearchDescription>
 {
     static constexpr const char* kElement = "CMSearchDescription";
+    static constexpr const char* kVersion = "1.0";
 
     std::string searchID;  ///< of the client's choice, the same for all pages of one search
     TrackIDList trackIDList;
@@ -162,9 +163,6 @@ struct CAPABILITYSET_API CMSearchDescription : XmlRecord<CMSearchDescription>
         field("searchResultPosition", r.searchResultPosition);
         field("metadataList", r.metadataList);
     }
-
-private:
-    friend class ConfigCapXML;
 };
 
 /// One page of a search's result, as the device tells it.
@@ -182,8 +180,8 @@ public:
     /// The body of a content search; empty when memory ran out.
     static std::string MakeSearchDesXML(const CMSearchDescription& description);
 
-    /// Asks for one page of a search. `out` is reset first. A device that answers with anything
-    /// but a search result is error 23 of type 2.
+    /// Asks for one page of a search. `out` is reset first and stays at its defaults on failure; a
+    /// device that answers with anything but a search result is error 23 of type 2.
     static ParseXmlHelper::InterfaceRet SearchContent(const CMSearchDescription& description,
                                                       CMSearchResult& out, const int userID);
 };

@@ -61,11 +61,6 @@ struct ResponseStatus
     }
 };
 
-void Cut(std::string& text, std::size_t size)
-{
-    text.resize(std::min(text.size(), size));
-}
-
 }  // namespace
 
 struct SDKInterfaceManager::CallBacks
@@ -75,22 +70,25 @@ struct SDKInterfaceManager::CallBacks
     std::function<int(int, const std::string&)> xmlErrorTrans;
 };
 
-/// One request: its structures, and the buffers that grow while the SDK asks for more room.
+/// One request: its structures, and the buffers that grow while the SDK asks for more room. However
+/// it ends, the caller's answer is cut to the size that the SDK reported for the last call.
 class SDKInterfaceManager::Exchange
 {
 public:
     Exchange(const std::string& line, const std::string& body, std::string& answer,
              unsigned long timeout, bool flag)
-        : wantsAnswer_(answer != kNotWanted),
+        : line_(line),
+          body_(body),
+          wantsAnswer_(answer != kNotWanted),
           answer_(wantsAnswer_ ? answer : ownAnswer_),
           status_(kFirstStatus, '\0')
     {
         input_.size = sizeof input_;
-        input_.requestUrl = const_cast<char*>(line.data());
-        input_.requestUrlLength = static_cast<unsigned int>(line.size());
-        if (!body.empty()) {
-            input_.inBuffer = const_cast<char*>(body.data());
-            input_.inBufferSize = static_cast<unsigned int>(body.size());
+        input_.requestUrl = line_.data();
+        input_.requestUrlLength = static_cast<unsigned int>(line_.size());
+        if (!body_.empty()) {
+            input_.inBuffer = body_.data();
+            input_.inBufferSize = static_cast<unsigned int>(body_.size());
         }
         input_.receiveTimeout = static_cast<unsigned int>(
             std::min<unsigned long>(timeout, std::numeric_limits<unsigned int>::max()));
@@ -102,6 +100,9 @@ public:
         }
         PassStatus();
     }
+    ~Exchange() { answer_.resize(std::min<std::size_t>(answer_.size(), output_.returnedSize)); }
+    Exchange(const Exchange&) = delete;
+    Exchange& operator=(const Exchange&) = delete;
 
     bool Send(int userID) { return NET_ORB_STDXMLConfig(userID, &input_, &output_) != 0; }
 
@@ -131,8 +132,6 @@ public:
         return status_.substr(0, std::min<std::size_t>(status_.size(), output_.returnedSize));
     }
 
-    void CutAnswer() { Cut(answer_, output_.returnedSize); }
-
 private:
     void PassAnswer()
     {
@@ -148,6 +147,8 @@ private:
 
     tagNET_ORB_XML_CONFIG_INPUT input_{};
     tagNET_ORB_XML_CONFIG_OUTPUT output_{};
+    std::string line_;  ///< copies: callers may receive the answer where the request stood
+    std::string body_;
     bool wantsAnswer_;
     std::string ownAnswer_;
     std::string& answer_;  ///< the caller's, or our own when the caller wants none
@@ -214,7 +215,6 @@ InterfaceRet SDKInterfaceManager::TransparentRequset(int userID, const std::stri
         result = Carry(exchange, userID, type);
         if (result.success && wantsStatus && exchange.HasStatus())
             status = exchange.Status();
-        exchange.CutAnswer();
         return true;
     });
     return result;

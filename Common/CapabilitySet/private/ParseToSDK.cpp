@@ -49,9 +49,9 @@ constexpr OptionCodes::Entry kWorkModesEntries[] = {{"narrowBand", NarrowBand},
                                                     {"inquestSensor", InquestSensor}};
 const OptionCodes kWorkModes{"WorkModeType", kWorkModesEntries};
 
-// Kept: support staff search logs for this spelling, which is not the type's.
 constexpr OptionCodes::Entry kOutputDataTypesEntries[] = {{"cardNo", CardNo},
                                                           {"employeeNo", EmployeeNo}};
+// Kept: support staff search logs for this spelling, which is not the type's.
 const OptionCodes kOutputDataTypes{"OutputDataType", kOutputDataTypesEntries};
 
 template <class Type>

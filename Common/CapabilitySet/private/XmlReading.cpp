@@ -7,7 +7,7 @@
 #include <memory>
 #include <new>
 
-#include <libxml/xmlerror.h>
+#include "CapabilitySet/private/QuietLibxml.h"
 
 namespace CapabilitySet::xml
 {
@@ -43,10 +43,9 @@ std::string_view View(const xmlChar* text)
 template <class Copy>
 std::string_view Keep(Copy&& copy, std::string& spare)
 {
-    xmlResetLastError();
+    const QuietLibxml quiet;
     const XmlText text(copy());
-    const xmlError* const error = xmlGetLastError();
-    if (text == nullptr || (error != nullptr && error->code == XML_ERR_NO_MEMORY))
+    if (text == nullptr || QuietLibxml::RanOutOfMemory())
         throw std::bad_alloc();
     spare = View(text.get());
     return spare;

@@ -28,9 +28,10 @@ _xmlNode* XmlRecord<Record>::CreateXmlNodePtr() const
 }
 
 template <class Record>
-std::string XmlRecord<Record>::MakeDocument(const char* version) const
+std::string XmlRecord<Record>::createXml() const
+    requires requires { Record::kVersion; }
 {
-    return xml::DumpDocument(CreateXmlNodePtr(), version);
+    return xml::DumpDocument(CreateXmlNodePtr(), Record::kVersion);
 }
 
 }  // namespace CapabilitySet

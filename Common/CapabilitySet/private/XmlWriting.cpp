@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <new>
+#include <string_view>
 
 #include <libxml/globals.h>
 
@@ -21,23 +22,71 @@ const xmlChar* Chars(const char* text)
     return reinterpret_cast<const xmlChar*>(text);
 }
 
-/// Indents whatever the client has set for this thread, and leaves that as it was.
-class Indentation
+/// Sets what shapes a document whatever the client has set for this thread, and leaves the client's
+/// settings as they were.
+class OutputForm
 {
 public:
-    Indentation() : before_(xmlIndentTreeOutput) { xmlIndentTreeOutput = 1; }
-    ~Indentation() { xmlIndentTreeOutput = before_; }
-    Indentation(const Indentation&) = delete;
-    Indentation& operator=(const Indentation&) = delete;
+    OutputForm()
+        : indents_(xmlIndentTreeOutput),
+          indentation_(xmlTreeIndentString),
+          keepsTags_(xmlSaveNoEmptyTags)
+    {
+        xmlIndentTreeOutput = 1;
+        xmlTreeIndentString = "  ";
+        xmlSaveNoEmptyTags = 0;
+    }
+    ~OutputForm()
+    {
+        xmlIndentTreeOutput = indents_;
+        xmlTreeIndentString = indentation_;
+        xmlSaveNoEmptyTags = keepsTags_;
+    }
+    OutputForm(const OutputForm&) = delete;
+    OutputForm& operator=(const OutputForm&) = delete;
 
 private:
-    int before_;
+    int indents_;
+    const char* indentation_;
+    int keepsTags_;
 };
 
 struct FreeText
 {
     void operator()(xmlChar* text) const { xmlFree(text); }
 };
+
+/// Drops what no XML document can hold in any spelling: control characters but tab and line ends,
+/// and the two non-characters U+FFFE and U+FFFF. libxml2 would write them as they are.
+void DropForbidden(std::string& utf8)
+{
+    const auto isControl = [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
+    };
+    std::erase_if(utf8, isControl);
+    constexpr std::string_view kNonCharacters = "\xEF\xBF";
+    for (std::size_t at = 0; (at = utf8.find(kNonCharacters, at)) != std::string::npos;) {
+        const char last = at + 2 < utf8.size() ? utf8[at + 2] : '\0';
+        if (last == '\xBE' || last == '\xBF')
+            utf8.erase(at, 3);
+        else
+            at += kNonCharacters.size();
+    }
+}
+
+std::string Dump(xmlDoc* document)
+{
+    xmlChar* text = nullptr;
+    int length = 0;
+    const OutputForm form;
+    xmlDocDumpFormatMemoryEnc(document, &text, &length, "UTF-8", 1);
+    const std::unique_ptr<xmlChar, FreeText> owner(text);
+    if (text == nullptr || QuietLibxml::RanOutOfMemory())
+        return {};
+    std::string body = CodePage::AnsiToUtf8(reinterpret_cast<const char*>(text));
+    DropForbidden(body);
+    return body;
+}
 
 }  // namespace
 
@@ -51,6 +100,12 @@ void AddText(xmlNode* parent, const char* name, const std::string& text)
     // Not xmlNewChild, which takes its text for XML and loses what stands behind an "&".
     if (xmlNewTextChild(parent, nullptr, Chars(name), Chars(text.c_str())) == nullptr)
         throw std::bad_alloc();
+}
+
+xmlNode* Whole(xmlNode* element)
+{
+    std::unique_ptr<xmlNode, FreeNode> owner(element);
+    return QuietLibxml::RanOutOfMemory() ? nullptr : owner.release();
 }
 
 void AddChild(xmlNode* parent, xmlNode* child)
@@ -71,22 +126,17 @@ std::string DumpDocument(xmlNode* root, const char* version)
 {
     if (root == nullptr)
         return {};
+    const QuietLibxml quiet;
     const Document document(xmlNewDoc(Chars("1.0")));
     if (document == nullptr) {
         xmlFreeNode(root);
         return {};
     }
     xmlDocSetRootElement(document.get(), root);
-    if (*version != '\0')
-        xmlNewProp(root, Chars("version"), Chars(version));
-    xmlChar* text = nullptr;
-    int length = 0;
-    const Indentation indentation;
-    xmlDocDumpFormatMemoryEnc(document.get(), &text, &length, "UTF-8", 1);
-    const std::unique_ptr<xmlChar, FreeText> owner(text);
+    if (*version != '\0' && xmlNewProp(root, Chars("version"), Chars(version)) == nullptr)
+        return {};
     try {
-        return text == nullptr ? std::string()
-                               : CodePage::AnsiToUtf8(reinterpret_cast<const char*>(text));
+        return Dump(document.get());
     } catch (...) {  // callers are exported, and nothing is thrown at clients
         return {};
     }

@@ -6,11 +6,11 @@
 #include <memory>
 #include <string>
 #include <type_traits>
-#include <vector>
 
 #include <libxml/tree.h>
 
 #include "CapabilitySet/private/FieldTags.h"
+#include "CapabilitySet/private/QuietLibxml.h"
 
 namespace CapabilitySet::xml
 {
@@ -18,10 +18,19 @@ namespace CapabilitySet::xml
 /// Makes an unlinked element; the caller owns it. Null when memory ran out.
 xmlNode* NewElement(const char* name);
 
-/// Adds a child that holds a text, escaped; an empty text gives an empty element.
+/// Adds a child that holds a text up to its first NUL, escaped; an empty text gives an empty
+/// element.
 void AddText(xmlNode* parent, const char* name, const std::string& text);
 
-/// Links `child` below `parent`, which then owns it; null is left out.
+struct FreeNode
+{
+    void operator()(xmlNode* node) const { xmlFreeNode(node); }
+};
+
+/// The element, or null, the element freed, when memory has run out since QuietLibxml began.
+xmlNode* Whole(xmlNode* element);
+
+/// Links `child` below `parent`, which then owns it; null is memory that ran out: std::bad_alloc.
 void AddChild(xmlNode* parent, xmlNode* child);
 
 inline std::string TextOfValue(const std::string& value)
@@ -44,26 +53,19 @@ std::string TextOfValue(Number value)
 /// Shortest form that reads back the same, whatever the client's locale.
 std::string TextOfValue(double value);
 
-/// A record that makes its own element.
-template <class Type>
-concept MakesNode = requires(const Type& r) {
-    {
-        r.CreateXmlNodePtr()
-    } -> std::convertible_to<_xmlNode*>;
-};
-
 template <class Record>
 xmlNode* MakeNode(const Record& record, const char* name);
 
-/// Writes one member below `parent`.
+/// Writes one member below `parent`; an item that points nowhere is left out.
 template <class Member>
 void WriteMember(xmlNode* parent, const char* name, const Member& member)
 {
     if constexpr (requires { TextOfValue(member); })
         AddText(parent, name, TextOfValue(member));
-    else if constexpr (requires { *member; })
-        WriteMember(parent, name, *member);
-    else
+    else if constexpr (requires { *member; }) {
+        if (member != nullptr)
+            WriteMember(parent, name, *member);
+    } else
         AddChild(parent, MakeNode(member, name));
 }
 
@@ -101,29 +103,27 @@ xmlNode* MakeNode(const Record& record, const char* name)
     xmlNode* const element = NewElement(name);
     if (element == nullptr)
         return nullptr;
-    struct FreeNode
-    {
-        void operator()(xmlNode* node) const { xmlFreeNode(node); }
-    };
     std::unique_ptr<xmlNode, FreeNode> owner(element);
     Record::Fields(record, FieldWriter(element));
     return owner.release();
 }
 
-/// A record's element as CreateXmlNodePtr gives it: null instead of an exception.
+/// A record's element as CreateXmlNodePtr gives it: null instead of an exception, and instead of an
+/// element that memory ran out in.
 template <class Record>
 xmlNode* CreateNode(const Record& record, const char* name)
 {
+    const QuietLibxml quiet;
     try {
-        return MakeNode(record, name);
+        return Whole(MakeNode(record, name));
     } catch (...) {  // callers are exported, and nothing is thrown at clients
         return nullptr;
     }
 }
 
 /// The body that a root makes: an indented UTF-8 document whose root carries the version, unless
-/// that is empty; text that is in the client's ANSI code page is converted. Takes the root over.
-/// Empty when anything fails. Never throws.
+/// that is empty; text that is in the client's ANSI code page is converted, and characters that no
+/// XML document can hold are dropped. Takes the root over. Empty when anything fails. Never throws.
 std::string DumpDocument(xmlNode* root, const char* version);
 
 }  // namespace CapabilitySet::xml

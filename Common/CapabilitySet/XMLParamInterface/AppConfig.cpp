@@ -1,0 +1,13 @@
+// Applications installed on a device.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/XMLParamInterface/AppConfig.h"
+
+#include "CapabilitySet/private/XmlRecord.h"
+
+namespace CapabilitySet
+{
+
+template struct XmlRecord<App>;
+template struct XmlRecord<AppList>;
+
+}  // namespace CapabilitySet
