@@ -55,5 +55,6 @@ void AddShowCommands(CLI::App& app, CommandLine& line);
 void AddCallCommand(CLI::App& app, CommandLine& line);
 void AddParseCommand(CLI::App& app, CommandLine& line);
 void AddDeviceCommands(CLI::App& app, CommandLine& line);
+void AddMacCommand(CLI::App& app, CommandLine& line);
 
 }  // namespace Tool
