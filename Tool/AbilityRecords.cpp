@@ -6,6 +6,7 @@
 #include "CapabilitySet/ChannelAbility.h"
 #include "CapabilitySet/DisplayAbility.h"
 #include "CapabilitySet/DynChannelAbility.h"
+#include "CapabilitySet/EventAbility.h"
 #include "CapabilitySet/EventTriggerCapAbility.h"
 #include "CapabilitySet/IntercomAbility.h"
 #include "CapabilitySet/RecordAbility.h"
@@ -25,10 +26,10 @@ namespace
 std::vector<RecordEntry> DeviceRows()
 {
     return {
-        XmlRow("BasicCapability", "hardware, ports and software functions of the device",
+        XmlRow("BasicCapability", "hardware, ports and software functions",
                &BasicCapability::GetBasicCapability),
         XmlRow("DeviceCap", "system functions", &DeviceCap::GetDeviceCapability),
-        XmlRow("SystemDeviceCap", "system functions, as a client's system pages read them",
+        XmlRow("SystemDeviceCap", "system functions, as system pages read them",
                &SystemDeviceCap::GetSystemDeviceAbility),
         XmlRow("ClusterCapability", "storage clustering", &ClusterCapability::GetClusterCap),
         XmlRow("DiscoveryModeCap", "ways in which the device can be discovered",
@@ -36,7 +37,7 @@ std::vector<RecordEntry> DeviceRows()
         XmlRow("SecurityAbility", "login and certificate security",
                &SecurityAbility::GetSecurityAbility),
         XmlRow("UserAbility", "user management", &UserAbility::GetUserAbility, kPart),
-        XmlRow("NetAppAbility", "network applications: time, mail, dynamic names, platforms",
+        XmlRow("NetAppAbility", "time, mail, dynamic names, platform access",
                &NetAppAbility::GetNetAppAbility, kPart),
         XmlRow("RecordAbility", "recording: schedules, modes, streams, redundancy",
                &RecordAbility::GetRecordAbility),
@@ -49,7 +50,7 @@ std::vector<RecordEntry> DeviceRows()
                &VideoPlatformAbility::GetVideoPlatformAbility, kPart),
         XmlRow("CodeSubSystemAbility", "encoding subsystem of a video platform",
                &CodeSubSystemAbility::GetCodeSubSystemAbility, kChannel, kUnsentText),
-        XmlRow("AlarmHostAbility", "subsystems, zones, outputs and sirens of an alarm host",
+        XmlRow("AlarmHostAbility", "zones, outputs and sirens of an alarm host",
                &AlarmHostAbility::GetAlarmHostAbility, kExtended),
     };
 }
@@ -61,12 +62,12 @@ std::vector<RecordEntry> ChannelRows()
                &ChannelInfoAbility::GetChannelInfoAbility, kChannel, kUnsentText),
         XmlRow("ChannelInputAbility", "video input settings",
                &ChannelInputAbility::GetChannelInputAbility, kChannel, kUnsentText),
-        XmlRow("DynChannelAbility", "functions that depend on how a channel is set up",
+        XmlRow("DynChannelAbility", "functions that depend on a channel's setup",
                &DynChannelAbility::GetDynChannelAbility, kChannel),
         XmlRow("VideoPicAbility", "overlays, masks and motion areas of the picture",
                &VideoPicAbility::GetVideoPicAbility, kChannel, kUnsentText),
-        XmlRow("CameraPara", "camera front-end: exposure, white balance, day and night",
-               &CameraPara::GetCameraParam, kChannels),
+        XmlRow("CameraPara", "exposure, white balance, day and night", &CameraPara::GetCameraParam,
+               kChannels),
         XmlRow("AudioVideoCompressInfo", "audio and video compression",
                &AudioVideoCompressInfo::GetAudioVideoCompressInfo, kAudioChannel, kTalkChannel,
                kChannel),
@@ -89,6 +90,8 @@ std::vector<RecordEntry> EventRows()
                kChannel),
         XmlRow("AlarmForHelpAbility", "emergency help calls",
                &AlarmForHelpAbility::GetAlarmForHelpAbility, kChannel),
+        XmlRow("EventAbility", "events, their thresholds and the reactions to them",
+               &EventAbility::GetEventAbility, kChannel),
         XmlRow("EventTriggerCap", "trigger kinds and the reactions they allow",
                &EventTriggerCap::GetEventTriggerCapAbility, kChannel),
         XmlRow("VcaAbility", "video content analysis", &VcaAbility::GetVcaAbility, kChannel),
@@ -103,7 +106,7 @@ std::vector<RecordEntry> EventRows()
                &RegionBaggageCap::GetRegionBaggageAbility, kChannel),
         XmlRow("VehicleInfoResultCap", "what is told of a recognised vehicle",
                &VehicleInfoResultCap::GetVehicleInfoResultCapAbility, kChannel),
-        XmlRow("IntercomNoticeVideoAbility", "notices and videos shown on an intercom station",
+        XmlRow("IntercomNoticeVideoAbility", "notices and videos of an intercom station",
                &IntercomNoticeVideoAbility::GetNoticeVideoCapability, kChannel),
         XmlRow("IntercomDeviceIpViewAbility", "cameras that an intercom station can view",
                &IntercomDeviceIpViewAbility::GetIntercomDeviceIpViewAbility, kChannel),

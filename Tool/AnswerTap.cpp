@@ -36,8 +36,7 @@ AnswerTap::~AnswerTap()
 
 void AnswerTap::Hear(const char* buffer, std::size_t size)
 {
-    heard_ = true;
-    document_.assign(buffer, std::find(buffer, buffer + size, '\0'));
+    documents_.emplace_back(buffer, std::find(buffer, buffer + size, '\0'));
 }
 
 }  // namespace Tool

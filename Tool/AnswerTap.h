@@ -3,13 +3,14 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace Tool
 {
 
-/// Remembers the last document that reached the calling thread through the SDK's calls while the
-/// tap is open. The program is linked so that those calls pass by here (--wrap), whichever SDK
-/// stands behind them, and the library need not hand its documents out.
+/// Remembers the documents that reach the calling thread through the SDK's calls while the tap is
+/// open. The program is linked so that those calls pass by here (--wrap), whichever SDK stands
+/// behind them, and the library need not hand its documents out.
 class AnswerTap
 {
 public:
@@ -18,16 +19,14 @@ public:
     AnswerTap(const AnswerTap&) = delete;
     AnswerTap& operator=(const AnswerTap&) = delete;
 
-    /// Whether a document came.
-    [[nodiscard]] bool Heard() const { return heard_; }
-    /// The document up to its first NUL, as the library reads it.
-    [[nodiscard]] const std::string& Document() const { return document_; }
+    /// Each up to its first NUL, as the library reads it; a query may look into others beside its
+    /// own.
+    [[nodiscard]] const std::vector<std::string>& Documents() const { return documents_; }
 
     void Hear(const char* buffer, std::size_t size);
 
 private:
-    bool heard_ = false;
-    std::string document_;
+    std::vector<std::string> documents_;
 };
 
 }  // namespace Tool

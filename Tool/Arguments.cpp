@@ -25,11 +25,13 @@ void AddCommonOptions(CLI::App& command, CommonOptions& options)
             "--color",
             [&options](const std::string& choice) { options.colour = choices.at(choice); },
             "colours: auto (on a terminal, unless NO_COLOR is set), always or never")
-        ->check(CLI::IsMember(&choices))
+        ->check(CLI::IsMember(&choices).description(""))
         ->type_name("WHEN")
         ->group("Output");
-    command.add_option("--log-level", options.logLevel, "log of the library to stderr")
-        ->check(CLI::IsMember({"debug", "info", "error"}))
+    command
+        .add_option("--log-level", options.logLevel,
+                    "log of the library to stderr: debug, info or error")
+        ->check(CLI::IsMember({"debug", "info", "error"}).description(""))
         ->type_name("LEVEL")
         ->group("Output");
 }
@@ -46,14 +48,15 @@ void AddConnectionOptions(CLI::App& command, ConnectionOptions& options)
     };
     add("--user", options.user,
         "user name; the password comes from CAPSET_PASSWORD or a prompt, never from here", "NAME");
-    add("--ca", options.ca, "PEM file of certificates to trust", "FILE")->check(CLI::ExistingFile);
+    add("--ca", options.ca, "PEM file of certificates to trust", "FILE")
+        ->check(CLI::Validator(CLI::ExistingFile).description(""));
     command.add_flag("--insecure", options.insecure, "trust any certificate")->group("Connection");
     constexpr double kLongest = 86400;
     add("--timeout", options.timeout, "longest time for a whole answer, 15 by default", "SECONDS")
-        ->check(CLI::Range(0.001, kLongest));
+        ->check(CLI::Range(0.001, kLongest).description(""));
     add("--connect-timeout", options.connectTimeout,
         "longest time for reaching the device, 5 by default", "SECONDS")
-        ->check(CLI::Range(0.001, kLongest));
+        ->check(CLI::Range(0.001, kLongest).description(""));
 }
 
 void AddJsonFlag(CLI::App& command, bool& json)

@@ -38,7 +38,7 @@ struct Reply
 
 using Status = std::vector<std::pair<std::string, std::string>>;
 
-/// Zero-filled; a plain array, since a large answer need not be written over with zeros first.
+/// Not filled: a large answer need not be written over with zeros first.
 struct Buffer
 {
     explicit Buffer(unsigned int bytes) : size(bytes), data(new char[bytes]) {}
@@ -124,15 +124,18 @@ Json::Value ReplyToJson(const CallOptions& options, const std::string& device, c
     return value;
 }
 
-std::string RefusalSentence(const CallOptions& options, const std::string& device,
-                            const Reply& reply)
+std::string RefusalSentence(const CallOptions& options, const std::string& device, Reply reply)
 {
     std::string status;
     for (const auto& [name, text] : ReadStatus(reply.body)) {
-        status += (status.empty() ? "" : ", ") + name + " " + text;
+        status += (status.empty() ? "; the device says: " : ", ") + name + " " + text;
     }
-    return options.request + " at " + device + ": " + Told(reply.failure) +
-           (status.empty() ? "" : "; the device says: " + status) + Hint(reply.failure.error);
+    if (!status.empty()) {
+        // The detail is that document's code once more.
+        reply.failure.detail.clear();
+    }
+    return options.request + " at " + device + ": " + Told(reply.failure) + status +
+           Hint(reply.failure.error);
 }
 
 int Call(const CallOptions& options, const CommonOptions& /*common*/)

@@ -89,7 +89,7 @@ int ListProfiles(const CommonOptions& common, bool json)
         const auto model = Load(name);
         const std::vector<std::string> users = model->UserNames();
         grid.Add({{Harmless(name)},
-                  {Harmless(Joined(users, "and"))},
+                  {Harmless(Listed(users))},
                   {ChannelNumbers(model->Channels())},
                   {Harmless(model->Description())}});
         list.append(ProfileToJson(name, *model));
@@ -209,15 +209,15 @@ void AddServeOptions(CLI::App& command, ServeOptions& options)
                     "numeric address to listen on, 127.0.0.1 by default")
         ->type_name("ADDRESS");
     command.add_option("--port", options.port, "port to listen on, any free one by default")
-        ->check(CLI::Range(0, 65535))
+        ->check(CLI::Range(0, 65535).description(""))
         ->type_name("N");
     command.add_flag("--tls", options.tls, "HTTPS, with a self-signed certificate unless --cert");
     CLI::Option* const certificate =
         command.add_option("--cert", options.certificateFile, "PEM file of the certificate")
-            ->check(CLI::ExistingFile)
+            ->check(CLI::Validator(CLI::ExistingFile).description(""))
             ->type_name("FILE");
     CLI::Option* const key = command.add_option("--key", options.keyFile, "PEM file of its key")
-                                 ->check(CLI::ExistingFile)
+                                 ->check(CLI::Validator(CLI::ExistingFile).description(""))
                                  ->type_name("FILE");
     certificate->needs(key);
     key->needs(certificate);

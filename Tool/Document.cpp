@@ -81,6 +81,7 @@ std::string IndentedJson(const Json::Value& value)
 {
     Json::StreamWriterBuilder builder;
     builder["indentation"] = "  ";
+    builder["enableYAMLCompatibility"] = true;
     builder["precision"] = 15;
     builder["emitUTF8"] = true;
     return Json::writeString(builder, value) + "\n";

@@ -40,8 +40,6 @@ std::string Hint(unsigned int error)
             return "; trust it with --ca FILE, or give up checking with --insecure";
         case NET_ORB_NETWORK_RECV_TIMEOUT:
             return "; wait longer with --timeout SECONDS";
-        case NET_ORB_NO_SUCH_PROFILE:
-            return "; \"capset device list\" shows the simulated devices";
         case NET_ORB_CHANNEL_ERROR:
             return "; choose one with --channel N";
         default:

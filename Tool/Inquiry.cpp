@@ -9,32 +9,57 @@
 namespace Tool
 {
 
+namespace
+{
+
+/// Takes of the documents that came the one that is the record's.
+void Read(Finding& finding, const std::vector<std::string>& documents)
+{
+    for (const std::string& document : documents) {
+        Reading reading = finding.record->read(document);
+        const bool good = reading.problem.empty();
+        // Of several that cannot be read the first is the record's own answer.
+        if (good || &document == &documents.front()) {
+            finding.document = document;
+            finding.reading = std::move(reading);
+        }
+        if (good) {
+            return;
+        }
+    }
+}
+
+}  // namespace
+
 Finding Inquire(const RecordEntry& record, int userID, const Selectors& selectors)
 {
     Finding finding;
     finding.record = &record;
-    const AnswerTap tap;
-    const Answer answer = record.ask(userID, selectors);
-    if (!answer.answered) {
+    Answer answer;
+    std::vector<std::string> documents;
+    {
+        const AnswerTap tap;
+        answer = record.ask(userID, selectors);
         finding.failure = LastFailure(answer.error);
-        finding.outcome = MeansUnsupported(answer.error) ? Outcome::Unsupported : Outcome::Failed;
+        documents = tap.Documents();
     }
     // An answer that makes no record is reported as 23 by some operations and as none by others.
-    if (tap.Heard() && (answer.answered || answer.error == NET_ORB_NOSUPPORT)) {
-        finding.document = tap.Document();
-        finding.reading = record.read(finding.document);
-        if (!finding.reading.problem.empty()) {
-            finding.outcome = Outcome::Failed;
-            finding.failure = {NET_ORB_NOSUPPORT,
-                               "the device's document cannot be read as " + record.name,
-                               finding.reading.problem};
-        }
-    } else if (answer.answered) {
+    const bool mayRead = answer.answered || answer.error == NET_ORB_NOSUPPORT;
+    if (mayRead && !documents.empty()) {
+        Read(finding, documents);
+    } else {
         finding.reading.values = answer.values;
-        finding.reading.shown = answer.values;
+        finding.reading.shown = std::move(answer.values);
     }
-    if (answer.answered && finding.reading.problem.empty()) {
+    if (!finding.reading.problem.empty()) {
+        finding.outcome = Outcome::Failed;
+        finding.failure = {NET_ORB_NOSUPPORT,
+                           "the device's document cannot be read as " + record.name,
+                           finding.reading.problem};
+    } else if (answer.answered) {
         finding.outcome = Outcome::Answered;
+    } else {
+        finding.outcome = MeansUnsupported(answer.error) ? Outcome::Unsupported : Outcome::Failed;
     }
     return finding;
 }

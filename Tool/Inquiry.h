@@ -25,7 +25,7 @@ struct Finding
 {
     const RecordEntry* record = nullptr;
     Outcome outcome = Outcome::NotAsked;
-    SdkFailure failure;    ///< of all outcomes but Answered
+    SdkFailure failure;    ///< means nothing for an Answered one
     std::string document;  ///< the device's document, empty when none came
     Reading reading;       ///< of an Answered one
 };

@@ -141,6 +141,7 @@ std::string Dump(const Json::Value& value)
 {
     Json::StreamWriterBuilder builder;
     builder["indentation"] = "  ";
+    builder["enableYAMLCompatibility"] = true;
     // What a device writes with up to 15 digits comes out as it was written.
     builder["precision"] = 15;
     return Json::writeString(builder, value) + "\n";

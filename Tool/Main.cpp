@@ -1,9 +1,12 @@
 // capset: asks a video-security device what it can do, and shows the answer.
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <csignal>
 #include <exception>
-#include <iostream>
 #include <new>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include "Arguments.h"
 #include "Failure.h"
@@ -27,16 +30,32 @@ void Describe(CLI::App& app, CommandLine& line)
     AddCallCommand(app, line);
     AddParseCommand(app, line);
     AddDeviceCommands(app, line);
+    AddMacCommand(app, line);
     app.set_help_all_flag("--help-all", "the help of all subcommands");
 }
 
 /// The exit code of a command line that ends here, in help or in a mistake.
-int EndAtCommandLine(const CLI::App& app, const CLI::ParseError& error)
+int EndAtCommandLine(const CLI::App& app, const CLI::ParseError& error, const std::string& first)
 {
     if (error.get_exit_code() == 0) {
-        return app.exit(error);
+        std::ostringstream text;
+        app.exit(error, text, text);
+        const std::string help = text.str();
+        Print(help + (help.empty() || help.ends_with('\n') ? "" : "\n"));
+        return kAnswered;
     }
-    Complain(std::string(error.what()) + "; \"capset --help\" tells more");
+    std::vector<std::string> names;
+    for (const CLI::App* each : app.get_subcommands({})) {
+        names.push_back(each->get_name());
+    }
+    const bool isUnknown =
+        !first.empty() && !first.starts_with('-') && std::ranges::find(names, first) == names.end();
+    const std::string nearest = isUnknown ? NearestName(first, names) : std::string();
+    if (!nearest.empty()) {
+        Complain("there is no subcommand \"" + first + "\"; did you mean " + nearest + "?");
+    } else {
+        Complain(std::string(error.what()) + "; \"capset --help\" tells more");
+    }
     return kUsage;
 }
 
@@ -48,7 +67,7 @@ int Run(int argc, char** argv)
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return EndAtCommandLine(app, error);
+        return EndAtCommandLine(app, error, argc > 1 ? argv[1] : "");
     }
     if (!line.common.logLevel.empty()) {
         LogToStderr(line.common.logLevel);
@@ -79,6 +98,5 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_IGN);
     UseUtf8Widths();
     const int result = RunGuarded(argc, argv);
-    std::cout.flush();
     return FinishOutput() ? result : kFailed;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 #include "Arguments.h"
 #include "Document.h"
@@ -11,6 +12,7 @@
 #include "Progress.h"
 #include "RecordNames.h"
 #include "ShowOutput.h"
+#include "Text.h"
 
 namespace Tool
 {
@@ -127,21 +129,41 @@ private:
     std::size_t printed_ = 0;
 };
 
+/// The names of the records that are asked with an option.
+std::string UsersOf(const std::string& option)
+{
+    std::vector<std::string> names;
+    for (const RecordEntry& each : AllRecords()) {
+        if (std::ranges::count(each.options, option) > 0) {
+            names.push_back(each.name);
+        }
+    }
+    return " (" + Listed(names) + ")";
+}
+
 void AddSelectors(CLI::App& command, Selectors& selectors)
 {
-    const auto add = [&command](const char* name, auto& value, const char* description,
-                                const char* type) {
-        command.add_option(name, value, description)->type_name(type)->group("Selectors");
+    const auto add = [&command](const std::string& name, auto& value,
+                                const std::string& description, const char* type) {
+        return command.add_option(name, value, description)->type_name(type)->group("Selectors");
     };
-    add("--channel", selectors.channel, "channel, 1 by default; -1: the device as a whole", "N");
-    add("--channels", selectors.channels, "channels asked for together (CameraPara)", "N,N...");
-    command.get_option("--channels")->delimiter(',')->expected(1)->allow_extra_args(false);
-    add("--audio-channel", selectors.audioChannel, "audio channel, 1 by default", "N");
-    add("--talk-channel", selectors.talkChannel, "two-way audio channel, 1 by default", "N");
-    add("--wall", selectors.wall, "video wall, 1 by default", "N");
-    add("--output", selectors.output, "output of the video wall, 1 by default", "N");
-    add("--part", selectors.part, "one part of the record by its element's name", "NAME");
-    command.add_flag("--extended", selectors.extended, "the extended form (AlarmHostAbility)")
+    const auto addNumber = [&](const std::string& name, std::optional<int>& value,
+                               const std::string& what) {
+        add(name, value, what + ", 1 by default" + UsersOf(name), "N");
+    };
+    add("--channel", selectors.channel,
+        "channel of records that tell of one, 1 by default; -1: the device as a whole", "N");
+    add("--channels", selectors.channels, "channels asked for together" + UsersOf("--channels"),
+        "N,N...")
+        ->delimiter(',')
+        ->expected(1)
+        ->allow_extra_args(false);
+    addNumber("--audio-channel", selectors.audioChannel, "audio channel");
+    addNumber("--talk-channel", selectors.talkChannel, "two-way audio channel");
+    addNumber("--wall", selectors.wall, "video wall");
+    addNumber("--output", selectors.output, "output of the video wall");
+    add("--part", selectors.part, "one part by its element's name" + UsersOf("--part"), "NAME");
+    command.add_flag("--extended", selectors.extended, "the extended form" + UsersOf("--extended"))
         ->group("Selectors");
 }
 

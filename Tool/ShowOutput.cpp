@@ -96,13 +96,9 @@ std::string RenderSummary(std::span<const Finding> findings, const std::string& 
 
 std::string RenderRecordList(const Paint& paint)
 {
-    Grid grid({"record", "selected by", "what it tells"});
+    Grid grid({"record", "what it tells"});
     for (const RecordEntry& each : AllRecords()) {
-        std::string options;
-        for (const std::string& option : each.options) {
-            options += (options.empty() ? "" : " ") + option;
-        }
-        grid.Add({{each.name}, {options, Style::Faint}, {each.description}});
+        grid.Add({{each.name}, {each.description}});
     }
     return grid.Render(0, TerminalWidth(stdout), paint);
 }

@@ -24,7 +24,7 @@ std::string FailureSentence(const Finding& finding, const std::string& device);
 std::string RenderSummary(std::span<const Finding> findings, const std::string& device,
                           const Paint& paint);
 
-/// All records with their descriptions and options.
+/// All records with their descriptions.
 std::string RenderRecordList(const Paint& paint);
 
 }  // namespace Tool

@@ -78,7 +78,8 @@ private:
                 continue;
             }
             const std::size_t inner = indent + kIndent;
-            if (InOneLine(child)) {
+            const bool isShortList = child.kind == Kind::List && AreAllInOneLine(child.children);
+            if (isShortList || InOneLine(child)) {
                 column_ = std::max(column_, inner + Width(Harmless(child.name)) + kGap);
             } else {
                 Measure(child, inner);
@@ -107,7 +108,7 @@ private:
             members = members.subspan(taken);
         }
         if (!silent.empty()) {
-            Note("not announced: " + Joined(silent, "and"), indent);
+            Note("not announced: " + Listed(silent), indent);
         }
     }
 
@@ -149,7 +150,8 @@ private:
         }
         std::size_t number = 0;
         for (const RecordNode& item : items) {
-            Member(item, name + " " + std::to_string(++number), indent);
+            const bool isOnly = items.size() == 1;
+            Member(item, isOnly ? name : name + " " + std::to_string(++number), indent);
         }
     }
 
@@ -192,6 +194,7 @@ private:
 
     void Heading(const std::string& name, const std::string& more, std::size_t indent)
     {
+        isInSection_ = isInSection_ || indent == kIndent;
         if (indent == kIndent) {
             out_ += "\n";
         }
@@ -201,6 +204,7 @@ private:
 
     void Line(const std::string& name, const Cell& cell, std::size_t indent)
     {
+        LeaveSection(indent);
         std::string line = std::string(indent, ' ') + name;
         if (indent + Width(name) + kGap > column_) {
             out_ += line + "\n";
@@ -215,6 +219,7 @@ private:
 
     void Note(const std::string& text, std::size_t indent)
     {
+        LeaveSection(indent);
         std::size_t hang = 0;
         for (const std::string& piece : Wrap(text, width_ - indent - kIndent)) {
             out_ += std::string(indent + hang, ' ') + paint_(Style::Faint, piece) + "\n";
@@ -222,8 +227,18 @@ private:
         }
     }
 
+    /// A blank line between an outermost section and members of the record itself.
+    void LeaveSection(std::size_t indent)
+    {
+        if (isInSection_ && indent == kIndent) {
+            out_ += "\n";
+            isInSection_ = false;
+        }
+    }
+
     std::size_t width_;
     const Paint& paint_;
+    bool isInSection_ = false;
     std::size_t column_ = 0;
     std::string out_;
 };

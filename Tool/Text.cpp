@@ -252,6 +252,15 @@ std::string Joined(std::span<const std::string> texts, std::string_view lastWord
     return all;
 }
 
+std::string Listed(std::span<const std::string> texts)
+{
+    std::string all;
+    for (const std::string& text : texts) {
+        all.append(all.empty() ? "" : ", ").append(text);
+    }
+    return all;
+}
+
 std::string Counted(std::size_t count, const std::string& noun)
 {
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");

@@ -44,6 +44,9 @@ std::string NearestName(std::string_view typed, std::span<const std::string> can
 /// "a, b and c" or with another word before the last.
 std::string Joined(std::span<const std::string> texts, std::string_view lastWord = "and");
 
+/// "a, b, c".
+std::string Listed(std::span<const std::string> texts);
+
 /// "1 record", "2 records".
 std::string Counted(std::size_t count, const std::string& noun);
 

@@ -124,7 +124,9 @@ Cell ElementCell(const RecordNode& element)
     if (const RecordNode* options = Child(element, "@opt")) {
         Append(text, Spaced(Harmless(options->text)), ": ");
     }
-    Append(text, TextOf(Child(element, "@unit")), " ");
+    const std::string unit = TextOf(Child(element, "@unit"));
+    const bool isFactor = !unit.empty() && unit.front() >= '0' && unit.front() <= '9';
+    Append(text, unit, isFactor ? " x " : " ");
     for (const char* name : {"@def", "@default"}) {
         if (const RecordNode* def = Child(element, name)) {
             Append(text, "(default " + Harmless(def->text) + ")", " ");

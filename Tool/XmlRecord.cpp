@@ -3,7 +3,10 @@
 #include "XmlRecord.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "CapabilitySet/OptionTypes.h"
+#include "CapabilitySet/private/ParseToSDK.h"
 #include "Text.h"
 
 namespace Tool
@@ -30,6 +33,57 @@ std::string XmlProblem(const std::string& text, const char* rootName)
     const std::string name = root == nullptr ? std::string() : xml::XmlCharToString(root->name);
     return name == rootName ? std::string()
                             : "its root element is \"" + name + "\", not \"" + rootName + "\"";
+}
+
+namespace
+{
+
+template <class WordOf>
+void Spell(RecordNode& node, WordOf&& wordOf)
+{
+    if (node.kind == RecordNode::Kind::List) {
+        for (RecordNode& item : node.children) {
+            Spell(item, wordOf);
+        }
+    } else if (const std::string word = wordOf(node.text);
+               node.kind == RecordNode::Kind::Number && !word.empty()) {
+        node.kind = RecordNode::Kind::Text;
+        node.text = word;
+    }
+}
+
+using HandleType = CapabilitySet::AlarmHandleType;
+constexpr std::pair<HandleType::HandleType, const char*> kHandleTypes[] = {
+    {HandleType::Monitor, "monitor"},     {HandleType::Audio, "audio"},
+    {HandleType::Center, "center"},       {HandleType::AlarmOut, "alarmout"},
+    {HandleType::Picture, "picture"},     {HandleType::WirelessLight, "wirelesslight"},
+    {HandleType::UploadFtp, "uploadftp"},
+};
+
+}  // namespace
+
+void SpellCodes(RecordNode& node, CapabilitySet::as::Codes how)
+{
+    Spell(node, [&how](const std::string& code) {
+        for (const auto& entry : how.table.entries) {
+            if (std::to_string(entry.code) == code) {
+                return std::string(entry.option);
+            }
+        }
+        return std::string();
+    });
+}
+
+void SpellCodes(RecordNode& node, CapabilitySet::as::HandleTypes /*how*/)
+{
+    Spell(node, [](const std::string& code) {
+        for (const auto& [type, word] : kHandleTypes) {
+            if (std::to_string(type) == code) {
+                return std::string(word);
+            }
+        }
+        return std::string();
+    });
 }
 
 bool IsDefault(const RecordNode& node)

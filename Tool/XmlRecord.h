@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "CapabilitySet/RecordTree.h"
@@ -24,7 +26,8 @@ struct Reading
 {
     std::string problem;  ///< why the text cannot be read as the record; empty when it can
     CapabilitySet::RecordNode values;
-    /// The values again, where members of which the text holds nothing count as not announced.
+    /// The values again, for people: members of which the text holds nothing count as not
+    /// announced, and codes are the words that devices use for them.
     CapabilitySet::RecordNode shown;
     std::vector<Untaken> untaken;
 };
@@ -35,22 +38,74 @@ std::string XmlProblem(const std::string& text, const char* rootName);
 /// Whether a value is what a record holds before it is read.
 bool IsDefault(const CapabilitySet::RecordNode& node);
 
-/// Marks the members of `shown` that found no element among these and hold their defaults.
+/// Replaces codes by the options that they stand for.
+void SpellCodes(CapabilitySet::RecordNode& node, CapabilitySet::as::Codes how);
+void SpellCodes(CapabilitySet::RecordNode& node, CapabilitySet::as::HandleTypes how);
+
+template <class How>
+void SpellCodes(CapabilitySet::RecordNode& /*node*/, How /*how*/)
+{
+}
+
 template <class Record>
-void MarkAbsent(CapabilitySet::RecordNode& shown, xmlNode* firstChild)
+void Adapt(CapabilitySet::RecordNode& shown, xmlNode* firstChild);
+
+/// The name that a list's items bear where its field tells one, else that of the list's element.
+inline const char* ItemName(xmlNode* /*list*/, CapabilitySet::as::Items how)
+{
+    return how.item;
+}
+
+template <class How>
+const char* ItemName(xmlNode* list, How /*how*/)
+{
+    return reinterpret_cast<const char*>(list->name);
+}
+
+/// Adapts the items of a list, which are elements of one name from `first` on.
+template <class Item>
+void AdaptItems(const std::vector<std::shared_ptr<Item>>& /*member*/,
+                CapabilitySet::RecordNode& list, xmlNode* first, const char* name)
+{
+    xmlNode* element = first;
+    for (CapabilitySet::RecordNode& item : list.children) {
+        if (!CapabilitySet::xml::NextElementNamed(element, name)) {
+            return;
+        }
+        Adapt<Item>(item, element->children);
+        element = element->next;
+    }
+}
+
+template <class Member>
+concept IsRecordList = requires(Member& m) {
+    requires CapabilitySet::xml::IsRecord<std::remove_cvref_t<decltype(*m.front())>>;
+};
+
+template <class... How>
+constexpr bool kHasOwnElement = (std::is_same_v<How, CapabilitySet::as::Items> || ...);
+
+/// Spells the codes of `shown` out, and marks the members that found no element among these and
+/// hold their defaults.
+template <class Record>
+void Adapt(CapabilitySet::RecordNode& shown, xmlNode* firstChild)
 {
     namespace xml = CapabilitySet::xml;
     const xml::FieldMatches matches(xml::IndexOf<Record>(), firstChild);
     std::size_t field = 0;
     Record sample;
-    Record::Fields(sample, [&](const char* /*name*/, auto& member, auto... /*how*/) {
+    Record::Fields(sample, [&](const char* /*name*/, auto& member, auto... how) {
         using Member = std::remove_reference_t<decltype(member)>;
         CapabilitySet::RecordNode& child = shown.children[field];
         xmlNode* const element = matches[field++];
+        (SpellCodes(child, how), ...);
         if (element == nullptr) {
             child.announced = child.announced && !IsDefault(child);
         } else if constexpr (xml::IsRecord<Member>) {
-            MarkAbsent<Member>(child, element->children);
+            Adapt<Member>(child, element->children);
+        } else if constexpr (IsRecordList<Member> && sizeof...(how) == 1) {
+            xmlNode* const first = kHasOwnElement<decltype(how)...> ? element->children : element;
+            (AdaptItems(member, child, first, ItemName(element, how)), ...);
         }
     });
 }
@@ -79,7 +134,7 @@ Reading ReadXmlRecord(const char* name, const std::string& text)
             CapabilitySet::xml::Problem none;
             const auto document =
                 CapabilitySet::xml::ParseText(text, CapabilitySet::xml::Form::Plain, none);
-            MarkAbsent<Record>(reading.shown, xmlDocGetRootElement(document.get())->children);
+            Adapt<Record>(reading.shown, xmlDocGetRootElement(document.get())->children);
             for (auto& each : CapabilitySet::xml::Explain<Record>(text, root)) {
                 reading.untaken.push_back(
                     {std::move(each.path), each.line, std::move(each.reason)});
