@@ -15,8 +15,9 @@ class QuietLibxml
 public:
     QuietLibxml() : handler_(xmlStructuredError), context_(xmlStructuredErrorContext)
     {
-        xmlSetStructuredErrorFunc(nullptr, Ignore);
+        xmlSetStructuredErrorFunc(nullptr, Note);
         xmlResetLastError();
+        ranOutOfMemory_ = false;
     }
     ~QuietLibxml() { xmlSetStructuredErrorFunc(context_, handler_); }
     QuietLibxml(const QuietLibxml&) = delete;
@@ -24,15 +25,16 @@ public:
 
     /// Whether an allocation failed since the start: many functions go on without what they could
     /// not copy, and say so nowhere else.
-    [[nodiscard]] static bool RanOutOfMemory()
+    [[nodiscard]] static bool RanOutOfMemory() { return ranOutOfMemory_; }
+
+    /// The handler: the last error alone would not do, since any later warning takes its place.
+    static void Note(void* /*context*/, xmlErrorPtr error)
     {
-        const xmlError* const error = xmlGetLastError();
-        return error != nullptr && error->code == XML_ERR_NO_MEMORY;
+        ranOutOfMemory_ = ranOutOfMemory_ || error->code == XML_ERR_NO_MEMORY;
     }
 
-    static void Ignore(void* /*context*/, xmlErrorPtr /*error*/) {}
-
 private:
+    static inline thread_local bool ranOutOfMemory_ = false;
     xmlStructuredErrorFunc handler_;
     void* context_;
 };

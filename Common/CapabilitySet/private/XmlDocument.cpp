@@ -11,6 +11,7 @@
 #include <libxml/xmlerror.h>
 
 #include "CapabilitySet/private/AttributeFlood.h"
+#include "CapabilitySet/private/QuietLibxml.h"
 
 namespace CapabilitySet::xml
 {
@@ -34,26 +35,6 @@ struct FreeContext
 using Context = std::unique_ptr<xmlParserCtxt, FreeContext>;
 
 constexpr const char* kFlood = "An element has more than 1000 attributes";
-
-void IgnoreError(void* /*context*/, xmlErrorPtr /*error*/) {}
-
-/// Parts of the parser report past its context, to the thread's handlers: the client's, or stderr.
-/// Their place is taken while a document is parsed.
-class SilentThread
-{
-public:
-    SilentThread() : handler_(xmlStructuredError), context_(xmlStructuredErrorContext)
-    {
-        xmlSetStructuredErrorFunc(nullptr, IgnoreError);
-    }
-    ~SilentThread() { xmlSetStructuredErrorFunc(context_, handler_); }
-    SilentThread(const SilentThread&) = delete;
-    SilentThread& operator=(const SilentThread&) = delete;
-
-private:
-    xmlStructuredErrorFunc handler_;
-    void* context_;
-};
 
 /// Why a hook refused the document being parsed on this thread; no message when none did.
 thread_local struct
@@ -133,7 +114,7 @@ Context NewContext(Form form)
     context->pedantic = 0;
     context->linenumbers = 1;
     context->sax->ignorableWhitespace = blankFree ? xmlSAX2IgnorableWhitespace : xmlSAX2Characters;
-    context->sax->serror = IgnoreError;
+    context->sax->serror = QuietLibxml::Note;
     context->sax->entityDecl = RefuseEntity;
     context->sax->unparsedEntityDecl = RefuseUnparsedEntity;
     context->sax->startElementNs = StartElement;
@@ -148,12 +129,6 @@ Problem LastProblem()
     if (error == nullptr)
         return {};
     return {error->line, error->message == nullptr ? "" : error->message};
-}
-
-bool RanOutOfMemory()
-{
-    const xmlError* error = xmlGetLastError();
-    return error != nullptr && error->code == XML_ERR_NO_MEMORY;
 }
 
 /// Whether the parser takes the text as UTF-8 whatever follows its first line: it guesses nothing
@@ -217,8 +192,7 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
 {
     thread_local Context kept[2];
     Context context = std::move(kept[static_cast<int>(form)]);
-    const SilentThread silent;
-    xmlResetLastError();
+    const QuietLibxml quiet;
     refusal = {};
     defaulted = 0;
     const std::size_t length = std::strlen(text.c_str());
@@ -240,7 +214,7 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
     Document document(context->myDoc);
     context->myDoc = nullptr;
     // A tree that was built while memory ran out is wrong in places, well-formed or not.
-    if (context->wellFormed == 0 || document == nullptr || RanOutOfMemory()) {
+    if (context->wellFormed == 0 || document == nullptr || QuietLibxml::RanOutOfMemory()) {
         problem = LastProblem();
         return nullptr;
     }
