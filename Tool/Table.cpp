@@ -55,7 +55,11 @@ public:
         if (const std::string attributes = PlainAttributes(record); !attributes.empty()) {
             more += (more.empty() ? "" : ", ") + attributes;
         }
-        out_ += title + (more.empty() ? "" : "  " + paint_(Style::Faint, more)) + "\n";
+        const bool fits = Width(record.name) + kGap + Width(more) <= width_;
+        out_ += title + (more.empty() || !fits ? "" : "  " + paint_(Style::Faint, more)) + "\n";
+        if (!fits) {
+            Note(more, kIndent);
+        }
         if (!record.announced) {
             Note("the device announced nothing of it", kIndent);
         } else if (!record.text.empty() && record.kind == Kind::Record) {

@@ -171,7 +171,8 @@ std::string PlainAttributes(const RecordNode& element)
 {
     std::string text;
     for (const RecordNode& child : element.children) {
-        if (IsAttribute(child) && !SaysLimits(child)) {
+        // What namespaces a document declares tells a person nothing about the device.
+        if (IsAttribute(child) && !SaysLimits(child) && !child.name.starts_with("@xmlns")) {
             Append(text, Harmless(child.name.substr(1)) + " " + Harmless(child.text), ", ");
         }
     }

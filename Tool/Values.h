@@ -24,8 +24,8 @@ struct Cell
 /// own that need lines of their own.
 std::optional<Cell> InOneLine(const CapabilitySet::RecordNode& node);
 
-/// Attributes of an element that say no limits or options: "version 2.0". Empty when there are
-/// none.
+/// Attributes of an element that say no limits, options or namespaces: "version 2.0". Empty when
+/// there are none.
 std::string PlainAttributes(const CapabilitySet::RecordNode& element);
 
 /// Whether the node stands for an attribute of an element.

@@ -20,6 +20,8 @@ struct InterfaceRet
     /// memory that ran out; 43 when no buffer was large enough. Type 3: what the installed
     /// translator makes of the device's status, or -1 without one.
     int errorCode = -1;
+
+    friend bool operator==(const InterfaceRet&, const InterfaceRet&) = default;
 };
 
 /// Sends request lines and reports failures through three callbacks, which the client installs
