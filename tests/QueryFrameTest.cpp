@@ -92,6 +92,7 @@ TEST(QueryFrameTest, SendsExactlyTheRequestOfEachOperation)
         EXPECT_EQ(call.hasInput, !isLine && !row.request.empty());
         EXPECT_EQ(call.size, row.policy.start);
         EXPECT_TRUE(call.isZeroed && call.isWellFilled);
+        EXPECT_EQ(call.statusSize + call.timeout + static_cast<unsigned>(call.flag), 0U);
         EXPECT_EQ(LastError(), std::pair(1, 2)) << "a success sets no last error";
     });
 }

@@ -37,13 +37,21 @@ std::string Copy(const void* bytes, std::size_t size)
     return bytes == nullptr ? std::string() : std::string(static_cast<const char*>(bytes), size);
 }
 
-/// Notes the call and plays the next step into the buffer.
-int Play(SdkCall call, void* buffer, unsigned size, unsigned* returnedSize)
+void Write(void* buffer, unsigned size, const std::string& text)
+{
+    if (buffer != nullptr)
+        std::memcpy(buffer, text.data(), std::min<std::size_t>(text.size(), size));
+}
+
+/// Notes the call and plays the next step into the buffers.
+int Play(SdkCall call, void* buffer, unsigned size, unsigned* returnedSize, void* status = nullptr)
 {
     ScriptedSdk& sdk = ScriptedSdk::Instance();
     const std::lock_guard lock(guard);
     call.size = size;
-    call.isZeroed = LooksZeroed(static_cast<char*>(buffer), size);
+    call.isZeroed = LooksZeroed(static_cast<char*>(buffer), size) &&
+                    AllZero(static_cast<char*>(status), call.statusSize);
+    const unsigned statusSize = call.statusSize;
     SdkStep step;
     if (const auto text = sdk.texts.find(call.code); text != sdk.texts.end())
         step.answer = text->second;
@@ -54,7 +62,8 @@ int Play(SdkCall call, void* buffer, unsigned size, unsigned* returnedSize)
     lastError = step.error;
     if (step.fills)
         std::memset(buffer, 'x', size);
-    std::memcpy(buffer, step.answer.data(), std::min<std::size_t>(step.answer.size(), size));
+    Write(buffer, size, step.answer);
+    Write(status, statusSize, step.status);
     if (returnedSize != nullptr)
         *returnedSize = step.returnedSize;
     return step.error == 0 ? 1 : 0;
@@ -113,14 +122,17 @@ int NET_ORB_STDXMLConfig(int userID, tagNET_ORB_XML_CONFIG_INPUT* input,
     call.line = TestSupport::Copy(input->requestUrl, input->requestUrlLength);
     call.hasInput = input->inBuffer != nullptr;
     call.input = TestSupport::Copy(input->inBuffer, input->inBufferSize);
-    call.isWellFilled = input->size == 56 && output->size == 56 && input->flag == 0 &&
-                        input->receiveTimeout == 0 && output->returnedSize == 0 &&
-                        output->statusBuffer == nullptr && output->statusSize == 0 &&
+    call.statusSize = output->statusSize;
+    call.timeout = input->receiveTimeout;
+    call.flag = input->flag;
+    call.isWellFilled = input->size == 56 && output->size == 56 &&
                         call.hasInput == (input->inBufferSize > 0) &&
+                        (output->outBuffer != nullptr) == (output->outBufferSize > 0) &&
+                        (output->statusBuffer != nullptr) == (output->statusSize > 0) &&
                         TestSupport::AllZero(input->reserved, sizeof input->reserved) &&
                         TestSupport::AllZero(output->reserved, sizeof output->reserved);
     return TestSupport::Play(std::move(call), output->outBuffer, output->outBufferSize,
-                             &output->returnedSize);
+                             &output->returnedSize, output->statusBuffer);
 }
 
 unsigned int NET_ORB_GetLastError(void)

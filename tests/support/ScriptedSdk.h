@@ -24,11 +24,14 @@ struct SdkCall
     };
     Kind kind = DeviceAbility;
     int userID = 0;
-    unsigned code = 0;         ///< ability code, or the channel to be converted
-    bool hasInput = false;     ///< an input pointer was passed
-    std::string input{};       ///< request XML, condition bytes or body
-    std::string line{};        ///< request line
-    unsigned size = 0;         ///< of the answer buffer
+    unsigned code = 0;        ///< ability code, or the channel to be converted
+    bool hasInput = false;    ///< an input pointer was passed
+    std::string input{};      ///< request XML, condition bytes or body
+    std::string line{};       ///< request line
+    unsigned size = 0;        ///< of the answer buffer
+    unsigned statusSize = 0;  ///< of the status buffer
+    unsigned timeout = 0;
+    int flag = 0;
     bool isZeroed = false;     ///< the answer buffer was all zero
     bool isWellFilled = true;  ///< the structures' size fields, and everything unused zero
 };
@@ -38,6 +41,7 @@ struct SdkStep
 {
     unsigned error = 0;
     std::string answer{};
+    std::string status{};       ///< goes to the status buffer, if there is one
     bool fills = false;         ///< fills the buffer to its last byte, without a NUL
     unsigned returnedSize = 0;  ///< what the SDK says of the answer's size
 };

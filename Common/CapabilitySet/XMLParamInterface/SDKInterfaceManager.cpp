@@ -61,6 +61,18 @@ struct ResponseStatus
     }
 };
 
+/// Copies a call-back into its holder, if there is one and memory for it.
+template <class Holder, class CallBack>
+void Install(Holder* holder, CallBack Holder::*member, const CallBack& callBack)
+{
+    unsigned int err = 0;
+    query::Guarded(err, [&] {
+        if (holder != nullptr)
+            holder->*member = callBack;
+        return true;
+    });
+}
+
 }  // namespace
 
 struct SDKInterfaceManager::CallBacks
@@ -155,7 +167,14 @@ private:
     std::string status_;
 };
 
-SDKInterfaceManager::SDKInterfaceManager() : callBacks_(std::make_shared<CallBacks>()) {}
+SDKInterfaceManager::SDKInterfaceManager()
+{
+    unsigned int err = 0;
+    query::Guarded(err, [this] {
+        callBacks_ = std::make_shared<CallBacks>();
+        return true;
+    });
+}
 
 SDKInterfaceManager& SDKInterfaceManager::instance()
 {
@@ -165,21 +184,18 @@ SDKInterfaceManager& SDKInterfaceManager::instance()
 
 void SDKInterfaceManager::setSDKErrorProcessCallBack(const std::function<void(int)>& callBack)
 {
-    if (callBacks_ != nullptr)
-        callBacks_->sdkError = callBack;
+    Install(callBacks_.get(), &CallBacks::sdkError, callBack);
 }
 
 void SDKInterfaceManager::setXmlErrorProcessCallBack(const std::function<void(int)>& callBack)
 {
-    if (callBacks_ != nullptr)
-        callBacks_->xmlError = callBack;
+    Install(callBacks_.get(), &CallBacks::xmlError, callBack);
 }
 
 void SDKInterfaceManager::setXmlErrorTransCallBack(
     const std::function<int(int, const std::string&)>& callBack)
 {
-    if (callBacks_ != nullptr)
-        callBacks_->xmlErrorTrans = callBack;
+    Install(callBacks_.get(), &CallBacks::xmlErrorTrans, callBack);
 }
 
 SDKInterfaceManager::URLType SDKInterfaceManager::RequestUrl2URLType(const std::string& line) const

@@ -26,7 +26,8 @@ struct InterfaceRet
 
 /// Sends request lines and reports failures through three callbacks, which the client installs
 /// before its first request. Requests may run on any number of threads; installing a callback
-/// while requests run is not synchronised.
+/// while requests run is not synchronised. One for which there is no memory is not installed: the
+/// one before it stays.
 ///
 /// A request line begins with its method ("GET /...", "PUT /...", "POST /...", "DELETE /..."),
 /// which the caller writes: none of the operations adds one. A caller that wants no answer, or no

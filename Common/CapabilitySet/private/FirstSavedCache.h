@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <tuple>
+#include <utility>
 
 namespace CapabilitySet
 {
@@ -36,7 +37,9 @@ public:
             const auto found = values_.find({first, second, number});
             if (found == values_.end())
                 return false;
-            value = found->second;
+            // Copied aside first: a copy that fails halfway must not be seen.
+            Value copy = found->second;
+            value = std::move(copy);
             return true;
         } catch (...)  // as above
         {
