@@ -1,0 +1,93 @@
+// Audio detection of a channel, and the library of sounds that detection knows.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "CapabilitySet/JsonTARN/JsonDocument.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+// Members bear the names of their keys.
+
+/// Audio detection of a channel. Read it, change `root`, and set it.
+struct CAPABILITYSET_API CAudioDectionCfg : JsonDocument<CAudioDectionCfg>
+{
+    CAudioDectionCfg() = default;
+    explicit CAudioDectionCfg(const std::string& text) { Parse(text); }
+};
+
+/// A detected sound.
+struct CAPABILITYSET_API AudioLibSource
+{
+    std::string UUID;  ///< as the detection's result names it
+
+    /// Throws what JsonCpp throws for a value of the wrong kind.
+    void Parse(const Json::Value& value);
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("UUID", r.UUID);
+    }
+};
+
+/// A place in the audio library. Words are those that ImportAudioLibCap lists.
+struct CAPABILITYSET_API AudioLibDestination
+{
+    std::string audioLibID;
+    std::string audioSampleID;
+    std::string audioID;
+    std::string sampleName;
+    std::string sampleType;
+
+    /// Throws what JsonCpp throws for a value of the wrong kind.
+    void Parse(const Json::Value& value);
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("audioLibID", r.audioLibID);
+        field("audioSampleID", r.audioSampleID);
+        field("audioID", r.audioID);
+        field("sampleName", r.sampleName);
+        field("sampleType", r.sampleType);
+    }
+};
+
+/// Which detected sound to import, and where to.
+struct CAPABILITYSET_API AudioImportAudioLibData : JsonRecord<AudioImportAudioLibData>
+{
+    static constexpr const char* kKey = "ImportAudioLib";
+
+    AudioLibSource SourceData;
+    AudioLibDestination DestinationData;
+
+    AudioImportAudioLibData() = default;
+    explicit AudioImportAudioLibData(const std::string& text) { Parse(text); }
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("SourceData", r.SourceData);
+        field("DestinationData", r.DestinationData);
+    }
+};
+
+/// What became of an import.
+struct CAPABILITYSET_API AudioImportAudioLibResult : JsonDocument<AudioImportAudioLibResult>
+{
+    AudioImportAudioLibResult() = default;
+    explicit AudioImportAudioLibResult(const std::string& text) { Parse(text); }
+};
+
+/// The audio libraries of the device.
+struct CAPABILITYSET_API AudioLibBaseConfig : JsonDocument<AudioLibBaseConfig>
+{
+    AudioLibBaseConfig() = default;
+    explicit AudioLibBaseConfig(const std::string& text) { Parse(text); }
+};
+
+}  // namespace CapabilitySet

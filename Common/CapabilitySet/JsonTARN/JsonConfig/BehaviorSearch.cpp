@@ -1,0 +1,14 @@
+// Searching analysed behaviour, and telling the device which of its alarms were false.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/JsonTARN/JsonConfig/BehaviorSearch.h"
+
+#include "CapabilitySet/private/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+template struct JsonRecord<DeeplyThinkBehaviorDescription>;
+template struct JsonRecord<DeeplyThinkBehaviorSearch>;
+template struct JsonRecord<MisinfoConfirm>;
+
+}  // namespace CapabilitySet

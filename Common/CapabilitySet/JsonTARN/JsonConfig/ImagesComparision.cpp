@@ -1,0 +1,13 @@
+// Comparing the faces of pictures.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/JsonTARN/JsonConfig/ImagesComparision.h"
+
+#include "CapabilitySet/private/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+template struct JsonRecord<ImagesCmpDescription>;
+template struct JsonRecord<ImagesCmpResult>;
+
+}  // namespace CapabilitySet

@@ -1,0 +1,41 @@
+// Traffic analysis at intersections: its settings, and searching its results.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "CapabilitySet/JsonTARN/JsonConfig/SearchPage.h"
+#include "CapabilitySet/JsonTARN/JsonDocument.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+/// Settings of the analysis.
+struct CAPABILITYSET_API IntersectionAnalysisConfig : JsonDocument<IntersectionAnalysisConfig>
+{
+    IntersectionAnalysisConfig() = default;
+    explicit IntersectionAnalysisConfig(const std::string& text) { Parse(text); }
+};
+
+/// Which results to search; time, report type, lanes and the like stand in `root`.
+struct CAPABILITYSET_API IntersectionAnalysisCondition : JsonRecord<IntersectionAnalysisCondition>,
+                                                         SearchPage
+{
+    static constexpr const char* kKey = "IntersectionAnalysisCondition";
+
+    IntersectionAnalysisCondition() = default;
+    explicit IntersectionAnalysisCondition(const std::string& text) { Parse(text); }
+};
+
+/// One page of results. The matches stand in `root`.
+struct CAPABILITYSET_API IntersectionAnalysisResult : JsonRecord<IntersectionAnalysisResult>,
+                                                      SearchResultPage
+{
+    static constexpr const char* kKey = "IntersectionAnalysisResult";
+
+    IntersectionAnalysisResult() = default;
+    explicit IntersectionAnalysisResult(const std::string& text) { Parse(text); }
+};
+
+}  // namespace CapabilitySet

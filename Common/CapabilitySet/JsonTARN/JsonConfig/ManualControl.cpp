@@ -1,0 +1,15 @@
+// What a client starts by hand: face snaps, tracking, thermometry, de-icing.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/JsonTARN/JsonConfig/ManualControl.h"
+
+#include "CapabilitySet/private/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+template struct JsonRecord<ManualFaceSnapCfg>;
+template struct JsonRecord<ManualPersonArmingTrack>;
+template struct JsonRecord<ManualClickThermometry>;
+template struct JsonRecord<ManualPTDeicingCfg>;
+
+}  // namespace CapabilitySet

@@ -1,0 +1,19 @@
+// The algorithm models of the AI open platform.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "CapabilitySet/JsonTARN/JsonDocument.h"
+
+namespace CapabilitySet
+{
+
+/// The models that the device holds.
+struct CAPABILITYSET_API GetAIOPAlgorithmModel : JsonDocument<GetAIOPAlgorithmModel>
+{
+    GetAIOPAlgorithmModel() = default;
+    explicit GetAIOPAlgorithmModel(const std::string& text) { Parse(text); }
+};
+
+}  // namespace CapabilitySet

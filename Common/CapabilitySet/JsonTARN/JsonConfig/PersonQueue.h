@@ -1,0 +1,53 @@
+// Searching what was counted at queues: their lengths and waiting times.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "CapabilitySet/JsonTARN/JsonConfig/SearchPage.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+/// Which queue lengths to search; time, region and the like stand in `root`.
+struct CAPABILITYSET_API PersonQueueCountingDescription
+    : JsonRecord<PersonQueueCountingDescription>,
+      SearchPage
+{
+    static constexpr const char* kKey = "PersonQueueCountingDescription";
+
+    PersonQueueCountingDescription() = default;
+    explicit PersonQueueCountingDescription(const std::string& text) { Parse(text); }
+};
+
+/// One page of queue lengths. The matches stand in `root`.
+struct CAPABILITYSET_API PersonQueueCountingResult : JsonRecord<PersonQueueCountingResult>,
+                                                     SearchResultPage
+{
+    static constexpr const char* kKey = "PersonQueueCountingResult";
+
+    PersonQueueCountingResult() = default;
+    explicit PersonQueueCountingResult(const std::string& text) { Parse(text); }
+};
+
+/// Which waiting times to search; time, region and the like stand in `root`.
+struct CAPABILITYSET_API PersonQueueTimeDescription : JsonRecord<PersonQueueTimeDescription>,
+                                                      SearchPage
+{
+    static constexpr const char* kKey = "PersonQueueTimeDescription";
+
+    PersonQueueTimeDescription() = default;
+    explicit PersonQueueTimeDescription(const std::string& text) { Parse(text); }
+};
+
+/// One page of waiting times. The matches stand in `root`.
+struct CAPABILITYSET_API PersonQueueTimeResult : JsonRecord<PersonQueueTimeResult>, SearchResultPage
+{
+    static constexpr const char* kKey = "PersonQueueTimeResult";
+
+    PersonQueueTimeResult() = default;
+    explicit PersonQueueTimeResult(const std::string& text) { Parse(text); }
+};
+
+}  // namespace CapabilitySet

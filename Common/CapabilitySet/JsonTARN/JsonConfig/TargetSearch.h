@@ -1,0 +1,49 @@
+// Searching files by the kind of target in them, and a data centre's video tasks.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "CapabilitySet/JsonTARN/JsonConfig/SearchPage.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+/// Which files to search; target kind, time, channels and the like stand in `root`.
+struct CAPABILITYSET_API TargetSearchDescription : JsonRecord<TargetSearchDescription>, SearchPage
+{
+    static constexpr const char* kKey = "TargetSearchDescription";
+
+    TargetSearchDescription() = default;
+    explicit TargetSearchDescription(const std::string& text) { Parse(text); }
+};
+
+/// One page of files. The matches stand in `root`.
+struct CAPABILITYSET_API TargetSearchResult : JsonRecord<TargetSearchResult>, SearchResultPage
+{
+    static constexpr const char* kKey = "TargetSearchResult";
+
+    TargetSearchResult() = default;
+    explicit TargetSearchResult(const std::string& text) { Parse(text); }
+};
+
+/// Which tasks of a data centre to search; further conditions stand in `root`.
+struct CAPABILITYSET_API DataCenterTaskCond : JsonRecord<DataCenterTaskCond>, SearchPage
+{
+    static constexpr const char* kKey = "DataCenterTaskCond";
+
+    DataCenterTaskCond() = default;
+    explicit DataCenterTaskCond(const std::string& text) { Parse(text); }
+};
+
+/// One page of tasks. The matches stand in `root`.
+struct CAPABILITYSET_API DataCenterTaskResult : JsonRecord<DataCenterTaskResult>, SearchResultPage
+{
+    static constexpr const char* kKey = "DataCenterTaskResult";
+
+    DataCenterTaskResult() = default;
+    explicit DataCenterTaskResult(const std::string& text) { Parse(text); }
+};
+
+}  // namespace CapabilitySet

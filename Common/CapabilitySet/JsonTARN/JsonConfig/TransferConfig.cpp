@@ -1,0 +1,13 @@
+// What transmission equipment tells of itself: slots of fibre converters, power over Ethernet.
+// SPDX-License-Identifier: Apache-2.0
+#include "CapabilitySet/JsonTARN/JsonConfig/TransferConfig.h"
+
+#include "CapabilitySet/private/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+template struct JsonRecord<FiberConvertSlotList>;
+template struct JsonRecord<PortPoeInfoList>;
+
+}  // namespace CapabilitySet
