@@ -7,6 +7,7 @@
 
 #include "CapabilitySet/private/JsonReading.h"
 #include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/QuietLibxml.h"
 #include "CapabilitySet/private/XmlFields.h"
 
 namespace CapabilitySet
@@ -110,7 +111,9 @@ bool HasEmptyItem(const std::string& text)
     try {
         xml::Problem problem;
         const xml::Document document = xml::ParseText(text, xml::Form::BlankFree, problem);
-        xmlNode* const root = document == nullptr ? nullptr : xmlDocGetRootElement(document.get());
+        if (document == nullptr)
+            return xml::QuietLibxml::RanOutOfMemory();
+        xmlNode* const root = xmlDocGetRootElement(document.get());
         return HoldsEmptyItem(root, kPresets) || HoldsEmptyItem(root, kPatterns) ||
                HoldsEmptyItem(root, kPatrols);
     } catch (...) {  // out of memory: better to leave the list alone
