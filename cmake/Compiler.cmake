@@ -18,6 +18,7 @@ if(CAPABILITYSET_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_C_COMPILER_LAUNCHER ${CAPABILITYSET_CCACHE})
 endif()
 
+cmake_path(RELATIVE_PATH PROJECT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_BINARY_DIR} OUTPUT_VARIABLE from_build)
 add_library(capabilityset_options INTERFACE)
 target_compile_options(
   capabilityset_options
@@ -25,8 +26,9 @@ target_compile_options(
             -Wconversion -Wformat=2
             # g++ 12 sees overlapping copies inside std::string's own operator+.
             $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
-            # Log lines name their place relative to the repository, wherever it was built.
-            -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
+            # Log lines name their place relative to the repository, wherever it was built; a
+            # compiler cache may have made the paths relative to the build directory.
+            -ffile-prefix-map=${PROJECT_SOURCE_DIR}/= -ffile-prefix-map=${from_build}/=)
 if(CAPABILITYSET_SANITIZE)
   add_compile_options(-fsanitize=${CAPABILITYSET_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
