@@ -12,7 +12,8 @@ namespace CapabilitySet
 {
 
 /// A part of a JSON document below its root. `present` is set once every member has been read, so
-/// it stays false for a part that is missing or holds a member of the wrong kind.
+/// it stays false for a part that is missing or holds a member of the wrong kind. Outside a list a
+/// part is written only while it is set.
 template <class Part>
 struct CAPABILITYSET_API JsonPart
 {
@@ -36,8 +37,10 @@ struct CAPABILITYSET_API JsonRecord
     /// wrong kind reading ends: what was read before stays. Never throws.
     void Parse(const std::string& text);
 
-    /// The record as a request body: `root` with every listed member written over it, styled.
-    /// Empty when memory ran out.
+    /// The record as a request body: `root` with every listed member written over it, styled. A
+    /// value that reads as its member stays of the kind that the device sent. An item of a list
+    /// goes over the entry it was read from, by its first member or else by its place. Empty when
+    /// memory ran out.
     [[nodiscard]] std::string Make() const;
 
     /// The same under the name that search descriptions have for it.

@@ -58,7 +58,16 @@ auto ReadValue(const Json::Value& value, Part& member) -> decltype(member.Parse(
     return member.Parse(value);
 }
 
-/// Appends the entries of an array in order; anything but an array, an object or null has none.
+/// An element that reads a text of its own, and swallows what is wrong with it.
+template <class Element>
+auto ReadValue(const Json::Value& value, Element& member)
+    -> decltype(member.Parse(value.toStyledString()))
+    requires(!requires { member.Parse(value); })
+{
+    return member.Parse(value.toStyledString());
+}
+
+/// Appends the entries of an array in order; a scalar and null have none.
 template <class Item>
 void ReadValue(const Json::Value& value, std::vector<Item>& items);
 
@@ -69,6 +78,7 @@ void ReadItem(const Json::Value& value, Item& item);
 
 template <class Member>
 void ReadAs(const Json::Value& value, Member& member, as::Plain /*how*/)
+    requires requires { ReadValue(value, member); }
 {
     ReadValue(value, member);
 }
@@ -80,7 +90,7 @@ inline void ReadAs(const Json::Value& value, bool& member, as::TextFlag /*how*/)
 
 inline void ReadAs(const Json::Value& value, std::string& member, as::StyledText /*how*/)
 {
-    member = value.toStyledString();
+    member = value.isNull() ? std::string() : value.toStyledString();
 }
 
 inline void ReadAs(const Json::Value& value, int& member, as::DecimalText /*how*/)
@@ -88,13 +98,13 @@ inline void ReadAs(const Json::Value& value, int& member, as::DecimalText /*how*
     member = StringToInt(value.asString());
 }
 
-/// Calls `read` for each entry of an array in order; anything but an array, an object or null has
-/// no entries.
+/// Calls `read` for each entry of an array in order. A scalar has no entries, no more than null; an
+/// object that holds something is of the wrong kind.
 template <class Read>
 void ForEachEntry(const Json::Value& value, Read&& read)
 {
     if (!value.isArray()) {
-        if (!value.empty())
+        if (value.size() != 0)
             static_cast<void>(value[0U]);  // throws
         return;
     }

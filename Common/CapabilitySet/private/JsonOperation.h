@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
+#include "CapabilitySet/private/JsonReading.h"
 #include "CapabilitySet/private/QueryFrame.h"
 
 namespace CapabilitySet::query
@@ -92,9 +93,11 @@ template <class Out, class MakeBody = NoBody>
 bool AskJson(Out& out, unsigned int& err, int userID, const log::Place& place, LineParts parts,
              MakeBody&& makeBody = {}, const JsonOptions& options = {})
 {
-    return Guarded(err, [&] {
-        // Kept: clients collect the errors of several requests in one list.
-        if constexpr (!std::is_same_v<Out, JsonErrorStatusList>)
+    // Kept: clients collect the errors of several requests in one list.
+    constexpr bool kResets = !std::is_same_v<Out, JsonErrorStatusList>;
+    const bool filled = Guarded(err, [&] {
+        const json::OperationScope scope;
+        if constexpr (kResets)
             out = Out();
         err = 0;
         std::string line;
@@ -108,6 +111,11 @@ bool AskJson(Out& out, unsigned int& err, int userID, const log::Place& place, L
         out.Parse(std::string(answer.Text()));
         return true;
     });
+    if constexpr (kResets) {
+        if (!filled)
+            out = Out();
+    }
+    return filled;
 }
 
 /// A data package: the answer is not parsed but handed over in an array of its own that the caller
@@ -121,8 +129,10 @@ bool DownloadPackage(tagNET_ORB_XML_CONFIG_OUTPUT& output, unsigned int& err, in
                      const log::Place& place, LineParts parts, MakeBody&& makeBody)
     requires requires { makeBody(); }
 {
-    return Guarded(err,
-                   [&] { return DownloadPackage(output, err, userID, place, parts, makeBody()); });
+    return Guarded(err, [&] {
+        const json::OperationScope scope;
+        return DownloadPackage(output, err, userID, place, parts, makeBody());
+    });
 }
 
 }  // namespace CapabilitySet::query

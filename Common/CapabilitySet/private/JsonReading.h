@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstring>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,22 @@ inline bool ParseText(std::string_view text, Json::Value& root)
     return reader.parse(text.data(), text.data() + text.size(), root, true);
 }
 
+/// While one lives, what its thread reads and writes belongs to an exported operation, which fails
+/// as a whole when memory runs out; otherwise a failed allocation ends a reading as any fault does.
+class OperationScope
+{
+public:
+    OperationScope() { ++depth_; }
+    ~OperationScope() { --depth_; }
+    OperationScope(const OperationScope&) = delete;
+    OperationScope& operator=(const OperationScope&) = delete;
+
+    [[nodiscard]] static bool Runs() { return depth_ > 0; }
+
+private:
+    inline static thread_local int depth_ = 0;
+};
+
 /// A member of an object; null when there is none. Throws what JsonCpp throws for a value that can
 /// have no members.
 inline const Json::Value& MemberOf(const Json::Value& object, std::string_view name)
@@ -28,7 +45,8 @@ inline const Json::Value& MemberOf(const Json::Value& object, std::string_view n
 }
 
 /// Hands the root of an answer to `read`. An empty text and one that is not JSON read nothing; an
-/// exception, such as JsonCpp's for a member of the wrong kind, ends the reading and goes nowhere.
+/// exception, such as JsonCpp's for a member of the wrong kind, ends the reading and goes nowhere
+/// (but see OperationScope).
 template <class Read>
 void WithRoot(const std::string& text, Read&& read)
 {
@@ -38,6 +56,9 @@ void WithRoot(const std::string& text, Read&& read)
         Json::Value root;
         if (ParseText(text, root))
             read(root);
+    } catch (const std::bad_alloc&) {
+        if (OperationScope::Runs())
+            throw;
     } catch (...)  // what was read before stays; answers never throw at the client
     {
     }

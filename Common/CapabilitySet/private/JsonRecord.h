@@ -41,10 +41,7 @@ template <class Record>
 std::string JsonRecord<Record>::Make() const
 {
     return json::MakeText([this](Json::Value& document) {
-        constexpr std::string_view kKey = Record::kKey;
-        Json::Value& target = kKey.empty() ? document : document[Record::kKey];
-        target = root;
-        json::WriteFields(target, static_cast<const Record&>(*this));
+        json::WriteRecord(document, static_cast<const Record&>(*this));
     });
 }
 
