@@ -11,7 +11,7 @@
 #include <optional>
 #include <string_view>
 
-#include <json/writer.h>
+#include <json/value.h>
 
 #include "CapabilitySet/private/XmlDocument.h"
 #include "Failure.h"
@@ -77,16 +77,6 @@ std::string IndentedXml(xmlDoc* document)
                : std::string(reinterpret_cast<const char*>(text), static_cast<std::size_t>(size));
 }
 
-std::string IndentedJson(const Json::Value& value)
-{
-    Json::StreamWriterBuilder builder;
-    builder["indentation"] = "  ";
-    builder["enableYAMLCompatibility"] = true;
-    builder["precision"] = 15;
-    builder["emitUTF8"] = true;
-    return Json::writeString(builder, value) + "\n";
-}
-
 /// A member of a status document that is a JSON object.
 std::optional<std::string> JsonMember(const Json::Value& status, std::string_view name)
 {
@@ -130,7 +120,7 @@ std::string Pretty(const std::string& document)
     }
     Json::Value value;
     const bool isJson = ReadJson(document, value) && (value.isObject() || value.isArray());
-    return isJson ? IndentedJson(value) : document;
+    return isJson ? Dump(value, JsonText::Utf8) : document;
 }
 
 bool IsBinary(const std::string& document)

@@ -103,6 +103,21 @@ Json::Value MembersToJson(const RecordNode& node)
     return value;
 }
 
+/// The writer puts a brace on a line of its own, below its key. Line feeds stand between the
+/// writer's tokens alone: those of texts are escaped.
+std::string BracesBesideKeys(const std::string& text)
+{
+    std::string out;
+    out.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool endsInKey = text[i] == '\n' && out.ends_with(": ");
+        const std::size_t next = endsInKey ? text.find_first_not_of(' ', i + 1) : i;
+        i = next == std::string::npos ? i : next;
+        out += text[i];
+    }
+    return out;
+}
+
 }  // namespace
 
 Json::Value ToJson(const RecordNode& node)
@@ -137,14 +152,15 @@ Json::Value ErrorToJson(unsigned int number, const std::string& text)
     return error;
 }
 
-std::string Dump(const Json::Value& value)
+std::string Dump(const Json::Value& value, JsonText form)
 {
     Json::StreamWriterBuilder builder;
     builder["indentation"] = "  ";
     builder["enableYAMLCompatibility"] = true;
+    builder["emitUTF8"] = form == JsonText::Utf8;
     // What a device writes with up to 15 digits comes out as it was written.
     builder["precision"] = 15;
-    return Json::writeString(builder, value) + "\n";
+    return BracesBesideKeys(Json::writeString(builder, value)) + "\n";
 }
 
 bool ReadJson(const std::string& text, Json::Value& value)

@@ -18,8 +18,15 @@ Json::Value ToJson(const CapabilitySet::RecordNode& node);
 /// {"number": 23, "text": "..."}.
 Json::Value ErrorToJson(unsigned int number, const std::string& text);
 
-/// The document as text, indented by two blanks and ended by a line feed, in ASCII.
-std::string Dump(const Json::Value& value);
+/// What a text of JSON may hold beside ASCII.
+enum class JsonText
+{
+    Ascii,
+    Utf8,
+};
+
+/// The document as text, indented by two blanks and ended by a line feed.
+std::string Dump(const Json::Value& value, JsonText form = JsonText::Ascii);
 
 /// Reads a JSON text; false when it is none.
 bool ReadJson(const std::string& text, Json::Value& value);
