@@ -47,7 +47,13 @@ auto Closeness(const Answer& answer)
 {
     const auto placeholders = std::ranges::count_if(answer.path, &IsPlaceholder);
     return std::tuple(-placeholders, answer.parameters.size(), !answer.root.empty(),
-                      !answer.channelName.empty());
+                      !answer.channelName.empty(), !answer.channels.empty());
+}
+
+bool MatchOwnChannels(const Answer& answer, int channel)
+{
+    return answer.channels.empty() ||
+           std::ranges::find(answer.channels, channel) != answer.channels.end();
 }
 
 // Texts by which clients say that they mean no channel in particular.
@@ -80,10 +86,13 @@ AnswerTable::Found AnswerTable::Find(const ParsedRequest& request) const
         if (!MatchParameters(answer, request) || !MatchRoot(answer, request)) {
             return;
         }
+        const bool own = MatchOwnChannels(answer, found.channel);
         if (!MatchMethod(answer, request)) {
-            best.otherMethod = true;
+            best.otherMethod |= own;
         } else if (found.unknownChannel) {
             best.unknownChannel = true;
+        } else if (!own) {
+            return;
         } else if (best.answer == nullptr || Closeness(answer) > Closeness(*best.answer)) {
             best.answer = &answer;
             best.channel = found.channel;

@@ -28,7 +28,8 @@ public:
     };
 
     /// The closest answer: literal segments count before placeholders, more named parameters
-    /// before fewer, a named root before none, a named channel element before none.
+    /// before fewer, a named root before none, a named channel element before none, an answer of
+    /// certain channels before one of all.
     [[nodiscard]] Found Find(const ParsedRequest& request) const;
 
 private:

@@ -34,6 +34,9 @@ std::vector<std::unique_ptr<Behaviour>> MakeBehaviours(const Profile& profile);
 
 std::unique_ptr<Behaviour> MakeSettings(const Profile& profile);
 
+/// A refusal when the request's body does not keep the limits of the answer's values.
+std::optional<Response> RefuseBadValues(const Answer& answer, const ParsedRequest& request);
+
 /// A refusal when the request's body is neither XML nor JSON.
 std::optional<Response> RefuseMalformed(const ParsedRequest& request);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/AnswerTable.h"
 #include "Device/Behaviour.h"
+#include "Device/DocumentPages.h"
 
 namespace Device
 {
@@ -57,10 +58,17 @@ public:
                        ? std::optional(MakeStatus(Outcome::kMethodNotAllowed, request.target))
                        : std::nullopt;
         }
+        if (std::optional<Response> refusal = RefuseBadValues(*found.answer, request)) {
+            return refusal;
+        }
         if (found.answer->status) {
             return MakeStatus(*found.answer->status, request.target);
         }
-        return Response{200, found.answer->contentType, FillIn(*found.answer, found.channel)};
+        std::string document = FillIn(*found.answer, found.channel);
+        if (found.answer->paging) {
+            document = MakePage(document, *found.answer->paging, request.body);
+        }
+        return Response{200, found.answer->contentType, std::move(document)};
     }
 
 private:
@@ -99,6 +107,13 @@ std::optional<Response> RefuseMalformed(const ParsedRequest& request)
     return MakeStatus(
         request.document.looksLikeJson ? Outcome::kBadJsonFormat : Outcome::kBadXmlFormat,
         request.target);
+}
+
+std::optional<Response> RefuseBadValues(const Answer& answer, const ParsedRequest& request)
+{
+    return KeepsLimits(answer.limits, request.body, request.document.form)
+               ? std::nullopt
+               : std::optional(MakeStatus(Outcome::kBadParameters, request.target));
 }
 
 std::string FillIn(const Answer& answer, int channel)

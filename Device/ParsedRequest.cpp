@@ -73,7 +73,8 @@ ParsedRequest::ParsedRequest(const Request& request)
       target(request.target),
       path(ParsePath(request.target)),
       parameters(ParseParameters(request.target)),
-      body(request.body)
+      // Clients that send a fixed buffer fill it up with NULs.
+      body(std::string_view(request.body).substr(0, request.body.find('\0')))
 {
     if (method != "GET") {
         document = ReadRequestDocument(body, WantsJson(target));

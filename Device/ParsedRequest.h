@@ -35,7 +35,7 @@ struct ParsedRequest
     std::string target;
     std::vector<std::string> path;
     std::vector<Parameter> parameters;
-    std::string_view body;  ///< refers to the request's
+    std::string_view body;  ///< the request's up to the first NUL; refers to it
     RequestDocument document;
 
     /// The parameter's value, or null.

@@ -98,6 +98,19 @@ void ReadChannels(const Json::Value& channels, Profile& profile)
     }
 }
 
+void ReadOwnChannels(const Json::Value& channels, const std::string& where, Answer& answer)
+{
+    if (!channels.isNull() && !channels.isArray()) {
+        throw Fault(where + ": \"channels\" is not an array");
+    }
+    for (const Json::Value& channel : channels) {
+        if (!channel.isInt()) {
+            throw Fault(where + ": \"channels\" holds something that is not a number");
+        }
+        answer.channels.push_back(channel.asInt());
+    }
+}
+
 // "deviceAbility 17 PTZAbility" and "stdAbility 4360" are short for the SDK's requests. A fourth
 // word tells apart requests that share code and root: it is the element by which one names a
 // channel.
@@ -184,6 +197,35 @@ void ReadDocument(const ProfileFiles& files, const std::string& file, Answer& an
     answer.roots = document.roots;
 }
 
+// What a device does with a request's body beyond looking at its root.
+void ReadRules(const Json::Value& entry, const std::string& where, Answer& answer)
+{
+    try {
+        answer.limits = ReadValueLimits(entry["values"]);
+    } catch (const std::invalid_argument& fault) {
+        throw Fault(where + ": " + fault.what());
+    }
+    if (const std::string merge = TextMember(entry, "merge", where, false); !merge.empty()) {
+        const size_t slash = merge.find('/');
+        if (!answer.setting || answer.json || slash == std::string::npos) {
+            throw Fault(where + ": \"merge\" is \"<item>/<key>\" of an XML setting");
+        }
+        answer.mergedItem = merge.substr(0, slash);
+        answer.mergedKey = merge.substr(slash + 1);
+    }
+    const Json::Value& pages = entry["pages"];
+    if (pages.isNull()) {
+        return;
+    }
+    if (!pages.isObject() || answer.method != "POST" || answer.contentType != "application/xml") {
+        throw Fault(where + ": \"pages\" is an object, of a POST answered with an XML file");
+    }
+    RefuseUnknownKeys(pages, {"item", "position", "size"}, where + ": \"pages\"");
+    answer.paging = {TextMember(pages, "item", where, true),
+                     TextMember(pages, "position", where, true),
+                     TextMember(pages, "size", where, true)};
+}
+
 Answer ReadAnswer(const ProfileFiles& files, const Json::Value& entry, unsigned int index)
 {
     const std::string number = "answer " + std::to_string(index + 1);
@@ -193,7 +235,10 @@ Answer ReadAnswer(const ProfileFiles& files, const Json::Value& entry, unsigned 
     Answer answer;
     answer.request = TextMember(entry, "request", number, true);
     const std::string where = "\"" + answer.request + "\"";
-    RefuseUnknownKeys(entry, {"request", "file", "setting", "status", "root"}, where);
+    RefuseUnknownKeys(
+        entry,
+        {"request", "file", "setting", "status", "root", "channels", "values", "merge", "pages"},
+        where);
     if (!entry["setting"].isNull() && !entry["setting"].isBool()) {
         throw Fault(where + ": \"setting\" is neither true nor false");
     }
@@ -205,6 +250,7 @@ Answer ReadAnswer(const ProfileFiles& files, const Json::Value& entry, unsigned 
     if (const std::string root = TextMember(entry, "root", where, false); !root.empty()) {
         answer.root = root;
     }
+    ReadOwnChannels(entry["channels"], where, answer);
     const std::string file = TextMember(entry, "file", where, false);
     const std::string status = TextMember(entry, "status", where, false);
     if (file.empty() == status.empty() || (answer.setting && file.empty())) {
@@ -213,8 +259,10 @@ Answer ReadAnswer(const ProfileFiles& files, const Json::Value& entry, unsigned 
     }
     if (!file.empty()) {
         ReadDocument(files, file, answer);
+        ReadRules(entry, where, answer);
         return answer;
     }
+    ReadRules(entry, where, answer);
     const Status* outcome = FindOutcome(status);
     if (outcome == nullptr) {
         throw Fault(where + ": the status \"" + status + "\" is unknown");
@@ -231,7 +279,8 @@ void ReadAnswers(const ProfileFiles& files, const Json::Value& answers, Profile&
     for (Json::ArrayIndex i = 0; i < answers.size(); ++i) {
         Answer answer = ReadAnswer(files, answers[i], i);
         const auto same = [&](const Answer& other) {
-            return other.request == answer.request && other.root == answer.root;
+            return other.request == answer.request && other.root == answer.root &&
+                   other.channels == answer.channels;
         };
         if (std::ranges::any_of(profile.answers, same)) {
             throw Fault("\"" + answer.request + "\" is answered twice");

@@ -11,9 +11,18 @@
 
 #include "Device/ParsedRequest.h"
 #include "Device/StatusDocument.h"
+#include "Device/ValueLimits.h"
 
 namespace Device
 {
+
+/// How a document that lists things is given out in pages.
+struct Paging
+{
+    std::string item;      ///< the element that a page holds some of
+    std::string position;  ///< of the request: index of the first item wanted
+    std::string size;      ///< of the request: how many items at most
+};
 
 /// One entry of a manifest's "answers".
 struct Answer
@@ -24,8 +33,13 @@ struct Answer
     std::vector<Parameter> parameters;  ///< those a request must carry; it may carry more
     std::string root;                   ///< root of the request's body; empty: any, or no body
     std::string channelName;            ///< element of the body that names a channel; empty: any
+    std::vector<int> channels;          ///< the only ones that have this answer; empty: all
     bool setting = false;               ///< GET reads it, PUT replaces it
-    std::optional<Status> status;       ///< answered with a status document instead of a file
+    std::vector<ValueLimit> limits;     ///< of the values in a request's body
+    std::string mergedItem;             ///< of a setting: PUT replaces only the items it holds
+    std::string mergedKey;              ///< the child by which those items are told apart
+    std::optional<Paging> paging;
+    std::optional<Status> status;  ///< answered with a status document instead of a file
 
     std::string contentType;
     std::string document;

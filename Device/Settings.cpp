@@ -7,6 +7,7 @@
 
 #include "Device/AnswerTable.h"
 #include "Device/Behaviour.h"
+#include "Device/DocumentPages.h"
 
 namespace Device
 {
@@ -56,9 +57,18 @@ private:
             return MakeStatus(answer.json ? Outcome::kBadJsonContent : Outcome::kBadXmlContent,
                               request.target);
         }
-        std::string body(request.body.substr(0, request.body.find_last_not_of('\0') + 1));
+        if (std::optional<Response> refusal = RefuseBadValues(answer, request)) {
+            return *std::move(refusal);
+        }
+        std::string body(request.body);
         const std::lock_guard lock(mutex_);
-        stored_.insert_or_assign({&answer, found.channel}, std::move(body));
+        const std::pair key(&answer, found.channel);
+        if (!answer.mergedItem.empty()) {
+            const auto kept = stored_.find(key);
+            body = MergeItems(kept != stored_.end() ? kept->second : FillIn(answer, found.channel),
+                              body, answer.mergedItem, answer.mergedKey);
+        }
+        stored_.insert_or_assign(key, std::move(body));
         return MakeStatus(Outcome::kOk, request.target);
     }
 

@@ -26,6 +26,7 @@ constexpr const Status* kOutcomes[] = {
     &Outcome::kBadXmlContent,
     &Outcome::kBadJsonContent,
     &Outcome::kInvalidChannel,
+    &Outcome::kBadParameters,
 };
 
 // What a client sent goes back with every byte harmless in XML and JSON, whatever it was.

@@ -38,6 +38,8 @@ inline constexpr Status kBadJsonContent{400, 6, "Invalid Message Content", "badJ
                                         0x600002};
 inline constexpr Status kInvalidChannel{400, 6, "Invalid Message Content", "invalidChannel",
                                         0x600003};
+inline constexpr Status kBadParameters{400, 6, "Invalid Message Content", "badParameters",
+                                       0x600004};
 }  // namespace Outcome
 
 /// The outcome of that sub-status word, or null when there is none.

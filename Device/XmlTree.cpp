@@ -1,0 +1,97 @@
+// XML as trees.
+// SPDX-License-Identifier: Apache-2.0
+#include "Device/XmlTree.h"
+
+#include <libxml/parser.h>
+#include <libxml/tree.h>
+
+#include <climits>
+
+namespace Device
+{
+
+void FreeXmlTree::operator()(_xmlDoc* document) const
+{
+    xmlFreeDoc(document);
+}
+
+XmlTree ReadXmlTree(std::string_view text)
+{
+    if (text.size() > INT_MAX) {
+        return nullptr;
+    }
+    return XmlTree(xmlReadMemory(
+        text.data(), static_cast<int>(text.size()), nullptr, nullptr,
+        XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOBLANKS));
+}
+
+std::string WriteXmlTree(_xmlDoc& document)
+{
+    xmlChar* text = nullptr;
+    int length = 0;
+    xmlDocDumpFormatMemoryEnc(&document, &text, &length, "UTF-8", 1);
+    if (text == nullptr) {
+        return {};
+    }
+    std::string out(reinterpret_cast<const char*>(text), static_cast<size_t>(length));
+    xmlFree(text);
+    return out;
+}
+
+_xmlNode* RootOf(const XmlTree& tree)
+{
+    return xmlDocGetRootElement(tree.get());
+}
+
+_xmlNode* ElementFrom(_xmlNode* node, std::string_view name)
+{
+    while (node != nullptr &&
+           (node->type != XML_ELEMENT_NODE || (!name.empty() && NameOf(node) != name))) {
+        node = node->next;
+    }
+    return node;
+}
+
+_xmlNode* FindElement(_xmlNode* node, std::string_view name)
+{
+    for (_xmlNode* child = ElementFrom(node->children); child != nullptr;
+         child = ElementFrom(child->next)) {
+        if (NameOf(child) == name) {
+            return child;
+        }
+        if (_xmlNode* found = FindElement(child, name)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+std::string_view NameOf(const _xmlNode* element)
+{
+    return reinterpret_cast<const char*>(element->name);
+}
+
+std::string TextOf(const _xmlNode* element)
+{
+    constexpr char kBlanks[] = " \t\r\n";
+    xmlChar* content = xmlNodeGetContent(element);
+    if (content == nullptr) {
+        return {};
+    }
+    const std::string_view text(reinterpret_cast<const char*>(content));
+    const size_t first = text.find_first_not_of(kBlanks);
+    std::string trimmed;
+    if (first != std::string_view::npos) {
+        trimmed = text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+    }
+    xmlFree(content);
+    return trimmed;
+}
+
+std::string ChildText(const _xmlNode* element, std::string_view name)
+{
+    const _xmlNode* child = ElementFrom(element->children, name);
+    return child == nullptr ? std::string() : TextOf(child);
+}
+
+}  // namespace Device
