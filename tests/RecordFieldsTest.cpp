@@ -1,0 +1,370 @@
+// The field lists of all XML records: each name fills its own member, and no member is left out.
+// SPDX-License-Identifier: Apache-2.0
+#include <concepts>
+#include <iterator>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "CapabilitySet/RecordTree.h"
+#include "CapabilitySet/private/ParseToSDK.h"
+#include "CapabilitySet/private/XmlFields.h"
+#include "support/XmlRecords.h"
+#include "support/XmlTree.h"
+
+namespace
+{
+
+using namespace CapabilitySet;
+using TestSupport::RootOf;
+using TestSupport::XmlRecords;
+using TestSupport::XmlTree;
+
+struct Sample
+{
+    std::string attributes{};
+    std::string content{};
+};
+
+std::string Element(const std::string& name, const Sample& sample)
+{
+    return "<" + name + sample.attributes + ">" + sample.content + "</" + name + ">";
+}
+
+// What an element of each kind holds that is not the default, another value for each number.
+
+template <class Record>
+std::string FirstField(int number);
+
+template <std::same_as<bool> Flag>
+Sample SampleOf(const Flag& /*member*/, auto... /*how*/)
+{
+    return {" opt='true'", "true"};
+}
+
+template <class Number>
+    requires(std::is_arithmetic_v<Number> && !std::same_as<Number, bool>)
+Sample SampleOf(const Number& /*member*/, int number, auto... /*how*/)
+{
+    return {{}, std::to_string(number)};
+}
+
+Sample SampleOf(const std::string& /*member*/, int number, auto... /*how*/)
+{
+    return {{}, "text " + std::to_string(number)};
+}
+
+Sample SampleOf(const OptElement<std::string>& /*member*/, int number, auto... /*how*/)
+{
+    return {" opt='a,b" + std::to_string(number) + "'", {}};
+}
+
+Sample SampleOf(const MinMaxElement& /*member*/, int number, as::Attributes /*how*/)
+{
+    return {" min='0' max='" + std::to_string(number) + "'", {}};
+}
+
+Sample SampleOf(const MinMaxElement& /*member*/, int number, auto... /*how*/)
+{
+    return {{}, "<Min>0</Min><Max>" + std::to_string(number) + "</Max>"};
+}
+
+Sample SampleOf(const std::vector<int>& /*member*/, int number, as::Codes how)
+{
+    const auto& entries = how.table.entries;
+    const auto entry = static_cast<std::size_t>(number) % entries.size();
+    return {" opt='" + std::string(entries[entry].option) + "'", {}};
+}
+
+Sample SampleOf(const std::vector<AlarmHandleType::HandleType>& /*member*/, int /*number*/,
+                as::HandleTypes /*how*/)
+{
+    return {" opt='audio'", {}};
+}
+
+template <xml::IsRecord Record>
+Sample SampleOf(const Record& /*member*/, int number, auto... /*how*/)
+{
+    return {{}, FirstField<Record>(number)};
+}
+
+template <class Item>
+Sample SampleOf(const std::shared_ptr<Item>& /*member*/, int number)
+{
+    return {{}, FirstField<Item>(number)};
+}
+
+template <class Item>
+Sample SampleOf(const std::vector<Item>& /*member*/, int number, as::Repeated /*how*/)
+{
+    return SampleOf(Item(), number);
+}
+
+template <class Item>
+Sample SampleOf(const std::vector<Item>& /*member*/, int number, as::Items how)
+{
+    return {{}, Element(how.item, SampleOf(Item(), number))};
+}
+
+struct FieldLayout
+{
+    std::string name;
+    std::string element;  ///< one that fills the member
+    bool counts;          ///< makes the record count as read
+    std::size_t offset;
+    std::size_t size;
+    std::size_t alignment;
+};
+
+template <class Record>
+std::vector<FieldLayout> LayoutOf(int number)
+{
+    std::vector<FieldLayout> fields;
+    Record record;
+    Record::Fields(record, [&](const char* name, auto& member, auto... how) {
+        const auto offset =
+            reinterpret_cast<const char*>(&member) - reinterpret_cast<const char*>(&record);
+        constexpr bool kIsMarker = (std::is_same_v<decltype(how), as::Marker> || ...);
+        fields.push_back({name, Element(name, SampleOf(member, number++, how...)), !kIsMarker,
+                          static_cast<std::size_t>(offset), sizeof member,
+                          alignof(decltype(member))});
+    });
+    return fields;
+}
+
+template <class Record>
+std::string FirstField(int number)
+{
+    return LayoutOf<Record>(number).front().element;
+}
+
+struct Reading
+{
+    RecordNode record;
+    bool isFlagUp;
+};
+
+/// Reads an element of this content; without one, the record stays as it was made.
+template <class Record>
+Reading Read(const std::string* content)
+{
+    Record record;
+    if (content != nullptr) {
+        const std::string text = Element(RootOf<Record>(), {{}, *content});
+        if constexpr (requires { record.Parse(text); }) {
+            record.Parse(text);
+        } else {
+            const XmlTree tree(text);
+            record.Parse(xml::TakesFirstChild<Record> ? tree.First() : tree.Root());
+        }
+    } else if constexpr (requires(_xmlNode* node) { record.Parse(node); }) {
+        record.Parse(static_cast<_xmlNode*>(nullptr));
+    }
+    return {Describe({}, record), xml::FlagOf(record)};
+}
+
+struct Row
+{
+    std::string name;
+    std::vector<FieldLayout> fields;
+    Reading (*read)(const std::string* content);
+    std::size_t size;
+    std::size_t alignment;
+    bool hasFlag;
+};
+
+const std::vector<Row>& Rows()
+{
+    static const std::vector<Row> all = [] {
+        std::vector<Row> rows;
+        XmlRecords::ForEach([&rows]<class Record>() {
+            constexpr int kFirstNumber = 11;
+            rows.push_back({testing::internal::GetTypeName<Record>(),
+                            LayoutOf<Record>(kFirstNumber), &Read<Record>, sizeof(Record),
+                            alignof(Record), xml::HasValid<Record> || xml::HasCapable<Record>});
+            // "485SlotNo" is no name that a parsed document can hold.
+            for (FieldLayout& field : rows.back().fields) {
+                if (field.name.front() == '4')
+                    field.element.clear();
+            }
+        });
+        return rows;
+    }();
+    return all;
+}
+
+/// In this record two names fill the same member, and nothing fills the second of two flags.
+bool SharesFlag(const Row& row)
+{
+    return row.name == "CapabilitySet::Track";
+}
+
+/// These have a member in no list: the note that "alarmTime" was announced.
+bool HasUnlisted(const Row& row)
+{
+    return row.name == "CapabilitySet::PIRAlarm" || row.name == "CapabilitySet::WirelessAlarm" ||
+           row.name == "CapabilitySet::CallHelpAlarm";
+}
+
+void ExpectOneFilled(const Row& row, std::size_t field, const RecordNode& filled,
+                     const RecordNode& untouched)
+{
+    ASSERT_EQ(filled.children.size(), row.fields.size());
+    for (std::size_t i = 0; i < row.fields.size(); ++i) {
+        const bool isFilled = i == field || (SharesFlag(row) && i < 2 && field < 2);
+        EXPECT_NE(SameValues(filled.children[i], untouched.children[i]), isFilled)
+            << row.fields[i].name;
+    }
+    EXPECT_FALSE(SameValues(filled, untouched)) << "comparing must see the difference";
+}
+
+TEST(RecordFieldsTest, EachNameFillsItsOwnMemberAndNoOther)
+{
+    for (const Row& row : Rows()) {
+        SCOPED_TRACE(row.name);
+        const RecordNode untouched = row.read(nullptr).record;
+        RecordNode expected = untouched;
+        std::string whole;
+        for (std::size_t field = 0; field < row.fields.size(); ++field) {
+            const std::string& element = row.fields[field].element;
+            if (element.empty())
+                continue;
+            SCOPED_TRACE(element);
+            const Reading reading = row.read(&element);
+            ExpectOneFilled(row, field, reading.record, untouched);
+            EXPECT_EQ(reading.isFlagUp, row.fields[field].counts || !row.hasFlag);
+            whole += element;
+            expected.children[field] = reading.record.children[field];
+        }
+        EXPECT_TRUE(SameValues(row.read(&whole).record, expected)) << whole;
+    }
+}
+
+TEST(RecordFieldsTest, WhatIsMissingOrOutOfOrderKeepsItsDefault)
+{
+    for (const Row& row : Rows()) {
+        SCOPED_TRACE(row.name);
+        const Reading untouched = row.read(nullptr);
+        EXPECT_EQ(untouched.isFlagUp, !row.hasFlag);
+        for (const std::string content : {"", " ", "<unknown>1</unknown>", "<!--1-->text"}) {
+            const Reading reading = row.read(&content);
+            EXPECT_EQ(reading.record, untouched.record) << content;
+            EXPECT_EQ(reading.isFlagUp, untouched.isFlagUp) << content;
+        }
+        std::string reversed;
+        for (const FieldLayout& field : row.fields)
+            reversed.insert(0, field.element);
+        EXPECT_EQ(row.read(&reversed).record, row.read(&row.fields.front().element).record)
+            << "the cursor goes for the first field, and past all others";
+    }
+}
+
+TEST(RecordFieldsTest, EveryMemberIsListedOnceInItsOrder)
+{
+    const auto alignUp = [](std::size_t offset, std::size_t alignment) {
+        return (offset + alignment - 1) / alignment * alignment;
+    };
+    for (const Row& row : Rows()) {
+        SCOPED_TRACE(row.name);
+        std::set<std::string> names;
+        std::size_t end = row.hasFlag ? 1 : 0;
+        for (const FieldLayout& field : row.fields) {
+            if (!SharesFlag(row) && !HasUnlisted(row)) {
+                EXPECT_EQ(field.offset, alignUp(end, field.alignment))
+                    << field.name << ": other members stand before it than in the list";
+            }
+            end = field.offset + field.size;
+            EXPECT_TRUE(names.insert(field.name).second) << field.name << " is read twice";
+        }
+        EXPECT_EQ(alignUp(end, row.alignment), row.size) << "members behind the last field";
+    }
+}
+
+// The basic capability's elements as devices send them, in their order, with their kinds.
+
+/// Writes "name:kind" for each field, but the name alone for a flag.
+struct KindWriter
+{
+    std::vector<std::string> words{};
+
+    void operator()(const char* name, auto& member, auto... how)
+    {
+        words.push_back(name);
+        Add(member, how...);
+    }
+
+    void Add(bool&) {}
+    void Add(bool&, as::Presence) { words.back() += ":presence"; }
+    void Add(bool&, as::Marker) { words.back() += ":marker"; }
+    void Add(int&) { words.back() += ":int"; }
+    void Add(unsigned&) { words.back() += ":uint"; }
+    void Add(std::string&) { words.back() += ":text"; }
+    void Add(MinMaxElement&, as::Attributes) { words.back() += ":range"; }
+    void Add(OptElement<std::string>&) { words.back() += ":options"; }
+    template <xml::IsRecord Record>
+    void Add(Record& record)
+    {
+        words.emplace_back("{");
+        Record::Fields(record, *this);
+        words.emplace_back("}");
+    }
+};
+
+constexpr const char* kHardware = R"(
+HardwareVersion:int AlarmInPortNum:int AlarmOutPortNum:int RS232Num:int RS485Num:int
+NetworkPortNum:int USBNum:int FlashSize:int RamSize:int USBVersion:uint SDNum:int HardDiskNum:int
+SATANum:int eSATANum:int miniSASNum:int VideoInNum:int AudioInNum:int VideoOutNum:int
+AudioOutNum:int AudioTalkNum:int SDSupport WiFiSupport POESupport IRSupport VideoOutSupport
+ResetSupport AnalogChannelNum:int IPChannelNum:int MultiNetworkCard NetworkCardNumber:int
+BondingSupport VGANumber:int HDMINumber:int CVBSNumber:int AuxoutNumber:int RAIDType:uint RS485 {
+localRs485No:range expandRS485No:range fullDuplexRS485No:range semiDuplexRS485No:range
+485SlotNo:range } ZoneNum { localZoneNo:range extendZoneNo:range } sirenNo:range
+electroLockNo:range mobileGateNo:range TriggerNum { localTriggerNo:range extendTriggerNo:range }
+Sensor { totalSensorNum:int localSensorNo:range expandSensorNo:range }
+)";
+
+constexpr const char* kSoftware = R"(
+NewHdNo MaxNetworkHDNum:int NasSupport NasNumber:int ShowStringNumber:int MotionDetectAlarmSupport
+VILostAlarmSupport HideAlarmSupport ShelterSupport RtspSupport RtpoverRtspSupport
+RtspoverHttpSupport NtpSupport EptzSupport PtzSupport DDNSSupport DDNSHostType:text SNMPSupport
+SNMPVersion:text UPNPSupport iSCSISupport iSCSINum:int Ipv6Support VCASupport MultipleStreamSupport
+SubStreamSupport EmailSupport SADPVersion:text ZeroChanNumber:int BackupSupport
+FindFileByEventSupport SmartSearchSupport ATMSupport FileLockSupport BitrateLimitSupport
+MaxLoginNum:int MaxPreviewNum:int MaxPlayBackNum:int MaxChanLinkNum:int ShutDownSupport
+FrameFreezeSupport HDgroupConfig RS232Config PPPoEConfig RedundancyRecord VideoOutScaleConfig
+GuestUser UploadFTP NotSupportDiskQuota QuotaRatio LocalVout { mainVoutType:options }
+SingleStorageMaxCap:int IPCPlug DrawFrameRecord DelInvalidDisk MountOrUnmountDisk
+MaxDvcsSubDevNumNum:int NotSupportInputOutputConfigFile NotSupportLogSearch NeedReboot {
+ImportConfigurationFileReboot:int EsataUseageChange:int AlarmInTypeChange:int
+AnalogChanEnableChange:int RestoreConfig:int RS232workModeChange:int NetPortChange:int
+RtspPortChange:int DhcpEnableChange:int HttpPortChange:int PPPoEChange:int NetMultiCastIPChange:int
+HardDiskParamChange:int RecordTimeChange:int VideoEncodeTypeChange:int AudioEncodeTypeChange:int
+StandardTypeChange:int DehazeEnableChange:int LineCodingEnableChange:int
+LocalOutputEnableChange:int LocalMainVoutTypeChange:int } DecoderAbility:marker
+isSupportLoginTiming isNotSupportSummerTime heatMap:presence PDC:presence Support3DPTZ
+isSupportGetThumbnails:presence isSupportOnLineUser isSupportDownloadVehicleInfo
+isSupportClientProxyWEB WEBLocation:text deviceId:text isSupportClientProxyWEBInsert
+isSupportClientIntelligentConfiguration
+)";
+
+std::vector<std::string> WordsOf(const char* text)
+{
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+TEST(RecordFieldsTest, BasicCapabilityReadsWhatDevicesSend)
+{
+    BasicCapability record;
+    KindWriter hardware;
+    HardwareCapability::Fields(record.hardware, hardware);
+    EXPECT_EQ(hardware.words, WordsOf(kHardware));
+    KindWriter software;
+    SoftwareCapability::Fields(record.software, software);
+    EXPECT_EQ(software.words, WordsOf(kSoftware));
+}
+
+}  // namespace
