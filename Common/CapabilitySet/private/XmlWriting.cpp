@@ -97,8 +97,10 @@ xmlNode* NewElement(const char* name)
 
 void AddText(xmlNode* parent, const char* name, const std::string& text)
 {
+    // An empty text node would be written as "<a></a>".
+    const char* const content = text.c_str()[0] == '\0' ? nullptr : text.c_str();
     // Not xmlNewChild, which takes its text for XML and loses what stands behind an "&".
-    if (xmlNewTextChild(parent, nullptr, Chars(name), Chars(text.c_str())) == nullptr)
+    if (xmlNewTextChild(parent, nullptr, Chars(name), Chars(content)) == nullptr)
         throw std::bad_alloc();
 }
 
