@@ -47,4 +47,16 @@ struct CAPABILITYSET_API JsonRecord
     [[nodiscard]] std::string CreatJsonParser() const { return Make(); }
 };
 
+/// A document whose members are the device's own: all of it is in `root`.
+template <class Record>
+struct JsonTree : JsonRecord<Record>
+{
+    static constexpr const char* kKey = "";
+
+    template <class Self, class Field>
+    static void Fields([[maybe_unused]] Self& r, [[maybe_unused]] Field&& field)
+    {
+    }
+};
+
 }  // namespace CapabilitySet

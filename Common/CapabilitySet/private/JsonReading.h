@@ -59,6 +59,10 @@ void WithRoot(const std::string& text, Read&& read)
     } catch (const std::bad_alloc&) {
         if (OperationScope::Runs())
             throw;
+    } catch (const Json::RuntimeError& error) {
+        // What JsonCpp makes of a malloc that failed; the other one is a text too deep to parse.
+        if (OperationScope::Runs() && std::strstr(error.what(), "allocate") != nullptr)
+            throw std::bad_alloc();
     } catch (...)  // what was read before stays; answers never throw at the client
     {
     }

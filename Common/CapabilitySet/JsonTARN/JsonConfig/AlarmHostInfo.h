@@ -9,104 +9,53 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
-/// Siren settings. The members are the device's own: see `root`.
-struct CAPABILITYSET_API AlarmSirenCfg : JsonRecord<AlarmSirenCfg>
+/// Siren settings.
+struct CAPABILITYSET_API AlarmSirenCfg : JsonTree<AlarmSirenCfg>
 {
-    static constexpr const char* kKey = "";
-
     AlarmSirenCfg() = default;
     explicit AlarmSirenCfg(const std::string& text) { Parse(text); }
-
-    template <class Record, class Field>
-    static void Fields([[maybe_unused]] Record& r, [[maybe_unused]] Field&& field)
-    {
-    }
 };
 
-/// Contact-ID reporting settings. The members are the device's own: see `root`.
-struct CAPABILITYSET_API AlarmHostCIDAlarmCfg : JsonRecord<AlarmHostCIDAlarmCfg>
+/// Contact-ID reporting settings.
+struct CAPABILITYSET_API AlarmHostCIDAlarmCfg : JsonTree<AlarmHostCIDAlarmCfg>
 {
-    static constexpr const char* kKey = "";
-
     AlarmHostCIDAlarmCfg() = default;
     explicit AlarmHostCIDAlarmCfg(const std::string& text) { Parse(text); }
-
-    template <class Record, class Field>
-    static void Fields([[maybe_unused]] Record& r, [[maybe_unused]] Field&& field)
-    {
-    }
 };
 
-/// State of a siren. The members are the device's own: see `root`.
-struct CAPABILITYSET_API AlarmSirenStatus : JsonRecord<AlarmSirenStatus>
+/// State of a siren.
+struct CAPABILITYSET_API AlarmSirenStatus : JsonTree<AlarmSirenStatus>
 {
-    static constexpr const char* kKey = "";
-
     AlarmSirenStatus() = default;
     explicit AlarmSirenStatus(const std::string& text) { Parse(text); }
-
-    template <class Record, class Field>
-    static void Fields([[maybe_unused]] Record& r, [[maybe_unused]] Field&& field)
-    {
-    }
 };
 
-/// State of the subsystems. The members are the device's own: see `root`.
-struct CAPABILITYSET_API AlarmHostSubSystemsInfo : JsonRecord<AlarmHostSubSystemsInfo>
+/// State of the subsystems.
+struct CAPABILITYSET_API AlarmHostSubSystemsInfo : JsonTree<AlarmHostSubSystemsInfo>
 {
-    static constexpr const char* kKey = "";
-
     AlarmHostSubSystemsInfo() = default;
     explicit AlarmHostSubSystemsInfo(const std::string& text) { Parse(text); }
-
-    template <class Record, class Field>
-    static void Fields([[maybe_unused]] Record& r, [[maybe_unused]] Field&& field)
-    {
-    }
 };
 
-/// State of the output modules. The members are the device's own: see `root`.
-struct CAPABILITYSET_API AlarmHostOutputsModulesInfo : JsonRecord<AlarmHostOutputsModulesInfo>
+/// State of the output modules.
+struct CAPABILITYSET_API AlarmHostOutputsModulesInfo : JsonTree<AlarmHostOutputsModulesInfo>
 {
-    static constexpr const char* kKey = "";
-
     AlarmHostOutputsModulesInfo() = default;
     explicit AlarmHostOutputsModulesInfo(const std::string& text) { Parse(text); }
-
-    template <class Record, class Field>
-    static void Fields([[maybe_unused]] Record& r, [[maybe_unused]] Field&& field)
-    {
-    }
 };
 
-/// State of the zones. The members are the device's own: see `root`.
-struct CAPABILITYSET_API AlarmHostZonesInfo : JsonRecord<AlarmHostZonesInfo>
+/// State of the zones.
+struct CAPABILITYSET_API AlarmHostZonesInfo : JsonTree<AlarmHostZonesInfo>
 {
-    static constexpr const char* kKey = "";
-
     AlarmHostZonesInfo() = default;
     explicit AlarmHostZonesInfo(const std::string& text) { Parse(text); }
-
-    template <class Record, class Field>
-    static void Fields([[maybe_unused]] Record& r, [[maybe_unused]] Field&& field)
-    {
-    }
 };
 
-/// State of the sirens. The members are the device's own: see `root`.
-struct CAPABILITYSET_API AlarmHostSirensInfo : JsonRecord<AlarmHostSirensInfo>
+/// State of the sirens.
+struct CAPABILITYSET_API AlarmHostSirensInfo : JsonTree<AlarmHostSirensInfo>
 {
-    static constexpr const char* kKey = "";
-
     AlarmHostSirensInfo() = default;
     explicit AlarmHostSirensInfo(const std::string& text) { Parse(text); }
-
-    template <class Record, class Field>
-    static void Fields([[maybe_unused]] Record& r, [[maybe_unused]] Field&& field)
-    {
-    }
 };
 
 }  // namespace CapabilitySet

@@ -1,0 +1,117 @@
+// What a device can analyse and search: crossings, city management, behaviour, false alarms.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/JsonTARN/JsonLimits.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/private/FieldTags.h"
+
+namespace CapabilitySet
+{
+
+// Members bear the names of their keys.
+
+/// What a marked spot of a crossing can have.
+struct CAPABILITYSET_API IntersectionTagCap : JsonPart<IntersectionTagCap>
+{
+    bool isSupportID = false;           ///< a number
+    bool isSupportIDPoint = false;      ///< a place in the picture
+    bool isSupportIDDirection = false;  ///< a direction
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("isSupportID", r.isSupportID, as::textFlag);
+        field("isSupportIDPoint", r.isSupportIDPoint, as::textFlag);
+        field("isSupportIDDirection", r.isSupportIDDirection, as::textFlag);
+    }
+};
+
+/// Analysis of the traffic at a crossing.
+struct CAPABILITYSET_API IntersectionAnalysisCap : JsonRecord<IntersectionAnalysisCap>
+{
+    static constexpr const char* kKey = "IntersectionAnalysisCap";
+
+    IntersectionTagCap TagID;
+    JsonLimits searchReportType;  ///< kinds of report that a search can give
+
+    IntersectionAnalysisCap() = default;
+    explicit IntersectionAnalysisCap(const std::string& text) { Parse(text); }
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("TagID", r.TagID);
+        field("searchReportType", r.searchReportType);
+    }
+};
+
+/// Searching city management events.
+struct CAPABILITYSET_API CityManagementCapability : JsonRecord<CityManagementCapability>
+{
+    static constexpr const char* kKey = "SearchDescription";
+
+    JsonLimits maxResultNumber;  ///< results of a whole search
+    JsonLimits maxResults;       ///< results of one page
+    JsonLimits subEventType;     ///< kinds of event
+    int channelID = 0;
+
+    CityManagementCapability() = default;
+    explicit CityManagementCapability(const std::string& text) { Parse(text); }
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("maxResultNumber", r.maxResultNumber);
+        field("maxResults", r.maxResults);
+        field("subEventType", r.subEventType);
+        field("channelID", r.channelID);
+    }
+};
+
+/// Searching the results of behaviour analysis.
+struct CAPABILITYSET_API DeeplyThinkBehaviorCap : JsonRecord<DeeplyThinkBehaviorCap>
+{
+    static constexpr const char* kKey = "SearchCap";
+
+    JsonLimits startTime;
+    JsonLimits endTime;
+    Json::Value CountByTask;  ///< counting by task, as the device tells it
+    Json::Value CountByTime;  ///< counting by time, as the device tells it
+
+    DeeplyThinkBehaviorCap() = default;
+    explicit DeeplyThinkBehaviorCap(const std::string& text) { Parse(text); }
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("startTime", r.startTime);
+        field("endTime", r.endTime);
+        field("CountByTask", r.CountByTask);
+        field("CountByTime", r.CountByTime);
+    }
+};
+
+/// Confirming or rejecting alarms that may be false.
+struct CAPABILITYSET_API MisinfoConfirmCap : JsonRecord<MisinfoConfirmCap>
+{
+    static constexpr const char* kKey = "misinfoConfirmCap";
+
+    OptJsonElement eventType;  ///< kinds of event
+    OptJsonElement state;      ///< judgements that the device takes
+
+    MisinfoConfirmCap() = default;
+    explicit MisinfoConfirmCap(const std::string& text) { Parse(text); }
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("eventType", r.eventType);
+        field("state", r.state);
+    }
+};
+
+}  // namespace CapabilitySet

@@ -1,0 +1,73 @@
+// What a device can do with sounds: searching detected ones, importing libraries of them.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "CapabilitySet/JsonTARN/JsonLimits.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
+
+namespace CapabilitySet
+{
+
+// Members bear the names of their keys.
+
+/// Searching detected sounds.
+struct CAPABILITYSET_API AudioDetectionSearchCapability : JsonTree<AudioDetectionSearchCapability>
+{
+    AudioDetectionSearchCapability() = default;
+    explicit AudioDetectionSearchCapability(const std::string& text) { Parse(text); }
+};
+
+/// What names the sounds to import.
+struct CAPABILITYSET_API AudioImportSourceCap : JsonPart<AudioImportSourceCap>
+{
+    JsonLimits UUID;
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("UUID", r.UUID);
+    }
+};
+
+/// Where imported sounds go, and under which names.
+struct CAPABILITYSET_API AudioImportDestinationCap : JsonPart<AudioImportDestinationCap>
+{
+    JsonLimits audioLibID;
+    JsonLimits audioSampleID;
+    JsonLimits audioID;
+    JsonLimits sampleName;
+    JsonLimits sampleType;
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("audioLibID", r.audioLibID);
+        field("audioSampleID", r.audioSampleID);
+        field("audioID", r.audioID);
+        field("sampleName", r.sampleName);
+        field("sampleType", r.sampleType);
+    }
+};
+
+/// Importing sounds into a library.
+struct CAPABILITYSET_API ImportAudioLibCap : JsonRecord<ImportAudioLibCap>
+{
+    static constexpr const char* kKey = "";
+
+    AudioImportSourceCap SourceData;
+    AudioImportDestinationCap DestinationData;
+
+    ImportAudioLibCap() = default;
+    explicit ImportAudioLibCap(const std::string& text) { Parse(text); }
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        field("SourceData", r.SourceData);
+        field("DestinationData", r.DestinationData);
+    }
+};
+
+}  // namespace CapabilitySet
