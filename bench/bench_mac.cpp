@@ -44,11 +44,12 @@ template <class Side>
 void AddOnlyOnce(const std::string& work, const std::string& name, Side side)
 {
     benchmark::RegisterBenchmark((work + '/' + name).c_str(), [=](benchmark::State& state) {
+        const std::string dump = work + '|' + name + "|1";
         CALLGRIND_TOGGLE_COLLECT;
         for (auto round : state)
             benchmark::DoNotOptimize(side());
         CALLGRIND_TOGGLE_COLLECT;
-        CALLGRIND_DUMP_STATS_AT((work + '|' + name + "|1").c_str());
+        CALLGRIND_DUMP_STATS_AT(dump.c_str());
     })->Iterations(1);
 }
 

@@ -23,6 +23,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Pair;
+using testing::UnorderedElementsAre;
 
 /// Tells a private member of the class to this file: an explicit instantiation may name it.
 template <class Tag, auto Member>
@@ -150,14 +151,14 @@ TEST(MacCompanyHelperTest, AnUnknownPrefixIsAddedOnceAndToItsObjectAlone)
     CMacCompanyHelper other;
     EXPECT_EQ(helper.getCompanyNameByMAc("000000"), "");
     EXPECT_EQ(helper.getCompanyNameByMAc("000000"), "");
-    EXPECT_THAT(Added(helper), ElementsAre(Pair("000000", "")));
+    EXPECT_THAT(Added(helper), UnorderedElementsAre(Pair("000000", "")));
     EXPECT_THAT(Added(other), IsEmpty());
     CMacCompanyHelper copy = helper;
     copy.getCompanyNameByMAc("\xff");
-    EXPECT_THAT(Added(copy), ElementsAre(Pair("000000", ""), Pair("\xff", "")));
+    EXPECT_THAT(Added(copy), UnorderedElementsAre(Pair("000000", ""), Pair("\xff", "")));
     helper.initialTable();
     const CMacCompanyHelper moved = std::move(helper);
-    EXPECT_THAT(Added(moved), ElementsAre(Pair("000000", "")));
+    EXPECT_THAT(Added(moved), UnorderedElementsAre(Pair("000000", "")));
 }
 
 TEST(MacCompanyHelperTest, ATextAddsItsMembersThatAreTextsAndChangesNone)
@@ -172,8 +173,8 @@ TEST(MacCompanyHelperTest, ATextAddsItsMembersThatAreTextsAndChangesNone)
     convert(R"({"ffff00" : "zero", "ffff01" : "later", "ffff03" : ""})");
     for (const char* const text : {"", "{", R"({"a" : "b")", R"(["c"])", R"("d")", "null", "1"})
         EXPECT_NO_THROW(convert(text)) << text;
-    EXPECT_THAT(Added(helper), ElementsAre(Pair("ffff00", "zero"), Pair("ffff01", "first"),
-                                           Pair("ffff02", "second"), Pair("ffff03", "")));
+    EXPECT_THAT(Added(helper), UnorderedElementsAre(Pair("ffff00", "zero"), Pair("ffff01", "first"),
+                                                    Pair("ffff02", "second"), Pair("ffff03", "")));
 }
 
 TEST(MacCompanyHelperTest, EachLookupWritesOneLineWithItsPlace)
@@ -214,7 +215,7 @@ TEST(MacCompanyHelperTest, ObjectsAreMadeAndUsedOnManyThreadsAtOnce)
             CMacCompanyHelper helper;
             EXPECT_EQ(helper.getCompanyNameByMAc("fcd733"), "tp-link");
             EXPECT_EQ(helper.getCompanyNameByMAc(std::to_string(i)), "");
-            EXPECT_THAT(Added(helper), ElementsAre(Pair(std::to_string(i), "")));
+            EXPECT_THAT(Added(helper), UnorderedElementsAre(Pair(std::to_string(i), "")));
         });
     }
     for (std::thread& thread : threads)

@@ -76,7 +76,7 @@ FieldMatches::FieldMatches(const FieldIndex& index, xmlNode* firstChild) : index
         more_.resize(index.Size());
         matches_ = more_.data();
     }
-    std::fill_n(matches_, index.Size(), Match{nullptr, 0});
+    std::fill_n(matches_, index.Size(), nullptr);
     if (!MatchInOrder(firstChild))
         MatchByCursor(firstChild);
 }
@@ -85,45 +85,49 @@ FieldMatches::FieldMatches(const FieldIndex& index, xmlNode* firstChild) : index
 /// later in the record: then the cursor, which goes for the earlier field, skips some of them.
 bool FieldMatches::MatchInOrder(xmlNode* firstChild)
 {
-    bool inOrder = true;
     std::size_t next = 0;
-    std::size_t ordinal = 0;
     for (xmlNode* node = firstChild; node != nullptr; node = node->next) {
         if (node->type != XML_ELEMENT_NODE)
             continue;
-        ++ordinal;
         const bool expected = next < index_.Size() && Same(index_.NameOf(next), NameOf(node));
         const std::size_t field = expected ? next : index_.Find(NameOf(node));
         if (field == FieldIndex::kNone)
             continue;
-        Match& match = matches_[field];
-        match.last = ordinal;
         if (field >= next) {
-            match.element = node;
+            matches_[field] = node;
             next = field + 1;
-        } else if (match.element == nullptr || (index_.IsRepeated(field) && field + 1 != next))
-            inOrder = false;
+        } else if (matches_[field] == nullptr || (index_.IsRepeated(field) && field + 1 != next)) {
+            return false;
+        }
     }
-    return inOrder;
+    return true;
 }
 
 /// What a cursor finds that searches each name from where the last one was found. It never
 /// searches for a name that does not follow, so that it passes each child once.
 void FieldMatches::MatchByCursor(xmlNode* firstChild)
 {
+    std::vector<std::size_t> last(index_.Size());  // of each name, counted from 1
+    std::size_t ordinal = 0;
+    for (const xmlNode* child = firstChild; child != nullptr; child = child->next) {
+        if (child->type != XML_ELEMENT_NODE)
+            continue;
+        ++ordinal;
+        if (const std::size_t field = index_.Find(NameOf(child)); field != FieldIndex::kNone)
+            last[field] = ordinal;
+    }
     xmlNode* node = firstChild;
     std::size_t passed = 0;
     for (std::size_t field = 0; field < index_.Size(); ++field) {
-        Match& match = matches_[field];
-        match.element = nullptr;
-        const std::size_t end = match.last;
-        while (passed < end) {
+        xmlNode*& match = matches_[field];
+        match = nullptr;
+        while (passed < last[field]) {
             const bool element = node->type == XML_ELEMENT_NODE;
-            if (element && match.element == nullptr && Same(index_.NameOf(field), NameOf(node)))
-                match.element = node;
+            if (element && match == nullptr && Same(index_.NameOf(field), NameOf(node)))
+                match = node;
             node = node->next;
             passed += element ? 1 : 0;
-            if (match.element != nullptr && !index_.IsRepeated(field))
+            if (match != nullptr && !index_.IsRepeated(field))
                 break;
         }
     }

@@ -61,23 +61,18 @@ public:
     FieldMatches& operator=(const FieldMatches&) = delete;
 
     /// The element of a field, of a repeated one its first; null when it is not read.
-    [[nodiscard]] xmlNode* operator[](std::size_t field) const { return matches_[field].element; }
+    [[nodiscard]] xmlNode* operator[](std::size_t field) const { return matches_[field]; }
 
 private:
-    struct Match
-    {
-        xmlNode* element;
-        std::size_t last;  ///< ordinal of the last element of this name, counted from 1
-    };
     static constexpr std::size_t kInline = 128;
 
     bool MatchInOrder(xmlNode* firstChild);
     void MatchByCursor(xmlNode* firstChild);
 
     const FieldIndex& index_;
-    std::array<Match, kInline> inline_;
-    std::vector<Match> more_;  ///< for records of very many fields
-    Match* matches_;
+    std::array<xmlNode*, kInline> inline_;
+    std::vector<xmlNode*> more_;  ///< for records of very many fields
+    xmlNode** matches_;
 };
 
 }  // namespace CapabilitySet::xml

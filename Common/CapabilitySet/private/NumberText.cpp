@@ -25,6 +25,10 @@ constexpr bool IsBlank(char c)
 /// Takes blanks and a sign off the front of the text; true for a minus.
 bool TakeSign(std::string_view& text)
 {
+    // As nearly every number of a device: what is greater than '-' is neither.
+    if (!text.empty() && text.front() > '-') {
+        return false;
+    }
     std::size_t begin = 0;
     while (begin < text.size() && IsBlank(text[begin])) {
         ++begin;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonCap/MacCompanyHelper.h"
 
-#include <string_view>
 #include <utility>
 
 #include "CapabilitySet/private/JsonReading.h"
@@ -48,8 +47,8 @@ void CMacCompanyHelper::convertStringToMap(const std::string& text)
     if (!json::ParseText(text, root) || !root.isObject())
         return;
     const Json::Value& members = root;
+    own_.reserve(own_.size() + members.size());
     const auto end = members.end();
-    auto place = own_.begin();
     for (auto member = members.begin(); member != end; ++member) {
         const char* labelBegin = nullptr;
         const char* labelEnd = nullptr;
@@ -57,12 +56,8 @@ void CMacCompanyHelper::convertStringToMap(const std::string& text)
             continue;  // no text
         const char* prefixEnd = nullptr;
         const char* const prefixBegin = member.memberName(&prefixEnd);
-        const std::string_view prefix(prefixBegin, prefixEnd);
-        // Members come in the map's own order: one walk along both finds every place. A prefix that
-        // is there keeps its label.
-        while (place != own_.end() && own_.key_comp()(place->first, prefix))
-            ++place;
-        place = own_.emplace_hint(place, prefix, std::string_view(labelBegin, labelEnd));
+        // A prefix that is there keeps its label.
+        own_.try_emplace(std::string(prefixBegin, prefixEnd), labelBegin, labelEnd);
     }
 }
 

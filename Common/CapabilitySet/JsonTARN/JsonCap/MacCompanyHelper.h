@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <cstddef>
-#include <map>
 #include <string>
-#include <string_view>
+#include <unordered_map>
 
 #include "CapabilitySet/Export.h"
 
@@ -46,22 +44,7 @@ public:
     std::string getCompanyNameByMAc(std::string prefix);
 
 private:
-    /// The order of texts by their bytes. Prefixes differ in their first few: a loop in place is
-    /// quicker than a call that compares them all.
-    struct PrefixOrder
-    {
-        bool operator()(std::string_view left, std::string_view right) const
-        {
-            const std::size_t common = left.size() < right.size() ? left.size() : right.size();
-            for (std::size_t i = 0; i < common; ++i) {
-                if (left[i] != right[i])
-                    return static_cast<unsigned char>(left[i]) <
-                           static_cast<unsigned char>(right[i]);
-            }
-            return left.size() < right.size();
-        }
-    };
-    using Companies = std::map<std::string, std::string, PrefixOrder>;
+    using Companies = std::unordered_map<std::string, std::string>;
 
     /// Adds the members of a JSON object to what the object added; a text that is none adds
     /// nothing.
