@@ -25,7 +25,8 @@ struct CAPABILITYSET_API JsonPart
 };
 
 /// A JSON document whose members stand under the key `Record::kKey`, or at its top level when that
-/// is empty.
+/// is empty. Those of a record that has a constant `kMayLackKey` stand at the top level too, in
+/// answers without the key.
 template <class Record>
 struct CAPABILITYSET_API JsonRecord
 {

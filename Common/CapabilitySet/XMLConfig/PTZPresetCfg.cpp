@@ -212,7 +212,7 @@ bool CVelTarnPTZAutoTracking::SetAutoTrackingState(const int userID, const int c
         body["MoveAutoTracking"]["enabled"] = enable;
         query::ReceiveBuffer answer(operation.growth.limit);
         return AskTracking(operation, kOldTrackingTag, userID, channel, "PUT",
-                           body.toStyledString(), answer);
+                           json::StyledText(body), answer);
     });
 }
 

@@ -61,10 +61,10 @@ auto ReadValue(const Json::Value& value, Part& member) -> decltype(member.Parse(
 /// An element that reads a text of its own, and swallows what is wrong with it.
 template <class Element>
 auto ReadValue(const Json::Value& value, Element& member)
-    -> decltype(member.Parse(value.toStyledString()))
+    -> decltype(member.Parse(StyledText(value)))
     requires(!requires { member.Parse(value); })
 {
-    return member.Parse(value.toStyledString());
+    return member.Parse(StyledText(value));
 }
 
 /// Appends the entries of an array in order; a scalar and null have none.
@@ -90,7 +90,7 @@ inline void ReadAs(const Json::Value& value, bool& member, as::TextFlag /*how*/)
 
 inline void ReadAs(const Json::Value& value, std::string& member, as::StyledText /*how*/)
 {
-    member = value.isNull() ? std::string() : value.toStyledString();
+    member = value.isNull() ? std::string() : StyledText(value);
 }
 
 inline void ReadAs(const Json::Value& value, int& member, as::DecimalText /*how*/)

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <cstring>
+#include <memory>
 #include <new>
+#include <sstream>
 #include <string>
 #include <string_view>
 
 #include <json/reader.h>
 #include <json/value.h>
+#include <json/writer.h>
 
 namespace CapabilitySet::json
 {
@@ -35,6 +37,19 @@ public:
 private:
     inline static thread_local int depth_ = 0;
 };
+
+/// A tree as indented text, a line end behind it.
+inline std::string StyledText(const Json::Value& value)
+{
+    // Not value.toStyledString(): there memory that runs out cuts the text short, in silence.
+    std::ostringstream text;
+    text.exceptions(std::ios::badbit);
+    const Json::StreamWriterBuilder builder;
+    const std::unique_ptr<Json::StreamWriter> writer(builder.newStreamWriter());
+    writer->write(value, &text);
+    text << '\n';
+    return text.str();
+}
 
 /// A member of an object; null when there is none. Throws what JsonCpp throws for a value that can
 /// have no members.

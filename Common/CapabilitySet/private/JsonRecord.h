@@ -30,6 +30,8 @@ void JsonRecord<Record>::Parse(const std::string& text)
             const bool there = !json::MemberOf(document, kKey).isNull();
             if (there)
                 root.swap(document[Record::kKey]);
+            else if constexpr (requires { Record::kMayLackKey; })
+                root.swap(document);
             else
                 root = Json::Value();
         }

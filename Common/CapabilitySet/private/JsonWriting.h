@@ -232,7 +232,7 @@ std::string MakeText(Write&& write)
     try {
         Json::Value document(Json::objectValue);
         write(document);
-        return document.toStyledString();
+        return StyledText(document);
     } catch (...) {  // callers are exported, and nothing is thrown at clients
         if (OperationScope::Runs())
             throw;

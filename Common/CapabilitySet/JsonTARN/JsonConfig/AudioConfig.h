@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "CapabilitySet/JsonTARN/JsonDocument.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
@@ -13,7 +12,7 @@ namespace CapabilitySet
 // Members bear the names of their keys.
 
 /// Audio detection of a channel. Read it, change `root`, and set it.
-struct CAPABILITYSET_API CAudioDectionCfg : JsonDocument<CAudioDectionCfg>
+struct CAPABILITYSET_API CAudioDectionCfg : JsonTree<CAudioDectionCfg>
 {
     CAudioDectionCfg() = default;
     explicit CAudioDectionCfg(const std::string& text) { Parse(text); }
@@ -77,14 +76,14 @@ struct CAPABILITYSET_API AudioImportAudioLibData : JsonRecord<AudioImportAudioLi
 };
 
 /// What became of an import.
-struct CAPABILITYSET_API AudioImportAudioLibResult : JsonDocument<AudioImportAudioLibResult>
+struct CAPABILITYSET_API AudioImportAudioLibResult : JsonTree<AudioImportAudioLibResult>
 {
     AudioImportAudioLibResult() = default;
     explicit AudioImportAudioLibResult(const std::string& text) { Parse(text); }
 };
 
 /// The audio libraries of the device.
-struct CAPABILITYSET_API AudioLibBaseConfig : JsonDocument<AudioLibBaseConfig>
+struct CAPABILITYSET_API AudioLibBaseConfig : JsonTree<AudioLibBaseConfig>
 {
     AudioLibBaseConfig() = default;
     explicit AudioLibBaseConfig(const std::string& text) { Parse(text); }

@@ -23,9 +23,7 @@ template struct JsonRecord<FDLibFCSearchPackageByTaskID>;
 std::string FDLibSearchDescription::Make() const
 {
     return json::MakeText([this](Json::Value& document) {
-        Json::Value& search = document[kKey];
-        search = root;
-        json::WriteFields(search, *this);
+        Json::Value& search = json::WriteRecord(document, *this);
         if (hasTimeRange) {
             // Kept: devices take the times for this zone, whatever the client's is.
             constexpr const char* kZone = "+08:00";

@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "CapabilitySet/JsonTARN/JsonDocument.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
@@ -30,7 +29,7 @@ struct CAPABILITYSET_API ImagesCmpDescription : JsonRecord<ImagesCmpDescription>
 };
 
 /// How alike the faces are.
-struct CAPABILITYSET_API ImagesCmpResult : JsonDocument<ImagesCmpResult>
+struct CAPABILITYSET_API ImagesCmpResult : JsonTree<ImagesCmpResult>
 {
     ImagesCmpResult() = default;
     explicit ImagesCmpResult(const std::string& text) { Parse(text); }

@@ -5,14 +5,13 @@
 #include <string>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/SearchPage.h"
-#include "CapabilitySet/JsonTARN/JsonDocument.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
 {
 
 /// Settings of the analysis.
-struct CAPABILITYSET_API IntersectionAnalysisConfig : JsonDocument<IntersectionAnalysisConfig>
+struct CAPABILITYSET_API IntersectionAnalysisConfig : JsonTree<IntersectionAnalysisConfig>
 {
     IntersectionAnalysisConfig() = default;
     explicit IntersectionAnalysisConfig(const std::string& text) { Parse(text); }

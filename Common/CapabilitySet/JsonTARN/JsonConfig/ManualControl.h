@@ -4,20 +4,20 @@
 
 #include <string>
 
-#include "CapabilitySet/JsonTARN/JsonDocument.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
 {
 
 /// How faces are snapped by hand.
-struct CAPABILITYSET_API ManualFaceSnapCfg : JsonDocument<ManualFaceSnapCfg>
+struct CAPABILITYSET_API ManualFaceSnapCfg : JsonTree<ManualFaceSnapCfg>
 {
     ManualFaceSnapCfg() = default;
     explicit ManualFaceSnapCfg(const std::string& text) { Parse(text); }
 };
 
 /// Whom to track, by hand.
-struct CAPABILITYSET_API ManualPersonArmingTrack : JsonDocument<ManualPersonArmingTrack>
+struct CAPABILITYSET_API ManualPersonArmingTrack : JsonTree<ManualPersonArmingTrack>
 {
     static constexpr const char* kKey = "ManualPersonArmingTrack";
 
@@ -26,7 +26,7 @@ struct CAPABILITYSET_API ManualPersonArmingTrack : JsonDocument<ManualPersonArmi
 };
 
 /// Where to take a temperature, by a click into the picture.
-struct CAPABILITYSET_API ManualClickThermometry : JsonDocument<ManualClickThermometry>
+struct CAPABILITYSET_API ManualClickThermometry : JsonTree<ManualClickThermometry>
 {
     static constexpr const char* kKey = "ManualClickThermometry";
 
@@ -35,7 +35,7 @@ struct CAPABILITYSET_API ManualClickThermometry : JsonDocument<ManualClickThermo
 };
 
 /// How a pan-tilt head is freed of ice.
-struct CAPABILITYSET_API ManualPTDeicingCfg : JsonDocument<ManualPTDeicingCfg>
+struct CAPABILITYSET_API ManualPTDeicingCfg : JsonTree<ManualPTDeicingCfg>
 {
     ManualPTDeicingCfg() = default;
     explicit ManualPTDeicingCfg(const std::string& text) { Parse(text); }

@@ -4,13 +4,13 @@
 
 #include <string>
 
-#include "CapabilitySet/JsonTARN/JsonDocument.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
 {
 
 /// The models that the device holds.
-struct CAPABILITYSET_API GetAIOPAlgorithmModel : JsonDocument<GetAIOPAlgorithmModel>
+struct CAPABILITYSET_API GetAIOPAlgorithmModel : JsonTree<GetAIOPAlgorithmModel>
 {
     GetAIOPAlgorithmModel() = default;
     explicit GetAIOPAlgorithmModel(const std::string& text) { Parse(text); }

@@ -28,6 +28,9 @@ struct CAPABILITYSET_API SearchPage
 /// What an answer says of its page.
 struct CAPABILITYSET_API SearchResultPage
 {
+    /// Some devices answer a search without a key around the result.
+    static constexpr bool kMayLackKey = true;
+
     std::string responseStatusStrg;  ///< "OK", "MORE" when further pages follow, "NO MATCH"
     int numOfMatches = 0;            ///< results in this page
     int totalMatches = 0;            ///< results in all pages together

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "CapabilitySet/JsonTARN/JsonDocument.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
 #include "CapabilitySet/private/FieldTags.h"
 
@@ -13,7 +12,7 @@ namespace CapabilitySet
 {
 
 /// The slots of a fibre converter's crate.
-struct CAPABILITYSET_API FiberConvertSlotList : JsonDocument<FiberConvertSlotList>
+struct CAPABILITYSET_API FiberConvertSlotList : JsonTree<FiberConvertSlotList>
 {
     FiberConvertSlotList() = default;
     explicit FiberConvertSlotList(const std::string& text) { Parse(text); }

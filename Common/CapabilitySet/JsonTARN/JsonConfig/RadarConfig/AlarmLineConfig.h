@@ -4,13 +4,13 @@
 
 #include <string>
 
-#include "CapabilitySet/JsonTARN/JsonDocument.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
 {
 
 /// All alarm lines.
-struct CAPABILITYSET_API AllAlarmLineCfg : JsonDocument<AllAlarmLineCfg>
+struct CAPABILITYSET_API AllAlarmLineCfg : JsonTree<AllAlarmLineCfg>
 {
     AllAlarmLineCfg() = default;
     explicit AllAlarmLineCfg(const std::string& text) { Parse(text); }
