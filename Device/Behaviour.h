@@ -32,6 +32,7 @@ protected:
 /// to the profile.
 std::vector<std::unique_ptr<Behaviour>> MakeBehaviours(const Profile& profile);
 
+std::unique_ptr<Behaviour> MakeContentSearch(const Profile& profile);
 std::unique_ptr<Behaviour> MakeSettings(const Profile& profile);
 
 /// A refusal when the request's body does not keep the limits of the answer's values.

@@ -84,6 +84,7 @@ std::unique_ptr<Behaviour> Make(const Profile& profile)
 // The first that knows a request answers it: what keeps state stands before the documents.
 constexpr std::unique_ptr<Behaviour> (*kBehaviours[])(const Profile&) = {
     &Make<ChannelNumbers>,
+    &MakeContentSearch,
     &MakeSettings,
     &Make<Documents>,
 };

@@ -8,6 +8,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "Device/DateTime.h"
+
 namespace Device
 {
 namespace
@@ -289,6 +291,25 @@ void ReadAnswers(const ProfileFiles& files, const Json::Value& answers, Profile&
     }
 }
 
+void ReadPast(const Json::Value& recordings, Profile& profile)
+{
+    if (recordings.isNull()) {
+        return;
+    }
+    constexpr int kMostDays = 366;
+    const std::string where = "\"recordings\"";
+    if (!recordings.isObject()) {
+        throw Fault(where + " is not an object");
+    }
+    RefuseUnknownKeys(recordings, {"start", "days", "uri"}, where);
+    const auto start = ReadDateTime(TextMember(recordings, "start", where, true));
+    const Json::Value& days = recordings["days"];
+    if (!start || !days.isInt() || days.asInt() < 1 || days.asInt() > kMostDays) {
+        throw Fault(where + ": \"start\" is no date and time, or \"days\" no number of them");
+    }
+    profile.past = {*start, days.asInt(), TextMember(recordings, "uri", where, true)};
+}
+
 }  // namespace
 
 bool Profile::HasProtocolChannel(int channel) const
@@ -301,7 +322,8 @@ bool ReadProfile(const ProfileFiles& files, Profile& profile, std::string& error
 {
     try {
         const Json::Value manifest = ReadManifest(files);
-        RefuseUnknownKeys(manifest, {"name", "description", "users", "channels", "answers"},
+        RefuseUnknownKeys(manifest,
+                          {"name", "description", "users", "channels", "answers", "recordings"},
                           "manifest.json");
         profile = {};
         profile.name = TextMember(manifest, "name", "manifest.json", true);
@@ -309,6 +331,7 @@ bool ReadProfile(const ProfileFiles& files, Profile& profile, std::string& error
         ReadUsers(manifest["users"], profile);
         ReadChannels(manifest["channels"], profile);
         ReadAnswers(files, manifest["answers"], profile);
+        ReadPast(manifest["recordings"], profile);
         return true;
     } catch (const Fault& fault) {
         error = fault.what();

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Device/ParsedRequest.h"
+#include "Device/Recordings.h"
 #include "Device/StatusDocument.h"
 #include "Device/ValueLimits.h"
 
@@ -55,6 +56,7 @@ struct Profile
     std::map<std::string, std::string, std::less<>> users;  ///< name to password
     std::map<int, int> channels;                            ///< SDK's number to the protocol's
     std::vector<Answer> answers;
+    std::optional<RecordedPast> past;  ///< without one the device searches no content
 
     [[nodiscard]] bool HasProtocolChannel(int channel) const;
 };

@@ -6,9 +6,25 @@
 #include <libxml/tree.h>
 
 #include <climits>
+#include <new>
 
 namespace Device
 {
+namespace
+{
+
+const xmlChar* XmlText(const char* text)
+{
+    return reinterpret_cast<const xmlChar*>(text);
+}
+
+template <class Made>
+Made* MustBe(Made* made)
+{
+    return made != nullptr ? made : throw std::bad_alloc();
+}
+
+}  // namespace
 
 void FreeXmlTree::operator()(_xmlDoc* document) const
 {
@@ -36,6 +52,21 @@ std::string WriteXmlTree(_xmlDoc& document)
     std::string out(reinterpret_cast<const char*>(text), static_cast<size_t>(length));
     xmlFree(text);
     return out;
+}
+
+XmlTree MakeXmlTree(const char* root, const char* version)
+{
+    XmlTree tree(MustBe(xmlNewDoc(XmlText("1.0"))));
+    _xmlNode* element = MustBe(xmlNewDocNode(tree.get(), nullptr, XmlText(root), nullptr));
+    xmlDocSetRootElement(tree.get(), element);
+    MustBe(xmlNewProp(element, XmlText("version"), XmlText(version)));
+    return tree;
+}
+
+_xmlNode* AddElement(_xmlNode* parent, const char* name, const std::string& text)
+{
+    return MustBe(xmlNewTextChild(parent, nullptr, XmlText(name),
+                                  text.empty() ? nullptr : XmlText(text.c_str())));
 }
 
 _xmlNode* RootOf(const XmlTree& tree)

@@ -25,6 +25,12 @@ XmlTree ReadXmlTree(std::string_view text);
 /// The document as indented UTF-8.
 std::string WriteXmlTree(_xmlDoc& document);
 
+/// A document with nothing but a root; throws std::bad_alloc when memory runs out.
+XmlTree MakeXmlTree(const char* root, const char* version);
+
+/// Adds a child with that text, which is escaped; throws std::bad_alloc when memory runs out.
+_xmlNode* AddElement(_xmlNode* parent, const char* name, const std::string& text = {});
+
 /// The root element, which every document that was read has.
 _xmlNode* RootOf(const XmlTree& tree);
 
