@@ -112,20 +112,22 @@ void RangeElement::Parse(_xmlNode* start)
 
 void MinMaxOrRangeElement::Parse(_xmlNode* firstChild)
 {
-    minMax.Parse(firstChild);
-    xmlNode* start = firstChild;
-    if (minMax.capable) {
-        capable = true;
-        const auto next = [&start] { start = start == nullptr ? nullptr : start->next; };
-        next();
-        next();
-        // Kept: the default belongs to the bounds, so that the list never sees it.
-        if (start != nullptr && IsNamed(start, "Default"))
+    xml::EndAtException([&] {
+        minMax.Parse(firstChild);
+        xmlNode* start = firstChild;
+        if (minMax.capable) {
+            capable = true;
+            const auto next = [&start] { start = start == nullptr ? nullptr : start->next; };
             next();
-    }
-    range.Parse(start);
-    if (range.capable)
-        capable = true;
+            next();
+            // Kept: the default belongs to the bounds, so that the list never sees it.
+            if (start != nullptr && IsNamed(start, "Default"))
+                next();
+        }
+        range.Parse(start);
+        if (range.capable)
+            capable = true;
+    });
 }
 
 void OptJsonElement::Parse(const std::string& text)

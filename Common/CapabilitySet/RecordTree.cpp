@@ -112,10 +112,10 @@ RecordNode Node(std::string name, const OptJsonElement& value)
 RecordNode Node(std::string name, const MisinfoMinMaxElement& value)
 {
     return {std::move(name),
-            Kind::Range,
+            Kind::Record,
             {},
             value.capable,
-            {Whole("min", value.min), Whole("max", value.max)}};
+            {Node("status", value.status), Whole("min", value.min), Whole("max", value.max)}};
 }
 
 RecordNode Node(std::string name, const AbilityElement& value)

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/XmlExplain.h"
 
+#include <cstring>
+#include <utility>
+
 namespace CapabilitySet::xml
 {
 namespace
@@ -23,40 +26,68 @@ void ForEachElement(xmlNode* firstChild, Visit&& visit)
     }
 }
 
-/// Why the element at a position, of a field that was matched to another element or to none, is
-/// not read; empty for an item of a repeated field. `read` holds where each field is read.
-std::string WhyPassedOver(const FieldIndex& index, const std::vector<std::size_t>& read,
+/// Where reading a field ends: at the one element it is read from, for a list at its last item. 0:
+/// the field is not read.
+std::vector<std::size_t> EndsOfFields(const FieldIndex& index, const FieldMatches& matches,
+                                      xmlNode* firstChild)
+{
+    std::vector<std::size_t> ends(index.Size());
+    ForEachElement(firstChild, [&](const xmlNode* element, std::size_t position) {
+        const std::size_t field = FieldOf(index, element);
+        if (field == FieldIndex::kNone)
+            return;
+        if (matches[field] == element || (index.IsRepeated(field) && ends[field] != 0))
+            ends[field] = position;
+    });
+    return ends;
+}
+
+/// Why the element at a position, of a field that takes it not, is not read.
+std::string WhyPassedOver(const FieldIndex& index, const std::vector<std::size_t>& ends,
                           std::size_t field, std::size_t position)
 {
     // Only a field that comes earlier in the record and stands further on makes reading go past.
     for (std::size_t earlier = 0; earlier < field; ++earlier) {
-        if (read[earlier] > position)
+        if (ends[earlier] > position)
             return std::string("out of order: stands before ") + index.NameOf(earlier) +
                    ", which is read first";
     }
-    return index.IsRepeated(field) ? std::string() : "only the first of this name is read";
+    return "only the first of this name is read";
 }
+
+void Add(const xmlNode* element, const std::string& path, std::string reason,
+         std::vector<Untaken>& untaken)
+{
+    untaken.push_back(
+        {path + XmlCharToString(element->name), xmlGetLineNo(element), std::move(reason)});
+}
+
+constexpr const char* kUnknown = "unknown";
 
 }  // namespace
 
 void ExplainPassedOver(const FieldIndex& index, const FieldMatches& matches, xmlNode* firstChild,
                        const std::string& path, std::vector<Untaken>& untaken)
 {
-    std::vector<std::size_t> read(index.Size());
+    const std::vector<std::size_t> ends = EndsOfFields(index, matches, firstChild);
+    std::vector<bool> begun(index.Size());
     ForEachElement(firstChild, [&](const xmlNode* element, std::size_t position) {
         const std::size_t field = FieldOf(index, element);
-        if (field != FieldIndex::kNone && matches[field] == element)
-            read[field] = position;
+        if (field == FieldIndex::kNone)
+            return Add(element, path, kUnknown, untaken);
+        const bool isFirst = matches[field] == element;
+        begun[field] = begun[field] || isFirst;
+        if (!isFirst && !(index.IsRepeated(field) && begun[field]))
+            Add(element, path, WhyPassedOver(index, ends, field, position), untaken);
     });
-    ForEachElement(firstChild, [&](const xmlNode* element, std::size_t position) {
-        const std::size_t field = FieldOf(index, element);
-        if (field != FieldIndex::kNone && matches[field] == element)
-            return;
-        std::string reason =
-            field == FieldIndex::kNone ? "unknown" : WhyPassedOver(index, read, field, position);
-        if (!reason.empty())
-            untaken.push_back(
-                {path + XmlCharToString(element->name), xmlGetLineNo(element), std::move(reason)});
+}
+
+void ExplainBetweenItems(xmlNode* firstChild, const char* item, const std::string& path,
+                         std::vector<Untaken>& untaken)
+{
+    ForEachElement(firstChild, [&](const xmlNode* element, std::size_t /*position*/) {
+        if (std::strcmp(reinterpret_cast<const char*>(element->name), item) != 0)
+            Add(element, path, kUnknown, untaken);
     });
 }
 
