@@ -74,6 +74,15 @@ void ReadValue(const Json::Value& value, std::vector<Item>& items);
 template <class Item>
 void ReadItem(const Json::Value& value, Item& item);
 
+/// Appends an item once it is read whole: one that holds a member of the wrong kind is not listed.
+template <class Item>
+void AppendItem(const Json::Value& value, std::vector<Item>& items)
+{
+    Item item{};
+    ReadItem(value, item);
+    items.push_back(std::move(item));
+}
+
 // The ways of reading a member that a tag tells.
 
 template <class Member>
@@ -115,9 +124,8 @@ void ForEachEntry(const Json::Value& value, Read&& read)
 template <class Item>
 void ReadAs(const Json::Value& value, std::vector<Item>& items, as::Wrapped how)
 {
-    ForEachEntry(value, [&](const Json::Value& entry) {
-        ReadItem(MemberOf(entry, how.key), items.emplace_back());
-    });
+    ForEachEntry(value,
+                 [&](const Json::Value& entry) { AppendItem(MemberOf(entry, how.key), items); });
 }
 
 /// Visits a field list and reads each member, there or not: a missing one reads as false, 0 or
@@ -161,8 +169,7 @@ void ReadValue(const Json::Value& value, std::vector<Item>& items)
 {
     if (value.isArray())
         items.reserve(items.size() + value.size());
-    ForEachEntry(value,
-                 [&items](const Json::Value& entry) { ReadItem(entry, items.emplace_back()); });
+    ForEachEntry(value, [&items](const Json::Value& entry) { AppendItem(entry, items); });
 }
 
 }  // namespace CapabilitySet::json
