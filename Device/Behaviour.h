@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <vector>
 
 #include "Device/ParsedRequest.h"
@@ -11,6 +12,12 @@
 
 namespace Device
 {
+
+/// A profile's state document makes no sense; the text says what is wrong.
+struct StateFault : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
 
 /// Answers one family of requests. Called from any number of threads at once: a behaviour guards
 /// its own state.
@@ -29,7 +36,7 @@ protected:
 };
 
 /// The behaviours of a device with that profile, in the order in which they are asked. They refer
-/// to the profile.
+/// to the profile. Throws StateFault.
 std::vector<std::unique_ptr<Behaviour>> MakeBehaviours(const Profile& profile);
 
 std::unique_ptr<Behaviour> MakeContentSearch(const Profile& profile);
@@ -37,6 +44,8 @@ std::unique_ptr<Behaviour> MakeSettings(const Profile& profile);
 
 /// A refusal when the request's body does not keep the limits of the answer's values.
 std::optional<Response> RefuseBadValues(const Answer& answer, const ParsedRequest& request);
+// Null when the profile holds no such state.
+std::unique_ptr<Behaviour> MakeAlarmHost(const Profile& profile);
 
 /// A refusal when the request's body is neither XML nor JSON.
 std::optional<Response> RefuseMalformed(const ParsedRequest& request);

@@ -83,10 +83,7 @@ std::unique_ptr<Behaviour> Make(const Profile& profile)
 
 // The first that knows a request answers it: what keeps state stands before the documents.
 constexpr std::unique_ptr<Behaviour> (*kBehaviours[])(const Profile&) = {
-    &Make<ChannelNumbers>,
-    &MakeContentSearch,
-    &MakeSettings,
-    &Make<Documents>,
+    &Make<ChannelNumbers>, &MakeContentSearch, &MakeSettings, &MakeAlarmHost, &Make<Documents>,
 };
 
 }  // namespace
@@ -95,7 +92,9 @@ std::vector<std::unique_ptr<Behaviour>> MakeBehaviours(const Profile& profile)
 {
     std::vector<std::unique_ptr<Behaviour>> behaviours;
     for (const auto make : kBehaviours) {
-        behaviours.push_back(make(profile));
+        if (std::unique_ptr<Behaviour> behaviour = make(profile)) {
+            behaviours.push_back(std::move(behaviour));
+        }
     }
     return behaviours;
 }

@@ -134,7 +134,12 @@ std::shared_ptr<DeviceModel> DeviceModel::Load(const std::string& profile, std::
         error = "profile \"" + profile + "\": " + error;
         return nullptr;
     }
-    return std::make_shared<ProfileModel>(std::move(read));
+    try {
+        return std::make_shared<ProfileModel>(std::move(read));
+    } catch (const StateFault& fault) {
+        error = "profile \"" + profile + "\": " + fault.what();
+        return nullptr;
+    }
 }
 
 std::vector<std::string> DeviceModel::ProfileNames()

@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/Profile.h"
 
-#include <json/json.h>
-
 #include <algorithm>
-#include <memory>
 #include <stdexcept>
 
 #include "Device/DateTime.h"
+#include "Device/JsonDocument.h"
 
 namespace Device
 {
@@ -21,26 +19,21 @@ struct Fault : std::runtime_error
     using std::runtime_error::runtime_error;
 };
 
-Json::Value ReadManifest(const ProfileFiles& files)
+Json::Value ReadObject(const ProfileFiles& files, const std::string& name)
 {
-    const std::optional<std::string> text = files("manifest.json");
+    const std::optional<std::string> text = files(name);
     if (!text) {
-        throw Fault("there is no manifest.json");
+        throw Fault("there is no " + name);
     }
-    Json::CharReaderBuilder builder;
-    builder["rejectDupKeys"] = true;
-    builder["failIfExtra"] = true;
-    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-    Json::Value root;
     std::string errors;
-    if (!reader->parse(text->data(), text->data() + text->size(), &root, &errors)) {
-        throw Fault("manifest.json is not JSON: " +
-                    errors.substr(0, errors.find_last_not_of('\n') + 1));
+    std::optional<Json::Value> root = ReadJsonDocument(*text, &errors);
+    if (!root) {
+        throw Fault(name + " is not JSON: " + errors.substr(0, errors.find_last_not_of('\n') + 1));
     }
-    if (!root.isObject()) {
-        throw Fault("manifest.json does not hold an object");
+    if (!root->isObject()) {
+        throw Fault(name + " does not hold an object");
     }
-    return root;
+    return *std::move(root);
 }
 
 std::string TextMember(const Json::Value& object, const char* key, const std::string& where,
@@ -173,13 +166,18 @@ std::string ContentType(const std::string& file)
                                      : "application/octet-stream";
 }
 
-void ReadDocument(const ProfileFiles& files, const std::string& file, Answer& answer)
+// A profile may come from anyone: it must not reach for files outside its folder.
+void RefuseForeignFile(const std::string& file, const std::string& where)
 {
-    const std::string where = "\"" + answer.request + "\"";
-    // A profile may come from anyone: it must not reach for files outside its folder.
     if (file.starts_with('/') || file.find("..") != std::string::npos) {
         throw Fault(where + ": the file \"" + file + "\" is not one of the profile's own");
     }
+}
+
+void ReadDocument(const ProfileFiles& files, const std::string& file, Answer& answer)
+{
+    const std::string where = "\"" + answer.request + "\"";
+    RefuseForeignFile(file, where);
     std::optional<std::string> text = files(file);
     if (!text) {
         throw Fault(where + ": the file \"" + file + "\" cannot be read");
@@ -310,6 +308,19 @@ void ReadPast(const Json::Value& recordings, Profile& profile)
     profile.past = {*start, days.asInt(), TextMember(recordings, "uri", where, true)};
 }
 
+void ReadState(const ProfileFiles& files, const Json::Value& state, Profile& profile)
+{
+    if (!state.isNull() && !state.isObject()) {
+        throw Fault("\"state\" is not an object");
+    }
+    for (const std::string& name :
+         state.isObject() ? state.getMemberNames() : std::vector<std::string>()) {
+        const std::string file = TextMember(state, name.c_str(), "\"state\"", true);
+        RefuseForeignFile(file, "\"state\"");
+        profile.state.emplace(name, ReadObject(files, file));
+    }
+}
+
 }  // namespace
 
 bool Profile::HasProtocolChannel(int channel) const
@@ -321,10 +332,11 @@ bool Profile::HasProtocolChannel(int channel) const
 bool ReadProfile(const ProfileFiles& files, Profile& profile, std::string& error)
 {
     try {
-        const Json::Value manifest = ReadManifest(files);
-        RefuseUnknownKeys(manifest,
-                          {"name", "description", "users", "channels", "answers", "recordings"},
-                          "manifest.json");
+        const Json::Value manifest = ReadObject(files, "manifest.json");
+        RefuseUnknownKeys(
+            manifest,
+            {"name", "description", "users", "channels", "answers", "recordings", "state"},
+            "manifest.json");
         profile = {};
         profile.name = TextMember(manifest, "name", "manifest.json", true);
         profile.description = TextMember(manifest, "description", "manifest.json", true);
@@ -332,6 +344,7 @@ bool ReadProfile(const ProfileFiles& files, Profile& profile, std::string& error
         ReadChannels(manifest["channels"], profile);
         ReadAnswers(files, manifest["answers"], profile);
         ReadPast(manifest["recordings"], profile);
+        ReadState(files, manifest["state"], profile);
         return true;
     } catch (const Fault& fault) {
         error = fault.what();

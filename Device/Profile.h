@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include <json/value.h>
+
 #include "Device/ParsedRequest.h"
 #include "Device/Recordings.h"
 #include "Device/StatusDocument.h"
@@ -57,6 +59,7 @@ struct Profile
     std::map<int, int> channels;                            ///< SDK's number to the protocol's
     std::vector<Answer> answers;
     std::optional<RecordedPast> past;  ///< without one the device searches no content
+    std::map<std::string, Json::Value, std::less<>> state;  ///< what behaviours start from
 
     [[nodiscard]] bool HasProtocolChannel(int channel) const;
 };

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/RequestDocument.h"
 
-#include <json/json.h>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 
 #include <algorithm>
 #include <climits>
 #include <memory>
+
+#include "Device/JsonDocument.h"
 
 namespace Device
 {
@@ -124,21 +125,12 @@ bool ReadXml(std::string_view body, RequestDocument& document)
 
 bool ReadJson(std::string_view body, RequestDocument& document)
 {
-    Json::CharReaderBuilder builder;
-    builder["stackLimit"] = 256;
-    builder["failIfExtra"] = true;
-    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-    Json::Value root;
-    try {
-        if (!reader->parse(body.data(), body.data() + body.size(), &root, nullptr) ||
-            !(root.isObject() || root.isArray())) {
-            return false;
-        }
-    } catch (const Json::Exception&) {
+    const std::optional<Json::Value> root = ReadJsonDocument(body);
+    if (!root || !(root->isObject() || root->isArray())) {
         return false;
     }
-    if (root.isObject()) {
-        document.roots = root.getMemberNames();
+    if (root->isObject()) {
+        document.roots = root->getMemberNames();
     }
     return true;
 }
@@ -148,8 +140,6 @@ bool ReadJson(std::string_view body, RequestDocument& document)
 RequestDocument ReadRequestDocument(std::string_view body, bool jsonExpected)
 {
     RequestDocument document;
-    // Clients that send a fixed buffer fill it up with NULs.
-    body = body.substr(0, body.find_last_not_of('\0') + 1);
     const size_t first = body.find_first_not_of(" \t\r\n");
     if (first == std::string_view::npos) {
         return document;

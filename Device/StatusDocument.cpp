@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/StatusDocument.h"
 
-#include <json/json.h>
+#include <json/value.h>
 
 #include <algorithm>
 
@@ -27,6 +27,11 @@ constexpr const Status* kOutcomes[] = {
     &Outcome::kBadJsonContent,
     &Outcome::kInvalidChannel,
     &Outcome::kBadParameters,
+    &Outcome::kInvalidId,
+    &Outcome::kZoneOpen,
+    &Outcome::kSubSystemDisabled,
+    &Outcome::kSubSystemArmed,
+    &Outcome::kNotBypassable,
 };
 
 // What a client sent goes back with every byte harmless in XML and JSON, whatever it was.
@@ -76,9 +81,8 @@ std::string XmlForm(const Status& status, const std::string& url)
            "</ResponseStatus>\n";
 }
 
-std::string JsonForm(const Status& status, const std::string& url)
+std::string JsonForm(const Status& status, const std::string& url, Json::Value root)
 {
-    Json::Value root;
     root["requestURL"] = url;
     root["statusCode"] = status.statusCode;
     root["statusString"] = status.statusString;
@@ -99,9 +103,14 @@ Response MakeStatus(const Status& status, std::string_view target)
 {
     const std::string url = Printable(target);
     if (WantsJson(target)) {
-        return {status.httpStatus, "application/json", JsonForm(status, url)};
+        return {status.httpStatus, "application/json", JsonForm(status, url, {})};
     }
     return {status.httpStatus, "application/xml", XmlForm(status, url)};
+}
+
+Response MakeJsonStatus(const Status& status, std::string_view target, const Json::Value& more)
+{
+    return {status.httpStatus, "application/json", JsonForm(status, Printable(target), more)};
 }
 
 bool WantsJson(std::string_view target)

@@ -7,6 +7,11 @@
 
 #include "Device/DeviceModel.h"
 
+namespace Json
+{
+class Value;
+}
+
 namespace Device
 {
 
@@ -40,6 +45,13 @@ inline constexpr Status kInvalidChannel{400, 6, "Invalid Message Content", "inva
                                         0x600003};
 inline constexpr Status kBadParameters{400, 6, "Invalid Message Content", "badParameters",
                                        0x600004};
+inline constexpr Status kInvalidId{400, 6, "Invalid Message Content", "invalidID", 0x600005};
+// Understood, but not possible now: the answer itself is no refusal.
+inline constexpr Status kZoneOpen{200, 4, "Invalid Operation", "zoneOpen", 0x400010};
+inline constexpr Status kSubSystemDisabled{200, 4, "Invalid Operation", "subSystemDisabled",
+                                           0x400011};
+inline constexpr Status kSubSystemArmed{200, 4, "Invalid Operation", "subSystemArmed", 0x400012};
+inline constexpr Status kNotBypassable{200, 4, "Invalid Operation", "zoneNotBypassable", 0x400013};
 }  // namespace Outcome
 
 /// The outcome of that sub-status word, or null when there is none.
@@ -47,6 +59,9 @@ const Status* FindOutcome(std::string_view subStatusCode);
 
 /// An answer that consists of a status document: XML, or JSON when the target asks for it.
 Response MakeStatus(const Status& status, std::string_view target);
+
+/// The same as JSON whatever the target asks for, with the members of `more` beside its own.
+Response MakeJsonStatus(const Status& status, std::string_view target, const Json::Value& more);
 
 /// Whether the target's query holds "format=json".
 bool WantsJson(std::string_view target);

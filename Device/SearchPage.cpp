@@ -1,0 +1,119 @@
+// Searches: which records of a list a client wants, and which page of them.
+// SPDX-License-Identifier: Apache-2.0
+#include "Device/SearchPage.h"
+
+#include <algorithm>
+
+#include "Device/DateTime.h"
+#include "Device/JsonDocument.h"
+
+namespace Device
+{
+namespace
+{
+
+// Ends the reading of a description that makes no sense.
+struct Senseless
+{
+};
+
+// The first of the members that is there, for keys that clients spell in several ways.
+const Json::Value& FirstMember(const Json::Value& object, std::initializer_list<const char*> keys)
+{
+    for (const char* key : keys) {
+        const Json::Value& member = JsonMember(object, key);
+        if (!member.isNull()) {
+            return member;
+        }
+    }
+    return Json::Value::nullSingleton();
+}
+
+std::optional<int> ReadCount(const Json::Value& value)
+{
+    if (value.isNull()) {
+        return std::nullopt;
+    }
+    const std::optional<int> number = JsonNumber(value);
+    if (!number || *number < 0) {
+        throw Senseless();
+    }
+    return number;
+}
+
+std::optional<std::int64_t> ReadTime(const Json::Value& value)
+{
+    const std::string text = JsonText(value);
+    if (value.isNull() || (value.isString() && text.empty())) {
+        return std::nullopt;
+    }
+    const std::optional<std::int64_t> time = ReadDateTime(text);
+    return time ? time : throw Senseless();
+}
+
+void ReadSpan(const Json::Value& value, std::vector<TimeSpan>& spans)
+{
+    // Kept: clients write "endTIme" in the description of a log search.
+    const TimeSpan span{ReadTime(FirstMember(value, {"startTime", "beginTime"})),
+                        ReadTime(FirstMember(value, {"endTime", "endTIme"}))};
+    if (span.start || span.end) {
+        spans.push_back(span);
+    }
+}
+
+}  // namespace
+
+bool SearchDemand::Wants(std::int64_t time) const
+{
+    return spans.empty() ||
+           std::ranges::any_of(spans, [time](const TimeSpan& span) { return span.Holds(time); });
+}
+
+std::optional<SearchDemand> ReadSearchDemand(const Json::Value& description)
+{
+    try {
+        SearchDemand demand;
+        demand.searchId = JsonText(FirstMember(description, {"searchID", "SearchID"}));
+        // Kept: clients write "searchResultPostion" in the description of a log search, and the
+        // numbers as texts of digits.
+        demand.position =
+            ReadCount(FirstMember(description, {"searchResultPosition", "searchResultPostion"}))
+                .value_or(0);
+        demand.limit = ReadCount(FirstMember(description, {"maxResults", "maxResultNumber"}));
+        ReadSpan(description, demand.spans);
+        const Json::Value& list = JsonMember(description, "timeSpanList");
+        if (!list.isNull() && !list.isArray()) {
+            return std::nullopt;
+        }
+        for (const Json::Value& entry : list) {
+            ReadSpan(JsonMember(entry, "timeSpan"), demand.spans);
+        }
+        return demand;
+    } catch (const Senseless&) {
+        return std::nullopt;
+    }
+}
+
+Json::Value MakeSearchPage(const SearchDemand& demand, const std::vector<Json::Value>& matches,
+                           const char* list, const std::string& item)
+{
+    const size_t first = std::min(static_cast<size_t>(demand.position), matches.size());
+    const size_t count = std::min(
+        matches.size() - first, demand.limit ? static_cast<size_t>(*demand.limit) : matches.size());
+    Json::Value page;
+    page["searchID"] = demand.searchId;
+    page["responseStatus"] = true;
+    page["responseStatusStrg"] = matches.empty()                  ? "NO MATCHES"
+                                 : first + count < matches.size() ? "MORE"
+                                                                  : "OK";
+    page["numOfMatches"] = static_cast<Json::UInt>(count);
+    page["totalMatches"] = static_cast<Json::UInt>(matches.size());
+    Json::Value& entries = page[list] = Json::Value(Json::arrayValue);
+    for (size_t i = first; i < first + count; ++i) {
+        Json::Value& entry = entries.append(Json::Value());
+        (item.empty() ? entry : entry[item]) = matches[i];
+    }
+    return page;
+}
+
+}  // namespace Device
