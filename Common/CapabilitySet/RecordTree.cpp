@@ -6,6 +6,8 @@
 #include <array>
 #include <charconv>
 
+#include <json/value.h>
+
 namespace CapabilitySet::tree
 {
 namespace
@@ -127,6 +129,23 @@ RecordNode Node(std::string name, const AbilityElement& value)
         node.children.push_back(Node(child.name, child));
     if (node.children.empty())
         node.kind = Kind::Text;
+    return node;
+}
+
+RecordNode Node(std::string name, const Json::Value& value)
+{
+    if (value.isBool())
+        return Flag(std::move(name), value.asBool());
+    RecordNode node{std::move(name), Kind::Text, {}, !value.isNull(), {}};
+    if (value.isObject() || value.isArray()) {
+        node.kind = value.isObject() ? Kind::Record : Kind::List;
+        for (auto child = value.begin(); child != value.end(); ++child)
+            node.children.push_back(Node(value.isObject() ? child.name() : std::string(), *child));
+        return node;
+    }
+    if (value.isNumeric())
+        node.kind = Kind::Number;
+    node.text = value.asString();
     return node;
 }
 

@@ -103,6 +103,7 @@ CAPABILITYSET_API RecordNode Node(std::string name, const DefaultElement& value)
 CAPABILITYSET_API RecordNode Node(std::string name, const OptJsonElement& value);
 CAPABILITYSET_API RecordNode Node(std::string name, const MisinfoMinMaxElement& value);
 CAPABILITYSET_API RecordNode Node(std::string name, const AbilityElement& value);
+CAPABILITYSET_API RecordNode Node(std::string name, const Json::Value& value);
 
 template <HasFields Record>
 RecordNode Node(std::string name, const Record& record);
@@ -125,6 +126,8 @@ RecordNode Node(std::string name, const Record& record)
         node.announced = record.valid;
     else if constexpr (requires { record.capable; })
         node.announced = record.capable;
+    else if constexpr (requires { record.present; })
+        node.announced = record.present;
     Record::Fields(record, [&node](const char* field, const auto& member, auto&&... /*how*/) {
         node.children.push_back(Node(field, member));
     });

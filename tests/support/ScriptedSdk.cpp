@@ -21,7 +21,7 @@ template <class Bytes>
 bool AllZero(const Bytes* bytes, std::size_t size)
 {
     const auto* begin = reinterpret_cast<const unsigned char*>(bytes);
-    return std::all_of(begin, begin + size, [](unsigned char byte) { return byte == 0; });
+    return size == 0 || (begin[0] == 0 && std::memcmp(begin, begin + 1, size - 1) == 0);
 }
 
 /// Of a large buffer only the ends are looked at: reading a mapping costs its pages.

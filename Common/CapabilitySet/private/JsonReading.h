@@ -69,14 +69,17 @@ void WithRoot(const std::string& text, Read&& read)
         return;
     try {
         Json::Value root;
-        if (ParseText(text, root))
+        // Where memory fails JsonCpp takes a decimal number for a malformed one: asked again, it
+        // reads the text or runs out of memory for good.
+        if (ParseText(text, root) || (OperationScope::Runs() && ParseText(text, root)))
             read(root);
     } catch (const std::bad_alloc&) {
         if (OperationScope::Runs())
             throw;
     } catch (const Json::RuntimeError& error) {
         // What JsonCpp makes of a malloc that failed; the other one is a text too deep to parse.
-        if (OperationScope::Runs() && std::strstr(error.what(), "allocate") != nullptr)
+        if (OperationScope::Runs() &&
+            std::string_view(error.what()).find("allocate") != std::string_view::npos)
             throw std::bad_alloc();
     } catch (...)  // what was read before stays; answers never throw at the client
     {

@@ -1,0 +1,81 @@
+// The operations of the protocol's JSON flavour as rows of tables.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "CapabilitySet/RecordTree.h"
+#include "support/AllocationFaults.h"
+#include "support/Operations.h"
+
+namespace TestSupport
+{
+
+/// What became of an operation whose record was in use before.
+struct JsonAnswered
+{
+    bool result = false;
+    unsigned err = 0;
+    bool isAtDefaults = false;
+    bool isFilled = false;  ///< the record holds what it held before
+};
+
+struct JsonOperationRow
+{
+    const char* name;    ///< "JsonCapApp::GetHFPDCapability"
+    const char* file;    ///< of its log lines, under Common/CapabilitySet/JsonTARN
+    std::string line;    ///< with 32 added to the channel where the SDK converts it
+    const char* answer;  ///< one that changes the record
+    std::function<JsonAnswered(const char* before)> ask;  ///< with a record read from `before`
+    std::string body{};
+    bool padsBody = false;  ///< the body is sent in 8,192 zeroed bytes
+    unsigned timeout = 0;
+    bool convertsChannel = false;
+    bool tellsError = true;          ///< there is an error slot
+    bool keepsRecord = false;        ///< neither reset nor cleared: answers are appended
+    const char* onlyLine = nullptr;  ///< the only line of a failure, which sets no last error
+};
+
+template <class Record>
+bool IsSame(const Record& a, const Record& b)
+{
+    if constexpr (requires { a.root; }) {
+        if (a.root != b.root)
+            return false;
+    }
+    return CapabilitySet::SameFields(a, b);
+}
+
+template <class Record, class Query>
+JsonAnswered AskJsonInto(const char* before, Query query)
+{
+    Record record;
+    {
+        const NoAllocationFaults pause;
+        record = Record(std::string(before));
+    }
+    JsonAnswered answered{.err = 77};
+    answered.result = query(record, answered.err);
+    const NoAllocationFaults pause;
+    answered.isAtDefaults = IsSame(record, Record());
+    answered.isFilled = IsSame(record, Record(std::string(before)));
+    return answered;
+}
+
+/// A row's `ask`: a call with `out` for the record and `err` for the error slot.
+#define ASK_JSON(Record, call)                                                         \
+    [](const char* before) {                                                           \
+        return TestSupport::AskJsonInto<Record>(                                       \
+            before, [](Record& out, [[maybe_unused]] unsigned& err) { return call; }); \
+    }
+
+// One table a file.
+std::vector<JsonOperationRow> JsonCapabilityRows();
+std::vector<JsonOperationRow> AlarmHostRows();
+
+/// All of them.
+const std::vector<JsonOperationRow>& JsonOperations();
+
+}  // namespace TestSupport
