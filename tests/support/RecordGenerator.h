@@ -104,8 +104,9 @@ private:
     template <CapabilitySet::tree::HasFields Record>
     void Fill(Record& record)
     {
-        Record::Fields(
-            record, [this](const char* /*name*/, auto& member, auto... /*how*/) { Fill(member); });
+        Record::Fields(record, [this](const char* /*name*/, auto& member, auto... /*how*/) {
+            this->Fill(member);
+        });
     }
 
     std::mt19937 random_;
