@@ -12,17 +12,7 @@
 namespace CapabilitySet
 {
 
-void PIRAlarm::Parse(_xmlNode* firstChild)
-{
-    xml::ParseNode(*this, firstChild);
-}
-
-void WirelessAlarm::Parse(_xmlNode* firstChild)
-{
-    xml::ParseNode(*this, firstChild);
-}
-
-void CallHelpAlarm::Parse(_xmlNode* firstChild)
+void ChannelAlarm::Parse(_xmlNode* firstChild)
 {
     xml::ParseNode(*this, firstChild);
 }

@@ -26,6 +26,11 @@ struct CAPABILITYSET_API ChannelAlarm : CBaseCapability
     bool hasAlarmTime = false;   ///< alarmTime was announced
     std::vector<AlarmHandleType::HandleType> alarmHandleType;
 
+    ChannelAlarm() = default;
+    explicit ChannelAlarm(_xmlNode* firstChild) { Parse(firstChild); }
+
+    void Parse(_xmlNode* firstChild);
+
     static constexpr bool kParseTakesFirstChild = true;
 
     template <class Record, class Field>
@@ -40,28 +45,19 @@ struct CAPABILITYSET_API ChannelAlarm : CBaseCapability
 /// Infrared motion alarm.
 struct CAPABILITYSET_API PIRAlarm : ChannelAlarm
 {
-    PIRAlarm() = default;
-    explicit PIRAlarm(_xmlNode* firstChild) { Parse(firstChild); }
-
-    void Parse(_xmlNode* firstChild);
+    using ChannelAlarm::ChannelAlarm;
 };
 
 /// Alarm of a wireless detector.
 struct CAPABILITYSET_API WirelessAlarm : ChannelAlarm
 {
-    WirelessAlarm() = default;
-    explicit WirelessAlarm(_xmlNode* firstChild) { Parse(firstChild); }
-
-    void Parse(_xmlNode* firstChild);
+    using ChannelAlarm::ChannelAlarm;
 };
 
 /// Call for help.
 struct CAPABILITYSET_API CallHelpAlarm : ChannelAlarm
 {
-    CallHelpAlarm() = default;
-    explicit CallHelpAlarm(_xmlNode* firstChild) { Parse(firstChild); }
-
-    void Parse(_xmlNode* firstChild);
+    using ChannelAlarm::ChannelAlarm;
 };
 
 /// The alarms of one channel.

@@ -4,11 +4,11 @@
 
 #include <limits>
 
+#include "CapabilitySet/private/ElementRecord.h"
 #include "CapabilitySet/private/FirstSavedCache.h"
 #include "CapabilitySet/private/ParseToSDK.h"
 #include "CapabilitySet/private/QueryFrame.h"
 #include "CapabilitySet/private/RequestXml.h"
-#include "CapabilitySet/private/XmlFields.h"
 
 namespace CapabilitySet
 {
@@ -70,85 +70,22 @@ void ReadEvents(EventAbility& events, xmlNode* firstChild)
 
 }  // namespace
 
-void ExceptionAlarm::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void AlarmIn::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void AlarmOut::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void FaceDetection::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void ManualTrace::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void Track::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void AudioSteepDrop::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void Abnormal::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void VoiceDetection::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void AlertLine::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void TraversingVirtualPlane::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void Intrusiongion::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void FieldDetection::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void DefousDetection::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void SceneChangeDetection::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
-
-void VCADetection::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
+template struct ElementRecord<ExceptionAlarm>;
+template struct ElementRecord<AlarmIn>;
+template struct ElementRecord<AlarmOut>;
+template struct ElementRecord<FaceDetection>;
+template struct ElementRecord<ManualTrace>;
+template struct ElementRecord<Track>;
+template struct ElementRecord<AudioSteepDrop>;
+template struct ElementRecord<Abnormal>;
+template struct ElementRecord<VoiceDetection>;
+template struct ElementRecord<AlertLine>;
+template struct ElementRecord<TraversingVirtualPlane>;
+template struct ElementRecord<Intrusiongion>;
+template struct ElementRecord<FieldDetection>;
+template struct ElementRecord<DefousDetection>;
+template struct ElementRecord<SceneChangeDetection>;
+template struct ElementRecord<VCADetection>;
 
 void EventAbility::Parse(const std::string& text)
 {

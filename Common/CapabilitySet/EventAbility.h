@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/ElementRecord.h"
 #include "CapabilitySet/OptionTypes.h"
 #include "CapabilitySet/private/FieldTags.h"
 
@@ -39,15 +39,13 @@ extern CAPABILITYSET_API const OptionCodes kCrossDirections;
 }  // namespace option_codes
 
 /// Exceptions of a device and the reactions to them.
-struct CAPABILITYSET_API ExceptionAlarm : CBaseCapability
+struct CAPABILITYSET_API ExceptionAlarm : ElementRecord<ExceptionAlarm>
 {
     std::vector<int> exceptionType;  ///< option_codes::kExceptionTypes
     std::vector<AlarmHandleType::HandleType> alarmHandleType;
 
     ExceptionAlarm() = default;
     explicit ExceptionAlarm(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -58,15 +56,13 @@ struct CAPABILITYSET_API ExceptionAlarm : CBaseCapability
 };
 
 /// Alarm inputs.
-struct CAPABILITYSET_API AlarmIn : CBaseCapability
+struct CAPABILITYSET_API AlarmIn : ElementRecord<AlarmIn>
 {
     unsigned int alarmTime = 0;  ///< seconds
     std::vector<AlarmHandleType::HandleType> alarmHandleType;
 
     AlarmIn() = default;
     explicit AlarmIn(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -77,15 +73,13 @@ struct CAPABILITYSET_API AlarmIn : CBaseCapability
 };
 
 /// Alarm outputs.
-struct CAPABILITYSET_API AlarmOut : CBaseCapability
+struct CAPABILITYSET_API AlarmOut : ElementRecord<AlarmOut>
 {
     unsigned int alarmTime = 0;      ///< seconds
     std::vector<int> pulseDuration;  ///< option_codes::kPulseDurations
 
     AlarmOut() = default;
     explicit AlarmOut(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -96,7 +90,7 @@ struct CAPABILITYSET_API AlarmOut : CBaseCapability
 };
 
 /// Face detection.
-struct CAPABILITYSET_API FaceDetection : CBaseCapability
+struct CAPABILITYSET_API FaceDetection : ElementRecord<FaceDetection>
 {
     bool detectFaceEnable = false;
     MinMaxElement detectFaceSensitive;
@@ -106,8 +100,6 @@ struct CAPABILITYSET_API FaceDetection : CBaseCapability
 
     FaceDetection() = default;
     explicit FaceDetection(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -121,15 +113,13 @@ struct CAPABILITYSET_API FaceDetection : CBaseCapability
 };
 
 /// Tracking by hand.
-struct CAPABILITYSET_API ManualTrace : CBaseCapability
+struct CAPABILITYSET_API ManualTrace : ElementRecord<ManualTrace>
 {
     bool enabled = false;
     std::vector<int> trackType;  ///< option_codes::kTrackTypes
 
     ManualTrace() = default;
     explicit ManualTrace(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -140,7 +130,7 @@ struct CAPABILITYSET_API ManualTrace : CBaseCapability
 };
 
 /// Tracking of a target.
-struct CAPABILITYSET_API Track : CBaseCapability
+struct CAPABILITYSET_API Track : ElementRecord<Track>
 {
     bool trackEnable = false;
     bool stopTrackWhenFindFace = false;  ///< always false
@@ -149,8 +139,6 @@ struct CAPABILITYSET_API Track : CBaseCapability
 
     Track() = default;
     explicit Track(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -164,15 +152,13 @@ struct CAPABILITYSET_API Track : CBaseCapability
 };
 
 /// A steep drop of sound.
-struct CAPABILITYSET_API AudioSteepDrop : CBaseCapability
+struct CAPABILITYSET_API AudioSteepDrop : ElementRecord<AudioSteepDrop>
 {
     OptElement<std::string> enable;
     MinMaxElement sensitivityLevel;
 
     AudioSteepDrop() = default;
     explicit AudioSteepDrop(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -183,7 +169,7 @@ struct CAPABILITYSET_API AudioSteepDrop : CBaseCapability
 };
 
 /// Abnormal sound.
-struct CAPABILITYSET_API Abnormal : CBaseCapability
+struct CAPABILITYSET_API Abnormal : ElementRecord<Abnormal>
 {
     MinMaxElement sensitivityLevel;
     std::vector<int> audioMode;  ///< option_codes::kAudioModes
@@ -192,8 +178,6 @@ struct CAPABILITYSET_API Abnormal : CBaseCapability
 
     Abnormal() = default;
     explicit Abnormal(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -206,7 +190,7 @@ struct CAPABILITYSET_API Abnormal : CBaseCapability
 };
 
 /// Audio detection.
-struct CAPABILITYSET_API VoiceDetection : CBaseCapability
+struct CAPABILITYSET_API VoiceDetection : ElementRecord<VoiceDetection>
 {
     bool enable = false;
     Abnormal abnormal;
@@ -216,8 +200,6 @@ struct CAPABILITYSET_API VoiceDetection : CBaseCapability
 
     VoiceDetection() = default;
     explicit VoiceDetection(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -231,7 +213,7 @@ struct CAPABILITYSET_API VoiceDetection : CBaseCapability
 };
 
 /// One line whose crossing is detected.
-struct CAPABILITYSET_API AlertLine : CBaseCapability
+struct CAPABILITYSET_API AlertLine : ElementRecord<AlertLine>
 {
     int id = 0;
     std::vector<int> crossDirection;  ///< option_codes::kCrossDirections
@@ -239,8 +221,6 @@ struct CAPABILITYSET_API AlertLine : CBaseCapability
 
     AlertLine() = default;
     explicit AlertLine(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -252,7 +232,7 @@ struct CAPABILITYSET_API AlertLine : CBaseCapability
 };
 
 /// Line crossing.
-struct CAPABILITYSET_API TraversingVirtualPlane : CBaseCapability
+struct CAPABILITYSET_API TraversingVirtualPlane : ElementRecord<TraversingVirtualPlane>
 {
     bool enable = false;
     OptElement<std::string> enableDualVca;
@@ -265,8 +245,6 @@ struct CAPABILITYSET_API TraversingVirtualPlane : CBaseCapability
 
     TraversingVirtualPlane() = default;
     explicit TraversingVirtualPlane(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -283,7 +261,7 @@ struct CAPABILITYSET_API TraversingVirtualPlane : CBaseCapability
 };
 
 /// One region whose intrusion is detected.
-struct CAPABILITYSET_API Intrusiongion : CBaseCapability
+struct CAPABILITYSET_API Intrusiongion : ElementRecord<Intrusiongion>
 {
     int id = 0;
     MinMaxElement regionNum;
@@ -293,8 +271,6 @@ struct CAPABILITYSET_API Intrusiongion : CBaseCapability
 
     Intrusiongion() = default;
     explicit Intrusiongion(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -308,7 +284,7 @@ struct CAPABILITYSET_API Intrusiongion : CBaseCapability
 };
 
 /// Region intrusion.
-struct CAPABILITYSET_API FieldDetection : CBaseCapability
+struct CAPABILITYSET_API FieldDetection : ElementRecord<FieldDetection>
 {
     bool enable = false;
     OptElement<std::string> enableDualVca;
@@ -320,8 +296,6 @@ struct CAPABILITYSET_API FieldDetection : CBaseCapability
 
     FieldDetection() = default;
     explicit FieldDetection(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -338,7 +312,7 @@ struct CAPABILITYSET_API FieldDetection : CBaseCapability
 };
 
 /// Defocus of the lens.
-struct CAPABILITYSET_API DefousDetection : CBaseCapability
+struct CAPABILITYSET_API DefousDetection : ElementRecord<DefousDetection>
 {
     bool enable = false;
     std::vector<AlarmHandleType::HandleType> alarmHandleType;
@@ -346,8 +320,6 @@ struct CAPABILITYSET_API DefousDetection : CBaseCapability
 
     DefousDetection() = default;
     explicit DefousDetection(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -359,7 +331,7 @@ struct CAPABILITYSET_API DefousDetection : CBaseCapability
 };
 
 /// Change of the scene.
-struct CAPABILITYSET_API SceneChangeDetection : CBaseCapability
+struct CAPABILITYSET_API SceneChangeDetection : ElementRecord<SceneChangeDetection>
 {
     bool enable = false;
     MinMaxElement sensitiveLevel;
@@ -369,8 +341,6 @@ struct CAPABILITYSET_API SceneChangeDetection : CBaseCapability
 
     SceneChangeDetection() = default;
     explicit SceneChangeDetection(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -385,7 +355,7 @@ struct CAPABILITYSET_API SceneChangeDetection : CBaseCapability
 };
 
 /// Reactions to content analysis.
-struct CAPABILITYSET_API VCADetection : CBaseCapability
+struct CAPABILITYSET_API VCADetection : ElementRecord<VCADetection>
 {
     bool enable = false;
     unsigned int alarmTime = 0;  ///< seconds
@@ -396,8 +366,6 @@ struct CAPABILITYSET_API VCADetection : CBaseCapability
 
     VCADetection() = default;
     explicit VCADetection(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)

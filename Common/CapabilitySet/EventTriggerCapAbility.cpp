@@ -2,16 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/EventTriggerCapAbility.h"
 
+#include "CapabilitySet/private/ElementRecord.h"
 #include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/XmlFields.h"
 
 namespace CapabilitySet
 {
 
-void EventTriggerCapType::Parse(_xmlNode* element)
-{
-    xml::ParseNode(*this, element);
-}
+template struct ElementRecord<EventTriggerCapType>;
 
 void EventTriggerCap::Parse(const std::string& text)
 {

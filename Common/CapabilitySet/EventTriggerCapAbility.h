@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/ElementRecord.h"
 #include "CapabilitySet/private/FieldTags.h"
 
 struct _xmlNode;
@@ -16,7 +16,7 @@ namespace CapabilitySet
 
 /// The reactions that one kind of event may start. A flag whose text is neither "true" nor "false"
 /// keeps its value; each element present makes the record capable.
-struct CAPABILITYSET_API EventTriggerCapType : CBaseCapability
+struct CAPABILITYSET_API EventTriggerCapType : ElementRecord<EventTriggerCapType>
 {
     bool isSupportCenter = false;           ///< tells the monitoring centre
     bool isSupportRecord = false;           ///< starts recording
@@ -34,8 +34,6 @@ struct CAPABILITYSET_API EventTriggerCapType : CBaseCapability
 
     EventTriggerCapType() = default;
     explicit EventTriggerCapType(_xmlNode* element) { Parse(element); }
-
-    void Parse(_xmlNode* element);
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
