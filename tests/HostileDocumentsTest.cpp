@@ -1,0 +1,204 @@
+// Every record against everything that a broken or hostile device sends in its place.
+// SPDX-License-Identifier: Apache-2.0
+#include "Device/HostileDocuments.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "CapabilitySet/ChannelAbility.h"
+#include "CapabilitySet/JsonTARN/JsonStatus.h"
+#include "CapabilitySet/RecordTree.h"
+#include "CapabilitySet/private/XmlDocument.h"
+#include "support/LogCapture.h"
+#include "support/Operations.h"
+#include "support/XmlRecords.h"
+#include "support/XmlSamples.h"
+
+namespace
+{
+
+using namespace CapabilitySet;
+using Device::HostileCase;
+using Device::HostileCases;
+using TestSupport::LogCapture;
+using TestSupport::RootOf;
+using TestSupport::ScriptedSdk;
+
+/// Takes a second and more to make and to read: for one record of each kind only.
+bool IsLarge(const HostileCase& hostile)
+{
+    const std::set<std::string_view> large{"oversized", "nestedMillion", "longText",
+                                           "manyAttributes", "flatEntityBomb"};
+    return large.contains(hostile.name);
+}
+
+/// What surrounds the elements of a record changes nothing of it.
+bool IsHarmless(const HostileCase& hostile)
+{
+    const std::set<std::string_view> harmless{
+        "defaultNamespace",       "prefixedRoot",    "comments",
+        "processingInstructions", "cdata",           "byteOrderMark",
+        "mixedContent",           "unknownElements", "oversized",
+    };
+    return harmless.contains(hostile.name);
+}
+
+struct Reading
+{
+    RecordNode record;
+    bool isFlagUp = false;
+};
+
+template <class Record>
+Reading Read(const std::string& text)
+{
+    const Record record(text);
+    bool isFlagUp = false;
+    if constexpr (xml::HasValid<Record> || xml::HasCapable<Record>)
+        isFlagUp = xml::FlagOf(record);
+    return {Describe({}, record), isFlagUp};
+}
+
+struct Row
+{
+    std::string root;
+    std::string sample;
+    Reading (*read)(const std::string& text);
+    xml::Form form = xml::Form::Plain;
+    bool tellsMismatch = true;
+    bool takesLarge = false;
+};
+
+const std::vector<Row>& Rows()
+{
+    static const std::vector<Row> all = [] {
+        std::vector<Row> rows;
+        TestSupport::XmlRecords::ForEach([&rows]<class Record>() {
+            if constexpr (requires(const std::string& text) { Record(text); }) {
+                const std::string root = RootOf<Record>();
+                const bool isPtz = root.rfind("PTZ", 0) == 0;
+                rows.push_back({root,
+                                TestSupport::Element(root, {{}, TestSupport::AllFields<Record>()}),
+                                &Read<Record>, isPtz ? xml::Form::BlankFree : xml::Form::Plain,
+                                !isPtz, std::is_same_v<Record, BasicCapability>});
+            }
+        });
+        return rows;
+    }();
+    return all;
+}
+
+/// 1: readable as this record, 0: silently none, -1: none, after a line.
+int Verdict(const Row& row, const std::string& text)
+{
+    if (text.empty())
+        return 0;
+    xml::Problem problem;
+    const xml::Document document = xml::ParseText(text, row.form, problem);
+    if (document == nullptr)
+        return -1;
+    xmlNode* root = xmlDocGetRootElement(document.get());
+    if (xml::NextElementNamed(root, row.root.c_str()))
+        return 1;
+    return row.tellsMismatch ? -1 : 0;
+}
+
+std::size_t DocumentLines(const LogCapture& log)
+{
+    const std::vector<std::string> messages = log.Messages();
+    return static_cast<std::size_t>(std::ranges::count_if(messages, [](const auto& message) {
+        return message.find("Cann't") != std::string::npos ||
+               message.find("The root element is mismatched") != std::string::npos;
+    }));
+}
+
+void Check(const Row& row, const HostileCase& hostile, const std::string& text)
+{
+    // The readers of such lists never end on an item without children; callers ask first.
+    if (row.form == xml::Form::BlankFree && HasEmptyItem(text))
+        return;
+    const int verdict = Verdict(row, text);
+    const LogCapture log;
+    const Reading reading = row.read(text);
+    EXPECT_EQ(DocumentLines(log), verdict < 0 ? 1U : 0U);
+    if (verdict < 1) {
+        EXPECT_EQ(reading.record, row.read("").record) << "what cannot be read fills nothing";
+        EXPECT_FALSE(reading.isFlagUp);
+    } else if (IsHarmless(hostile)) {
+        EXPECT_EQ(reading.record, row.read(row.sample).record);
+    }
+}
+
+TEST(HostileDocumentsTest, FillARecordWholeOrNotAtAllWithOneLine)
+{
+    for (const HostileCase& hostile : HostileCases()) {
+        for (const Row& row : Rows()) {
+            if (IsLarge(hostile) && !row.takesLarge)
+                continue;
+            SCOPED_TRACE(std::string(hostile.name) + " " + row.root);
+            Check(row, hostile, MakeHostileXml(hostile, row.root, row.sample));
+            if (testing::Test::HasFailure())
+                return;
+        }
+    }
+}
+
+TEST(HostileDocumentsTest, AQueryThatFailsLeavesNoHalfFilledRecord)
+{
+    ScriptedSdk& sdk = ScriptedSdk::Fresh();
+    sdk.keepsCalls = false;
+    for (const HostileCase& hostile : HostileCases()) {
+        if (IsLarge(hostile))
+            continue;
+        for (const TestSupport::OperationRow& operation : TestSupport::Operations()) {
+            const std::string sample = operation.document;
+            const std::size_t nameEnd = sample.find_first_of(" />");
+            SCOPED_TRACE(std::string(hostile.name) + " " + operation.name);
+            sdk.steps = {
+                {.answer = MakeHostileXml(hostile, sample.substr(1, nameEnd - 1), sample)}};
+            const TestSupport::Answered answered = operation.ask();
+            EXPECT_TRUE(answered.result || answered.isAtDefaults);
+            EXPECT_TRUE(answered.result || answered.err == 23 || operation.errByValue);
+            EXPECT_TRUE(answered.isRead || !answered.result || !operation.needsFlag);
+        }
+    }
+}
+
+TEST(HostileDocumentsTest, AnAbilityDocumentKeepsWhateverIsADocument)
+{
+    for (const HostileCase& hostile : HostileCases()) {
+        SCOPED_TRACE(hostile.name);
+        const std::string text =
+            MakeHostileXml(hostile, "PTZAbility", "<PTZAbility><a>1</a></PTZAbility>");
+        const Row row{"PTZAbility", {}, nullptr};
+        const LogCapture log;
+        const PTZAbility read(text);
+        EXPECT_EQ(read.Capable(), Verdict(row, text) == 1);
+        EXPECT_EQ(static_cast<bool>(read.root), read.Capable());
+        EXPECT_EQ(DocumentLines(log), read.Capable() || text.empty() ? 0U : 1U);
+    }
+}
+
+TEST(HostileDocumentsTest, JsonRecordsSwallowWhateverTheyAreGiven)
+{
+    const std::string sample = R"({"requestURL": "/a", "statusCode": 4, "statusString": "s",
+        "subStatusCode": "x", "errorCode": 5, "errorMsg": "m",
+        "ErrorList": [{"id": 1, "subStatusCode": "y"}, null, {"id": 2}],
+        "@opt": ["a", "b"], "@min": 1, "@max": 2})";
+    for (const HostileCase& hostile : HostileCases()) {
+        SCOPED_TRACE(hostile.name);
+        const std::string text = MakeHostileJson(hostile, "statusCode", sample);
+        JsonStatus status(sample);
+        status.Parse(text);
+        EXPECT_TRUE(SameFields(status, JsonStatus(text))) << "nothing of the status before";
+        EXPECT_LE(JsonErrorStatusList(text).errorList.size(), 2U);
+        EXPECT_LE(OptJsonElement(text).opt.size(), 2U);
+        EXPECT_TRUE(SameFields(MisinfoMinMaxElement(text).status, status));
+    }
+}
+
+}  // namespace
