@@ -1,16 +1,16 @@
 // JSON searches: the descriptions that are sent, the answers that are read, data packages.
 // SPDX-License-Identifier: Apache-2.0
-#include <memory>
 #include <string>
 #include <vector>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <json/reader.h>
 #include <json/value.h>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
+#include "Keel/Error.h"
 #include "support/AllocationFaults.h"
+#include "support/LogCapture.h"
 #include "support/ScriptedSdk.h"
 
 namespace
@@ -196,6 +196,35 @@ struct Package
         return out.outBuffer == &before && out.returnedSize == 1;
     }
 };
+
+TEST(JsonSearchTest, AsksForPackagesWithTwoMinutesOfPatienceAndTellsWhichFailed)
+{
+    LogCapture log;
+    CaptureSearchDescription description;
+    for (const bool captures : {true, false}) {
+        ScriptedSdk& sdk = ScriptedSdk::Fresh();
+        sdk.steps = {{.error = 8}};
+        log.Clear();
+        Package package;
+        EXPECT_FALSE(captures ? JsonConfigApp::GetFCDataPackageByJson(description, package.out,
+                                                                      package.error, kUser)
+                              : package.Get());
+        ASSERT_EQ(sdk.calls.size(), 1U);
+        const SdkCall& call = sdk.calls.front();
+        EXPECT_EQ(call.line, captures
+                                 ? "POST /TARN/SDT/Face/captureSearch/dataPackage\r\n"
+                                 : "GET /TARN/SDT/HFPD/search/dataPackage/t 1?format=json\r\n");
+        EXPECT_EQ(call.input, captures ? description.CreatJsonParser() : "");
+        EXPECT_EQ(call.timeout, 120000U);
+        EXPECT_TRUE(call.isWellFilled);
+        ASSERT_FALSE(log.Lines().empty());
+        const LogLine line = log.Lines().back();
+        EXPECT_EQ(line.message, "NET_ORB_STDXMLConfig failed, [50]-[8].");
+        EXPECT_EQ(line.function, captures ? "CapabilitySet::JsonConfigApp::GetFCDataPackageByJson"
+                                          : "CapabilitySet::JsonConfigApp::GetHFPDDataPackage");
+        EXPECT_EQ(Keel::Error::GetLastError().code, 8);
+    }
+}
 
 TEST(JsonSearchTest, HandsOverPackagesOfExactlyTheReturnedSizeWithinTheBuffer)
 {
