@@ -21,7 +21,7 @@ const std::vector<JsonOperationRow>& JsonOperations()
 {
     static const std::vector<JsonOperationRow> all = [] {
         std::vector<JsonOperationRow> rows;
-        for (auto& table : {JsonCapabilityRows(), AlarmHostRows()})
+        for (auto& table : {JsonCapabilityRows(), AlarmHostRows(), JsonConfigRows()})
             rows.insert(rows.end(), table.begin(), table.end());
         return rows;
     }();

@@ -74,6 +74,7 @@ JsonAnswered AskJsonInto(const char* before, Query query)
 // One table a file.
 std::vector<JsonOperationRow> JsonCapabilityRows();
 std::vector<JsonOperationRow> AlarmHostRows();
+std::vector<JsonOperationRow> JsonConfigRows();
 
 /// All of them.
 const std::vector<JsonOperationRow>& JsonOperations();
