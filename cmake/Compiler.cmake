@@ -34,3 +34,6 @@ if(CAPABILITYSET_SANITIZE)
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${CAPABILITYSET_SANITIZE})
 endif()
+if(CAPABILITYSET_BUILD_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link) # the fuzzers are led by what the library runs
+endif()
