@@ -7,7 +7,8 @@
 
 #include "Device/Behaviour.h"
 #include "Device/DateTime.h"
-#include "Device/DocumentPages.h"
+#include "Device/Page.h"
+#include "Device/SearchPage.h"
 #include "Device/XmlTree.h"
 
 namespace Device
@@ -18,27 +19,21 @@ namespace
 constexpr int kMostResults = 100;
 constexpr size_t kLongestSearchId = 64;
 
-struct Span
-{
-    std::int64_t start;
-    std::int64_t end;
-};
-
 // A search description, as far as a device filters by it. Kinds of content and of metadata do not
 // tell recordings apart: there is but one kind of each.
 struct Description
 {
     std::string searchId;
-    std::set<int> tracks;     // empty: all
-    std::vector<Span> spans;  // empty: all time
+    std::set<int> tracks;         // empty: all
+    std::vector<TimeSpan> spans;  // empty: all time
     int position = 0;
     int size = 0;
 
     [[nodiscard]] bool Wants(const Recording& recording) const
     {
         return (tracks.empty() || tracks.contains(recording.track)) &&
-               (spans.empty() || std::ranges::any_of(spans, [&](const Span& span) {
-                    return recording.start < span.end && recording.end > span.start;
+               (spans.empty() || std::ranges::any_of(spans, [&](const TimeSpan& span) {
+                    return recording.start < *span.end && recording.end > *span.start;
                 }));
     }
 };
@@ -57,7 +52,7 @@ bool ReadTracks(_xmlNode* root, std::set<int>& tracks)
     return true;
 }
 
-bool ReadSpans(_xmlNode* root, std::vector<Span>& spans)
+bool ReadSpans(_xmlNode* root, std::vector<TimeSpan>& spans)
 {
     const _xmlNode* list = ElementFrom(root->children, "timeSpanList");
     for (_xmlNode* span = list == nullptr ? nullptr : ElementFrom(list->children, "timeSpan");
@@ -67,7 +62,7 @@ bool ReadSpans(_xmlNode* root, std::vector<Span>& spans)
         if (!start || !end || *start > *end) {
             return false;
         }
-        spans.push_back({*start, *end});
+        spans.push_back({start, end});
     }
     return true;
 }
@@ -137,8 +132,8 @@ private:
                 matches.push_back(&recording);
             }
         }
-        const Page page =
-            PageOf(matches.size(), description.position, std::min(description.size, kMostResults));
+        const Page page = PageOf(matches.size(), static_cast<size_t>(description.position),
+                                 static_cast<size_t>(std::min(description.size, kMostResults)));
         const XmlTree tree = MakeXmlTree("CMSearchResult", "1.0");
         _xmlNode* root = RootOf(tree);
         AddElement(root, "searchID", description.searchId);

@@ -4,11 +4,10 @@
 
 #include <libxml/tree.h>
 
-#include <algorithm>
-#include <climits>
 #include <map>
 #include <vector>
 
+#include "Device/Page.h"
 #include "Device/XmlTree.h"
 
 namespace Device
@@ -43,20 +42,14 @@ void Fill(_xmlNode* root, std::string_view name, const std::string& text)
     xmlNodeAddContent(element, reinterpret_cast<const xmlChar*>(text.c_str()));
 }
 
-int NumberIn(_xmlNode* root, std::string_view name, int otherwise)
+size_t NumberIn(_xmlNode* root, std::string_view name, size_t otherwise)
 {
-    int number = otherwise;
-    return ReadNumber(ChildText(root, name), number) ? number : otherwise;
+    int number = 0;
+    return ReadNumber(ChildText(root, name), number) && number >= 0 ? static_cast<size_t>(number)
+                                                                    : otherwise;
 }
 
 }  // namespace
-
-Page PageOf(size_t total, int position, int size)
-{
-    const size_t first = std::min(total, static_cast<size_t>(std::max(position, 0)));
-    const size_t count = std::min(total - first, static_cast<size_t>(std::max(size, 0)));
-    return {first, count, total == 0 ? "NO MATCHES" : first + count < total ? "MORE" : "OK"};
-}
 
 std::string MakePage(const std::string& document, const Paging& paging, std::string_view search)
 {
@@ -67,7 +60,7 @@ std::string MakePage(const std::string& document, const Paging& paging, std::str
     }
     const std::vector<_xmlNode*> items = ItemsOf(tree, paging.item);
     const Page page = PageOf(items.size(), NumberIn(RootOf(asked), paging.position, 0),
-                             NumberIn(RootOf(asked), paging.size, INT_MAX));
+                             NumberIn(RootOf(asked), paging.size, items.size()));
     for (size_t i = 0; i < items.size(); ++i) {
         if (i < page.first || i >= page.first + page.count) {
             Remove(items[i]);

@@ -10,16 +10,6 @@
 namespace Device
 {
 
-/// One page of a list.
-struct Page
-{
-    size_t first;        ///< index of its first item
-    size_t count;        ///< number of its items
-    const char* status;  ///< "MORE" when items follow, "NO MATCHES" when the list is empty, "OK"
-};
-
-Page PageOf(size_t total, int position, int size);
-
 /// The part of a document that a search asks for: of the items only those of the page, and the
 /// page's figures in its own "searchID", "responseStatusStrg", "numOfMatches" and "totalMatches"
 /// where the document has them. Numbers that the search does not tell are 0 and everything.

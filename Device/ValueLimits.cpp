@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/ValueLimits.h"
 
-#include <json/json.h>
+#include <json/value.h>
 #include <libxml/tree.h>
 
 #include <algorithm>
-#include <memory>
 #include <stdexcept>
 
+#include "Device/JsonDocument.h"
 #include "Device/ParsedRequest.h"
 #include "Device/XmlTree.h"
 
@@ -187,13 +187,12 @@ bool KeepsLimits(const std::vector<ValueLimit>& limits, std::string_view body,
         Walk(RootOf(tree), check);
         return check.Passed();
     }
-    Json::Value root;
-    const std::unique_ptr<Json::CharReader> reader(Json::CharReaderBuilder().newCharReader());
-    if (form != RequestDocument::Form::Json ||
-        !reader->parse(body.data(), body.data() + body.size(), &root, nullptr)) {
+    const std::optional<Json::Value> root =
+        form == RequestDocument::Form::Json ? ReadJsonDocument(body) : std::nullopt;
+    if (!root) {
         return false;
     }
-    Walk(root, {}, {}, check);
+    Walk(*root, {}, {}, check);
     return check.Passed();
 }
 

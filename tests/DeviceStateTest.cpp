@@ -409,7 +409,8 @@ void Answers(const char* address, bool (*get)(Record&, Error, int, Parameters...
 {
     unsigned int err = 0;
     Record record;
-    EXPECT_TRUE(get(record, err, Asked(address), arguments...)) << address << " " << err;
+    EXPECT_TRUE(get(record, err, Asked(address), static_cast<Parameters>(arguments)...))
+        << address << " " << err;
     EXPECT_TRUE(record.capable) << address;
     EXPECT_FALSE(record.root.children.empty()) << address;
 }
