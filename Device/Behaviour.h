@@ -46,6 +46,7 @@ std::unique_ptr<Behaviour> MakeSettings(const Profile& profile);
 std::optional<Response> RefuseBadValues(const Answer& answer, const ParsedRequest& request);
 // Null when the profile holds no such state.
 std::unique_ptr<Behaviour> MakeAlarmHost(const Profile& profile);
+std::unique_ptr<Behaviour> MakeSearchTasks(const Profile& profile);
 
 /// A refusal when the request's body is neither XML nor JSON.
 std::optional<Response> RefuseMalformed(const ParsedRequest& request);

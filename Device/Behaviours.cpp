@@ -3,6 +3,7 @@
 #include "Device/AnswerTable.h"
 #include "Device/Behaviour.h"
 #include "Device/DocumentPages.h"
+#include "Device/JsonSearch.h"
 
 namespace Device
 {
@@ -64,6 +65,9 @@ public:
         if (found.answer->status) {
             return MakeStatus(*found.answer->status, request.target);
         }
+        if (found.answer->search) {
+            return AnswerSearch(*found.answer, found.channel, request);
+        }
         std::string document = FillIn(*found.answer, found.channel);
         if (found.answer->paging) {
             document = MakePage(document, *found.answer->paging, request.body);
@@ -83,7 +87,8 @@ std::unique_ptr<Behaviour> Make(const Profile& profile)
 
 // The first that knows a request answers it: what keeps state stands before the documents.
 constexpr std::unique_ptr<Behaviour> (*kBehaviours[])(const Profile&) = {
-    &Make<ChannelNumbers>, &MakeContentSearch, &MakeSettings, &MakeAlarmHost, &Make<Documents>,
+    &Make<ChannelNumbers>, &MakeContentSearch, &MakeSettings,
+    &MakeAlarmHost,        &MakeSearchTasks,   &Make<Documents>,
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -19,12 +20,29 @@ struct Request
     std::string body;
 };
 
+/// A body that is made while it is read: it may be larger than anyone wants to hold.
+class BodySource
+{
+public:
+    BodySource() = default;
+    BodySource(const BodySource&) = delete;
+    BodySource& operator=(const BodySource&) = delete;
+    virtual ~BodySource() = default;
+
+    /// How many bytes there are in all.
+    [[nodiscard]] virtual std::uint64_t Size() const = 0;
+    /// Writes the next bytes, fewer than `count` only at the end; returns how many.
+    virtual size_t Read(char* to, size_t count) = 0;
+};
+
 /// What the device answers.
 struct Response
 {
     int status = 200;         ///< HTTP status; 4xx and 5xx are refusals
     std::string contentType;  ///< "application/xml" or "application/json"
-    std::string body;
+    std::string body = {};
+    std::shared_ptr<BodySource> source =
+        nullptr;  ///< the body instead of `body`, when there is one
 };
 
 /// A device of one profile. All members may be called from any thread.

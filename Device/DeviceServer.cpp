@@ -324,7 +324,9 @@ MHD_Result HttpServer::Send(MHD_Connection* connection, Exchange& exchange, Resp
 {
     constexpr size_t kBlock = 32768;
     exchange.body = {};
-    exchange.answer = std::make_unique<AnswerBody>(std::move(response.body), plan, stop_);
+    exchange.status = response.status;
+    const std::string contentType = response.contentType;
+    exchange.answer = std::make_unique<AnswerBody>(std::move(response), plan, stop_);
     const ResponsePtr answer(
         MHD_create_response_from_callback(exchange.answer->AnnouncedSize(), kBlock, &ReadAnswer,
                                           exchange.answer.get(), nullptr),
@@ -332,18 +334,16 @@ MHD_Result HttpServer::Send(MHD_Connection* connection, Exchange& exchange, Resp
     if (!answer) {
         return MHD_NO;
     }
-    if (!response.contentType.empty()) {
-        MHD_add_response_header(answer.get(), MHD_HTTP_HEADER_CONTENT_TYPE,
-                                response.contentType.c_str());
+    if (!contentType.empty()) {
+        MHD_add_response_header(answer.get(), MHD_HTTP_HEADER_CONTENT_TYPE, contentType.c_str());
     }
-    if (response.status == 401) {
+    if (exchange.status == 401) {
         for (const std::string& challenge : digest_.Challenges(exchange.stale)) {
             MHD_add_response_header(answer.get(), MHD_HTTP_HEADER_WWW_AUTHENTICATE,
                                     challenge.c_str());
         }
     }
-    exchange.status = response.status;
-    return MHD_queue_response(connection, static_cast<unsigned int>(response.status), answer.get());
+    return MHD_queue_response(connection, static_cast<unsigned int>(exchange.status), answer.get());
 }
 
 void HttpServer::End(void* self, MHD_Connection*, void** exchangePointer,

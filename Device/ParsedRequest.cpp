@@ -44,6 +44,23 @@ std::string UndoPercentEncoding(std::string_view text)
     return out;
 }
 
+std::string PercentEncoded(std::string_view text, bool (*keep)(char))
+{
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    std::string out;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (keep(c)) {
+            out += c;
+            continue;
+        }
+        out += '%';
+        out += kDigits[byte >> 4];
+        out += kDigits[byte & 15];
+    }
+    return out;
+}
+
 std::vector<Parameter> ParseParameters(std::string_view target)
 {
     std::vector<Parameter> parameters;

@@ -45,6 +45,9 @@ struct ParsedRequest
 /// The text with each "%41" replaced by the byte it stands for; anything else stays.
 std::string UndoPercentEncoding(std::string_view text);
 
+/// The text with "%41" for each byte that is not to be kept.
+std::string PercentEncoded(std::string_view text, bool (*keep)(char));
+
 /// Reads a text that is one decimal number of an `int` and nothing else.
 bool ReadNumber(std::string_view text, int& number);
 

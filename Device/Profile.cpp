@@ -197,6 +197,22 @@ void ReadDocument(const ProfileFiles& files, const std::string& file, Answer& an
     answer.roots = document.roots;
 }
 
+void ReadSearch(const Json::Value& search, const std::string& where, Answer& answer)
+{
+    if (search.isNull()) {
+        return;
+    }
+    if (answer.method != "POST" || answer.contentType != "application/json") {
+        throw Fault(where + ": \"search\" is of a POST answered with a JSON file");
+    }
+    try {
+        answer.search = ReadSearchRules(search);
+        static_cast<void>(ReadSearched(answer.document, *answer.search));
+    } catch (const std::invalid_argument& fault) {
+        throw Fault(where + ": " + fault.what());
+    }
+}
+
 // What a device does with a request's body beyond looking at its root.
 void ReadRules(const Json::Value& entry, const std::string& where, Answer& answer)
 {
@@ -213,6 +229,7 @@ void ReadRules(const Json::Value& entry, const std::string& where, Answer& answe
         answer.mergedItem = merge.substr(0, slash);
         answer.mergedKey = merge.substr(slash + 1);
     }
+    ReadSearch(entry["search"], where, answer);
     const Json::Value& pages = entry["pages"];
     if (pages.isNull()) {
         return;
@@ -235,10 +252,10 @@ Answer ReadAnswer(const ProfileFiles& files, const Json::Value& entry, unsigned 
     Answer answer;
     answer.request = TextMember(entry, "request", number, true);
     const std::string where = "\"" + answer.request + "\"";
-    RefuseUnknownKeys(
-        entry,
-        {"request", "file", "setting", "status", "root", "channels", "values", "merge", "pages"},
-        where);
+    RefuseUnknownKeys(entry,
+                      {"request", "file", "setting", "status", "root", "channels", "values",
+                       "merge", "pages", "search"},
+                      where);
     if (!entry["setting"].isNull() && !entry["setting"].isBool()) {
         throw Fault(where + ": \"setting\" is neither true nor false");
     }

@@ -11,6 +11,7 @@
 
 #include <json/value.h>
 
+#include "Device/JsonSearch.h"
 #include "Device/ParsedRequest.h"
 #include "Device/Recordings.h"
 #include "Device/StatusDocument.h"
@@ -42,6 +43,7 @@ struct Answer
     std::string mergedItem;             ///< of a setting: PUT replaces only the items it holds
     std::string mergedKey;              ///< the child by which those items are told apart
     std::optional<Paging> paging;
+    std::optional<SearchRules> search;
     std::optional<Status> status;  ///< answered with a status document instead of a file
 
     std::string contentType;

@@ -29,16 +29,18 @@ const Json::Value& FirstMember(const Json::Value& object, std::initializer_list<
     return Json::Value::nullSingleton();
 }
 
-std::optional<int> ReadCount(const Json::Value& value)
+int ReadCount(const Json::Value& value)
 {
-    if (value.isNull()) {
-        return std::nullopt;
+    const std::optional<int> number = value.isNull() ? 0 : JsonNumber(value);
+    return number && *number >= 0 ? *number : throw Senseless();
+}
+
+// Clients that want no limit leave it out or write 0.
+void ReadLimit(const Json::Value& value, size_t& limit)
+{
+    if (const int count = ReadCount(value); count > 0) {
+        limit = static_cast<size_t>(count);
     }
-    const std::optional<int> number = JsonNumber(value);
-    if (!number || *number < 0) {
-        throw Senseless();
-    }
-    return number;
 }
 
 std::optional<std::int64_t> ReadTime(const Json::Value& value)
@@ -77,9 +79,9 @@ std::optional<SearchDemand> ReadSearchDemand(const Json::Value& description)
         // Kept: clients write "searchResultPostion" in the description of a log search, and the
         // numbers as texts of digits.
         demand.position =
-            ReadCount(FirstMember(description, {"searchResultPosition", "searchResultPostion"}))
-                .value_or(0);
-        demand.limit = ReadCount(FirstMember(description, {"maxResults", "maxResultNumber"}));
+            ReadCount(FirstMember(description, {"searchResultPosition", "searchResultPostion"}));
+        ReadLimit(JsonMember(description, "maxResults"), demand.limit);
+        ReadLimit(FirstMember(description, {"maxSearchResults", "maxResultNumber"}), demand.most);
         ReadSpan(description, demand.spans);
         const Json::Value& list = JsonMember(description, "timeSpanList");
         if (!list.isNull() && !list.isArray()) {
@@ -95,11 +97,10 @@ std::optional<SearchDemand> ReadSearchDemand(const Json::Value& description)
 }
 
 Json::Value MakeSearchPage(const SearchDemand& demand, const std::vector<Json::Value>& matches,
-                           const char* list, const std::string& item)
+                           const std::string& list, const std::string& item)
 {
     const size_t first = std::min(static_cast<size_t>(demand.position), matches.size());
-    const size_t count = std::min(
-        matches.size() - first, demand.limit ? static_cast<size_t>(*demand.limit) : matches.size());
+    const size_t count = std::min(matches.size() - first, demand.limit);
     Json::Value page;
     page["searchID"] = demand.searchId;
     page["responseStatus"] = true;

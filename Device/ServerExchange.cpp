@@ -28,8 +28,12 @@ bool StopSignal::Wait(std::chrono::milliseconds time)
     return !changed_.wait_for(lock, std::min(time, kLongest), [this] { return stopped_.load(); });
 }
 
-AnswerBody::AnswerBody(std::string body, const FaultPlan& plan, StopSignal& stop)
-    : body_(std::move(body)), plan_(plan), stop_(stop)
+AnswerBody::AnswerBody(Response response, const FaultPlan& plan, StopSignal& stop)
+    : body_(std::move(response.body)),
+      source_(std::move(response.source)),
+      size_(source_ ? source_->Size() : body_.size()),
+      plan_(plan),
+      stop_(stop)
 {
 }
 
@@ -51,9 +55,14 @@ std::int64_t AnswerBody::Read(std::uint64_t position, char* buffer, size_t size)
         }
         count = std::min(count, *plan_.truncateAt - position);
     }
-    if (position < body_.size()) {
-        count = std::min<std::uint64_t>(count, body_.size() - position);
-        std::memcpy(buffer, body_.data() + position, count);
+    if (position < size_) {
+        // The server asks for each byte once, in order, as a source gives them.
+        count = std::min<std::uint64_t>(count, size_ - position);
+        if (source_) {
+            count = source_->Read(buffer, count);
+        } else {
+            std::memcpy(buffer, body_.data() + position, count);
+        }
     } else {
         std::memset(buffer, ' ', count);
     }

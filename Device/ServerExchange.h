@@ -11,6 +11,7 @@
 #include <string>
 #include <utility>
 
+#include "Device/DeviceModel.h"
 #include "Device/ServerFaults.h"
 
 namespace Device
@@ -36,9 +37,9 @@ private:
 class AnswerBody
 {
 public:
-    AnswerBody(std::string body, const FaultPlan& plan, StopSignal& stop);
+    AnswerBody(Response response, const FaultPlan& plan, StopSignal& stop);
 
-    [[nodiscard]] std::uint64_t AnnouncedSize() const { return body_.size() + plan_.padding; }
+    [[nodiscard]] std::uint64_t AnnouncedSize() const { return size_ + plan_.padding; }
     [[nodiscard]] std::uint64_t Sent() const { return sent_; }
 
     /// Writes the next bytes from `position` on; returns their number, or -1 to break the
@@ -47,6 +48,8 @@ public:
 
 private:
     const std::string body_;
+    const std::shared_ptr<BodySource> source_;
+    const std::uint64_t size_;  ///< without padding
     const FaultPlan plan_;
     StopSignal& stop_;
     std::uint64_t sent_ = 0;

@@ -32,24 +32,15 @@ constexpr const Status* kOutcomes[] = {
     &Outcome::kSubSystemDisabled,
     &Outcome::kSubSystemArmed,
     &Outcome::kNotBypassable,
+    &Outcome::kWrongTaskState,
+    &Outcome::kTaskNotFinished,
 };
 
 // What a client sent goes back with every byte harmless in XML and JSON, whatever it was.
 std::string Printable(std::string_view target)
 {
-    constexpr char kDigits[] = "0123456789ABCDEF";
-    std::string out;
-    for (const char c : target) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte > 0x20 && byte < 0x7f && c != '<' && c != '>' && c != '"') {
-            out += c;
-            continue;
-        }
-        out += '%';
-        out += kDigits[byte >> 4];
-        out += kDigits[byte & 15];
-    }
-    return out;
+    return PercentEncoded(
+        target, [](char c) { return c > 0x20 && c < 0x7f && c != '<' && c != '>' && c != '"'; });
 }
 
 std::string EscapeAmpersands(std::string text)

@@ -52,6 +52,8 @@ inline constexpr Status kSubSystemDisabled{200, 4, "Invalid Operation", "subSyst
                                            0x400011};
 inline constexpr Status kSubSystemArmed{200, 4, "Invalid Operation", "subSystemArmed", 0x400012};
 inline constexpr Status kNotBypassable{200, 4, "Invalid Operation", "zoneNotBypassable", 0x400013};
+inline constexpr Status kWrongTaskState{200, 4, "Invalid Operation", "wrongTaskState", 0x400014};
+inline constexpr Status kTaskNotFinished{400, 4, "Invalid Operation", "taskNotFinished", 0x400015};
 }  // namespace Outcome
 
 /// The outcome of that sub-status word, or null when there is none.

@@ -1,61 +1,24 @@
 // The simulated alarm host: commands, refusals, alarms, batches, configuration, log.
 // SPDX-License-Identifier: Apache-2.0
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <json/json.h>
-
 #include <thread>
 
-#include "Device/DeviceModel.h"
+#include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
+#include "support/DeviceSteps.h"
 
-using Device::DeviceModel;
+using namespace CapabilitySet;
 using testing::HasSubstr;
+using TestSupport::AskJson;
+using TestSupport::LoadDevice;
+using TestSupport::Play;
 
 namespace
 {
-
-std::shared_ptr<DeviceModel> LoadHost()
-{
-    std::string error;
-    auto model = DeviceModel::Load("alarmhost", error);
-    return model ? model : throw std::runtime_error(error);
-}
-
-struct Step
-{
-    const char* method;
-    std::string path;  // below /TARN/, without "format=json"
-    std::string body;
-    int status;
-    const char* answer;  // a part of it
-};
-
-std::string Target(const std::string& path)
-{
-    return "/TARN/" + path + (path.find('?') == std::string::npos ? "?" : "&") + "format=json";
-}
-
-void Play(DeviceModel& model, const std::vector<Step>& steps)
-{
-    for (const Step& step : steps) {
-        const auto response = model.Handle({step.method, Target(step.path), step.body});
-        EXPECT_EQ(response.status, step.status) << step.method << " " << step.path;
-        EXPECT_THAT(response.body, HasSubstr(step.answer)) << step.method << " " << step.path;
-    }
-}
-
-Json::Value Get(DeviceModel& model, const std::string& path)
-{
-    Json::Value root;
-    Json::Reader().parse(model.Handle({"GET", Target(path), ""}).body, root);
-    return root;
-}
 
 const std::string kControl = "SecurityCP/control/";
 
 TEST(AlarmHostState, ArmsWhatIsReadyAndSaysWhatStandsInTheWay)
 {
-    const auto host = LoadHost();
+    const auto host = LoadDevice("alarmhost");
     Play(*host,
          {{"POST", kControl + "arm/<1>?ways=<away>", "", 200, "\"statusCode\" : 1"},
           {"POST", kControl + "arm/<1>?ways=%3Cstay%3E", "", 200, "\"statusCode\" : 1"},
@@ -80,7 +43,7 @@ TEST(AlarmHostState, ArmsWhatIsReadyAndSaysWhatStandsInTheWay)
            200, "\"id\" : 3"},
           {"POST", kControl + "arm", "{\"SubSysList\": 5}", 400, "badJsonContent"}});
     std::string ways;
-    const Json::Value status = Get(*host, "SecurityCP/status/subSystems");
+    const Json::Value status = AskJson(*host, "GET", "SecurityCP/status/subSystems");
     for (const Json::Value& entry : status["SubSysList"]) {
         ways += entry["SubSys"]["arming"].asString() + " ";
     }
@@ -89,10 +52,11 @@ TEST(AlarmHostState, ArmsWhatIsReadyAndSaysWhatStandsInTheWay)
 
 TEST(AlarmHostState, AnOpenedZoneAlarmsOnlyWhereItIsSupervised)
 {
-    const auto host = LoadHost();
+    const auto host = LoadDevice("alarmhost");
     const auto noAlarm = [&] {
-        return Get(*host, "SecurityCP/status/host").toStyledString().find("\"alarm\" : true") ==
-               std::string::npos;
+        return AskJson(*host, "GET", "SecurityCP/status/host")
+                   .toStyledString()
+                   .find("\"alarm\" : true") == std::string::npos;
     };
     EXPECT_FALSE(noAlarm());
     Play(*host, {{"POST", kControl + "clearAlarm/<8>", "", 200, "\"ok\""},
@@ -112,7 +76,7 @@ TEST(AlarmHostState, AnOpenedZoneAlarmsOnlyWhereItIsSupervised)
 
 TEST(AlarmHostState, BatchesAreCarriedOutAsFarAsTheyGoAndNameTheRest)
 {
-    const auto host = LoadHost();
+    const auto host = LoadDevice("alarmhost");
     const std::string body =
         R"({"OutputsCtrl": {"switch": "open", "List": [{"id": 2}, {"id": 40}]}})";
     const auto turn = [](const std::string& what, const std::string& how) {
@@ -132,7 +96,7 @@ TEST(AlarmHostState, BatchesAreCarriedOutAsFarAsTheyGoAndNameTheRest)
     const auto having = [&](const char* path, const char* list, const char* item, const char* key,
                             const Json::Value& value) {
         std::string ids;
-        const Json::Value status = Get(*host, path);
+        const Json::Value status = AskJson(*host, "GET", path);
         for (const Json::Value& entry : status[list]) {
             ids += entry[item][key] == value ? entry[item]["id"].asString() + " " : "";
         }
@@ -146,7 +110,7 @@ TEST(AlarmHostState, BatchesAreCarriedOutAsFarAsTheyGoAndNameTheRest)
 
 TEST(AlarmHostState, DetectorsAreSilencedAndResetByEitherOfTheirNumbers)
 {
-    const auto host = LoadHost();
+    const auto host = LoadDevice("alarmhost");
     const std::string detector = "FireControl/Control/detectorAlarm/";
     const auto cmd = [](const std::string& word) {
         return R"({"DetectorAlarm": {"cmd": ")" + word + "\"}}";
@@ -158,14 +122,15 @@ TEST(AlarmHostState, DetectorsAreSilencedAndResetByEitherOfTheirNumbers)
                  {"PUT", detector + "4/3", cmd("reset"), 400, "invalidID"},
                  {"PUT", detector + "9", cmd("reset"), 400, "invalidID"},
                  {"PUT", detector + "1", cmd("sing"), 400, "badParameters"}});
-    const std::string states = Get(*host, "FireControl/Status/detectorStatus").toStyledString();
+    const std::string states =
+        AskJson(*host, "GET", "FireControl/Status/detectorStatus").toStyledString();
     EXPECT_THAT(states, testing::Not(HasSubstr("abnormal")));
     EXPECT_THAT(states, HasSubstr("expired"));
 }
 
 TEST(AlarmHostState, ConfigurationIsReadBackAndKeptFromNonsense)
 {
-    const auto host = LoadHost();
+    const auto host = LoadDevice("alarmhost");
     const std::string config = "SecurityCP/Configuration/";
     Play(*host, {{"PUT", config + "zones/1", R"({"Zone": {"zoneName": "Main door"}})", 200, "ok"},
                  {"GET", config + "zones", "", 200, "Main door"},
@@ -180,21 +145,18 @@ TEST(AlarmHostState, ConfigurationIsReadBackAndKeptFromNonsense)
                  {"PUT", config + "subSys/2", R"({"SubSys": {"linkageZones": [1, 9]}})", 200, "ok"},
                  {"GET", config + "zones/10", "", 200, "\"subSystemNo\" : 0"},
                  {"GET", config + "clocks", "", 404, "notSupport"}});
-    const Json::Value subSystems = Get(*host, config + "subSys")["List"];
+    const Json::Value subSystems = AskJson(*host, "GET", config + "subSys")["List"];
     EXPECT_EQ(subSystems[0]["SubSys"]["linkageZones"].size(), 7u);
     EXPECT_EQ(subSystems[1]["SubSys"]["linkageZones"].size(), 2u);
 }
 
 TEST(AlarmHostState, TheLogTellsEveryCommandAndIsReadPageByPage)
 {
-    const auto host = LoadHost();
+    const auto host = LoadDevice("alarmhost");
     const auto search = [&](const std::string& position, const std::string& more = "") {
         const std::string body = R"({"SearchDescription": {"searchID": "s1", "maxResults": "15",)" +
                                  more + R"( "searchResultPostion": ")" + position + "\"}}";
-        Json::Value root;
-        Json::Reader().parse(host->Handle({"POST", Target("SecurityCP/Log/search"), body}).body,
-                             root);
-        return root["SearchResult"];
+        return AskJson(*host, "POST", "SecurityCP/Log/search", body)["SearchResult"];
     };
     Play(*host, {{"POST", kControl + "arm/<9>?ways=<away>", "", 400, "invalidID"},
                  {"POST", "SecurityCP/Log/search", R"({"SearchDescription": {"maxResults": "x"}})",
@@ -220,7 +182,7 @@ TEST(AlarmHostState, TheLogTellsEveryCommandAndIsReadPageByPage)
 
 TEST(AlarmHostState, ThreadsCommandOneHostAtOnce)
 {
-    const auto host = LoadHost();
+    const auto host = LoadDevice("alarmhost");
     std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&, i] {
@@ -235,6 +197,85 @@ TEST(AlarmHostState, ThreadsCommandOneHostAtOnce)
     for (std::thread& thread : threads) {
         thread.join();
     }
+}
+
+// The way a client goes: what is open is bypassed, what is refused is told in the status.
+TEST(AlarmHostState, TheLibrarysOperationsCommandIt)
+{
+    const TestSupport::Asked host("sim:alarmhost");
+    unsigned error = 0;
+    JsonStatus status;
+    EXPECT_TRUE(JsonConfigApp::SetDevArming(status, "away", 3, error, host));
+    EXPECT_EQ(status.statusCode, 4);
+    EXPECT_EQ(status.subStatusCode, "zoneOpen");
+    AlarmHostBypassCfg zones;
+    zones.zone = "17,20";
+    EXPECT_TRUE(JsonConfigApp::SetDevBypass(zones, status, error, -1, host));
+    EXPECT_EQ(status.statusCode, 1);
+    EXPECT_TRUE(JsonConfigApp::SetDevArming(status, "away", 3, error, host));
+    EXPECT_EQ(status.statusCode, 1);
+    EXPECT_TRUE(JsonConfigApp::SetDevDisArm(status, 3, error, host));
+    EXPECT_TRUE(JsonConfigApp::SetDevBypassRecover(zones, status, error, 17, host));
+    EXPECT_TRUE(JsonConfigApp::SetDevClearAlarm(status, 8, error, host));
+    EXPECT_EQ(status.statusCode, 1);
+    EXPECT_FALSE(JsonConfigApp::SetDevDisArm(status, 9, error, host));
+    EXPECT_NE(error, 0u);
+
+    AlarmHostOutputCfg outputs;
+    outputs.switchState = "open";
+    outputs.ids = {2, 77};
+    JsonErrorStatusList errors;
+    EXPECT_TRUE(JsonConfigApp::SetOutputControl(outputs, error, errors, -1, host));
+    ASSERT_EQ(errors.errorList.size(), 1u);
+    EXPECT_EQ(errors.errorList[0].id, "77");
+    EXPECT_TRUE(JsonConfigApp::SetOutputControl(outputs, error, errors, 3, host));
+
+    AlarmHostZoneConfig zoneConfig;
+    AlarmHostSubSystemConfig subSystemConfig;
+    TriggerListConfig outputConfig;
+    AlarmHostCommunicationStatus communication;
+    EXPECT_TRUE(JsonConfigApp::GetAlarmHostZoneConfiguration(zoneConfig, error, host));
+    EXPECT_TRUE(JsonConfigApp::GetSubSystemConfig(subSystemConfig, error, host));
+    EXPECT_TRUE(JsonConfigApp::GetTriggerConfig(outputConfig, error, host));
+    EXPECT_TRUE(JsonConfigApp::GetAlarmHostCommuniStatus(communication, error, host));
+    EXPECT_EQ(zoneConfig.zones.size(), 64u);
+    EXPECT_EQ(subSystemConfig.subSystems.size(), 8u);
+    EXPECT_EQ(subSystemConfig.subSystems[7].linkageZones.size(), 8u);
+    EXPECT_EQ(outputConfig.outputs.size(), 32u);
+    EXPECT_EQ(outputConfig.outputs[0].linkageList.size(), 2u);
+    EXPECT_EQ(communication.mobileSignal, 72);
+}
+
+TEST(AlarmHostState, TheLibrarysOperationsReadItsDetectorsAndItsLog)
+{
+    const TestSupport::Asked host("sim:alarmhost");
+    unsigned error = 0;
+    JsonStatus status;
+    DetectorSilenceCap cap;
+    EXPECT_TRUE(JsonConfigApp::GetDetectorSilenceCap(cap, error, static_cast<unsigned>(int(host))));
+    ASSERT_FALSE(cap.cmd.opt.empty());
+    DetectorSilence command;
+    command.cmd = "reset";
+    EXPECT_TRUE(JsonConfigApp::SetDetectorSilence(status, command, error, 5, -1, host));
+    EXPECT_TRUE(JsonConfigApp::SetDetectorSilence(status, command, error, 4, 1, host));
+    EXPECT_EQ(status.statusCode, 1);
+    DetectorStates states;
+    EXPECT_TRUE(JsonConfigApp::GetDetectorStates(states, error, host));
+    ASSERT_EQ(states.detectors.size(), 8u);
+    EXPECT_EQ(states.detectors[4].Temperature.status, "normal");
+    EXPECT_EQ(states.detectors[5].Gas.status, "expired");
+
+    AlarmHostLogConditionDescription condition;
+    condition.searchID = "log";
+    condition.maxResults = 10;
+    AlarmHostDeviceLogResult page;
+    do {
+        EXPECT_TRUE(JsonConfigApp::GetAlarmHostDeviceLog(condition, page, error, host));
+        ASSERT_GT(page.numOfMatches, 0);
+        condition.searchResultPosition += page.numOfMatches;
+    } while (page.responseStatusStrg == "MORE");
+    EXPECT_EQ(condition.searchResultPosition, 43);
+    EXPECT_EQ(page.matchList.back().logDescriptor["event"], "reset");
 }
 
 }  // namespace

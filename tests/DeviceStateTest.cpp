@@ -26,7 +26,7 @@
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
 #include "Device/DeviceModel.h"
-#include "support/SdkCalls.h"
+#include "support/DeviceSteps.h"
 
 namespace
 {
@@ -36,6 +36,7 @@ using ParseXmlHelper::InterfaceRet;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
+using TestSupport::Asked;
 
 struct Row
 {
@@ -46,17 +47,9 @@ struct Row
     const char* part;  ///< of the answer
 };
 
-std::shared_ptr<Device::DeviceModel> Load(const char* profile)
-{
-    std::string error;
-    auto model = Device::DeviceModel::Load(profile, error);
-    EXPECT_NE(model, nullptr) << error;
-    return model;
-}
-
 void Check(const char* profile, std::initializer_list<Row> rows)
 {
-    const auto model = Load(profile);
+    const auto model = TestSupport::LoadDevice(profile);
     for (const Row& row : rows) {
         const Device::Response response = model->Handle({row.method, row.target, row.body});
         EXPECT_EQ(response.status, row.status) << row.method << " " << row.target << row.body;
@@ -185,8 +178,8 @@ TEST(DeviceStateTest, ContentSearchesThatMakeNoSenseAreRefused)
 
 TEST(DeviceStateTest, BodiesCutAnywhereAndThreadsAtOnceAreAnswered)
 {
-    const auto model = Load("recorder");
-    const auto yard = Load("switch");
+    const auto model = TestSupport::LoadDevice("recorder");
+    const auto yard = TestSupport::LoadDevice("switch");
     const std::string search = Search("x", "<trackID>101</trackID>", "", "9");
     const std::string rates = Rates(Rate("3", "5") + Rate("4", "6"));
     const auto cutAll = [&] {
@@ -206,24 +199,6 @@ TEST(DeviceStateTest, BodiesCutAnywhereAndThreadsAtOnceAreAnswered)
     cutAll();
     other.join();
 }
-
-/// A device of this process that the library asks.
-class Asked
-{
-public:
-    explicit Asked(const char* address) : login_(Info(address)) {}
-    operator int() const { return login_.UserID(); }
-
-private:
-    static tagNET_ORB_LOGIN_INFO Info(const char* address)
-    {
-        tagNET_ORB_LOGIN_INFO info{};
-        info.address = address;
-        return info;
-    }
-
-    TestSupport::LoggedIn login_;
-};
 
 bool Succeeded(const InterfaceRet& result)
 {

@@ -23,6 +23,8 @@ public:
     void Cancel() noexcept override { cancelled_ = true; }
 
 private:
+    unsigned Receive(Device::BodySource& source, AnswerBody& body) const;
+
     const std::shared_ptr<Device::DeviceModel> device_;
     std::atomic<bool> cancelled_{false};
 };
