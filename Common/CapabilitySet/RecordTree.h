@@ -131,6 +131,11 @@ RecordNode Node(std::string name, const Record& record)
     Record::Fields(record, [&node](const char* field, const auto& member, auto&&... /*how*/) {
         node.children.push_back(Node(field, member));
     });
+    // A JSON record that lists no members holds the device's own.
+    if constexpr (requires { Node(std::string(), static_cast<const Json::Value&>(record.root)); }) {
+        if (node.children.empty())
+            node.children = Node(std::string(), record.root).children;
+    }
     return node;
 }
 

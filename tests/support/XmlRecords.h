@@ -12,20 +12,10 @@
 #include "CapabilitySet/XMLParamInterface/SwitchConfig.h"
 #include "CapabilitySet/XMLParamInterface/SystemConfig.h"
 #include "CapabilitySet/XMLParamInterface/WirelessConfig.h"
+#include "support/RecordTypes.h"
 
 namespace TestSupport
 {
-
-template <class... Records>
-struct RecordTypes
-{
-    /// Calls `visit.operator()<Record>()` for each.
-    template <class Visit>
-    static void ForEach(Visit&& visit)
-    {
-        (visit.template operator()<Records>(), ...);
-    }
-};
 
 using XmlRecords = RecordTypes<
     CapabilitySet::RS485OfBC, CapabilitySet::ZoneNum, CapabilitySet::TriggerNum,

@@ -122,6 +122,10 @@ void WriteValue(Json::Value& target, const Member& member)
     } else if constexpr (std::is_same_v<Member, Json::Value>) {
         target = member;
     } else {
+        if constexpr (requires { target = member.root; }) {
+            if (target.isNull())
+                target = member.root;
+        }
         WriteFields(target, member);
     }
 }

@@ -1,0 +1,449 @@
+// JSON records by their field lists: what is read, what stays, what is written back.
+// SPDX-License-Identifier: Apache-2.0
+#include <functional>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <json/reader.h>
+#include <json/value.h>
+
+#include "CapabilitySet/JsonTARN/JsonStatus.h"
+#include "CapabilitySet/RecordTree.h"
+#include "CapabilitySet/private/FieldTags.h"
+#include "CapabilitySet/private/JsonReading.h"
+#include "support/AllocationFaults.h"
+#include "support/JsonRecords.h"
+
+namespace
+{
+
+using namespace CapabilitySet;
+using namespace TestSupport;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Makes what a device would send for each member, another value each time, and beside the members
+/// of every object one that no record knows.
+class Sampler
+{
+public:
+    template <class Record>
+    Json::Value Object()
+    {
+        Json::Value object;
+        object["unknown"] = ++count_;
+        Record record;
+        Record::Fields(record, [&](const char* name, auto& member, auto... how) {
+            object[name] = Value(member, how...);
+        });
+        return object;
+    }
+
+private:
+    template <class Member>
+    Json::Value Value(const Member& /*member*/)
+    {
+        ++count_;
+        if constexpr (std::is_same_v<Member, bool>) {
+            return true;
+        } else if constexpr (std::is_floating_point_v<Member>) {
+            return count_ + 0.5;
+        } else if constexpr (std::is_arithmetic_v<Member>) {
+            return count_;
+        } else if constexpr (std::is_same_v<Member, std::string>) {
+            return "text " + std::to_string(count_);
+        } else if constexpr (std::is_same_v<Member, OptJsonElement> ||
+                             std::is_same_v<Member, Json::Value>) {
+            Json::Value options;
+            options["@opt"].append("option " + std::to_string(count_));
+            return options;
+        } else {
+            return Object<Member>();
+        }
+    }
+
+    template <class Item>
+    Json::Value Value(const std::vector<Item>& /*items*/)
+    {
+        Json::Value array;
+        for (int i = 0; i < 2; ++i)
+            array.append(Value(Item()));
+        return array;
+    }
+
+    template <class Item>
+    Json::Value Value(const std::vector<Item>& items, as::Wrapped how)
+    {
+        Json::Value array = Value(items);
+        for (Json::Value& entry : array) {
+            Json::Value wrapped;
+            wrapped["beside"] = ++count_;
+            wrapped[how.key] = entry;
+            entry = wrapped;
+        }
+        return array;
+    }
+
+    Json::Value Value(bool /*member*/, as::TextFlag /*how*/) { return "true"; }
+    Json::Value Value(int /*member*/, as::DecimalText /*how*/) { return std::to_string(++count_); }
+    // The record that is read from the same key follows and says what stands there.
+    Json::Value Value(const std::string& /*member*/, as::StyledText /*how*/) { return "styled"; }
+
+    int count_ = 0;
+};
+
+template <class Record>
+std::string TextOf(const Json::Value& members)
+{
+    if (Record::kKey[0] == '\0')
+        return members.toStyledString();
+    Json::Value document;
+    document[Record::kKey] = members;
+    return document.toStyledString();
+}
+
+template <class Record>
+std::string SampleText()
+{
+    return TextOf<Record>(Sampler().Object<Record>());
+}
+
+Json::Value Parsed(const std::string& text)
+{
+    Json::Value value;
+    EXPECT_TRUE(Json::Reader().parse(text, value)) << text;
+    return value;
+}
+
+template <class Record>
+std::vector<RecordNode> Members(const Record& record)
+{
+    return Describe({}, record).children;
+}
+
+/// What became of a record's members when reading it may have ended at one of them.
+template <class Record>
+void ExpectReadingEndsAt(const std::string& name, const Record& whole, const Record& record)
+{
+    const auto full = Members(whole);
+    const auto defaults = Members(Record());
+    const auto members = Members(record);
+    bool isBehind = false;
+    std::size_t read = 0;
+    std::size_t left = 0;
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        if (members[i].name == name) {
+            isBehind = true;
+        } else if (!isBehind) {
+            EXPECT_TRUE(SameValues(members[i], full[i])) << members[i].name << " was read before";
+        } else {
+            read += SameValues(members[i], full[i]) ? 1 : 0;
+            left += SameValues(members[i], defaults[i]) ? 1 : 0;
+            EXPECT_TRUE(read == 0 || left == 0) << members[i].name;
+            EXPECT_TRUE(read != 0 || left != 0) << members[i].name << " holds something else";
+        }
+    }
+}
+
+/// Puts each of `kinds` in the place of each value in turn.
+void ReplaceEach(Json::Value& value, const Json::Value& kinds, const std::function<void()>& check)
+{
+    const Json::Value before = value;
+    for (const Json::Value& kind : kinds) {
+        value = kind;
+        check();
+        value = before;
+    }
+    for (Json::Value& child : value)
+        ReplaceEach(child, kinds, check);
+}
+
+TEST(JsonRecordTest, FillsFromEachKeyItsOwnMemberAlone)
+{
+    JsonRecords::ForEach([]<class Record>() {
+        const Json::Value sample = Sampler().Object<Record>();
+        const auto full = Members(Record(TextOf<Record>(sample)));
+        const auto defaults = Members(Record());
+        for (const RecordNode& filled : defaults) {
+            SCOPED_TRACE(testing::Message() << Record::kKey << ": " << filled.name);
+            Json::Value members;
+            members[filled.name] = sample[filled.name];
+            const auto read = Members(Record(TextOf<Record>(members)));
+            for (std::size_t i = 0; i < read.size(); ++i) {
+                const bool isFilled = read[i].name == filled.name;
+                EXPECT_EQ(SameValues(read[i], defaults[i]), !isFilled) << read[i].name;
+                EXPECT_EQ(SameValues(read[i], full[i]), isFilled) << read[i].name;
+            }
+        }
+    });
+}
+
+TEST(JsonRecordTest, WritesBackWhatItReadAndWhatItDidNot)
+{
+    JsonRecords::ForEach([]<class Record>() {
+        const std::string text = SampleText<Record>();
+        const Record record(text);
+        EXPECT_EQ(Parsed(record.Make()), Parsed(text)) << record.Make();
+        EXPECT_EQ(Record(record.Make()).Make(), record.Make());
+        Record bare(text);
+        if (!Members(Record()).empty())
+            bare.root = Json::Value();
+        EXPECT_TRUE(SameFields(Record(bare.Make()), record)) << "without what was not read";
+    });
+}
+
+TEST(JsonRecordTest, EndsAtAMemberOfTheWrongKindAndKeepsWhatWasReadBefore)
+{
+    const Json::Value kinds = Parsed(
+        R"([null, true, 7, -1, 1e300, 4294967296, 2.5, "text", "", "7", [], [1], [[]], {}, {"a": 1}])");
+    JsonRecords::ForEach([&]<class Record>() {
+        Json::Value sample = Sampler().Object<Record>();
+        const Record whole(TextOf<Record>(sample));
+        for (const std::string& name : sample.getMemberNames()) {
+            SCOPED_TRACE(testing::Message() << Record::kKey << ": " << name);
+            ReplaceEach(sample[name], kinds, [&] {
+                if (testing::Test::HasFailure())
+                    return;
+                SCOPED_TRACE(sample[name].toStyledString());
+                const Record record(TextOf<Record>(sample));
+                EXPECT_EQ(record.root, sample);
+                if (name != "unknown")
+                    ExpectReadingEndsAt(name, whole, record);
+                EXPECT_FALSE(record.JsonRecord<Record>::Make().empty());
+            });
+        }
+    });
+}
+
+TEST(JsonRecordTest, SurvivesTextsThatAreNoDocuments)
+{
+    const std::string deep(1500, '[');
+    JsonRecords::ForEach([&]<class Record>() {
+        SCOPED_TRACE(Record::kKey);
+        const std::string text = SampleText<Record>();
+        const std::string key = Record::kKey;
+        std::vector<std::string> texts{"",
+                                       "null",
+                                       "[]",
+                                       "\"text\"",
+                                       "<a/>",
+                                       std::string(4, '\0'),
+                                       "{\"" + key + "\": " + deep,
+                                       deep + std::string(1500, ']'),
+                                       "\xEF\xBB\xBF" + text};
+        for (std::size_t length = 1; length + 1 < text.size(); length += 1 + text.size() / 100)
+            texts.push_back(text.substr(0, length));
+        Record kept(text);
+        for (const std::string& each : texts) {
+            EXPECT_TRUE(SameFields(Record(each), Record())) << each;
+            if (Json::Value value; !json::ParseText(each.substr(0, 900), value)) {
+                kept.Parse(each);
+            }
+        }
+        EXPECT_TRUE(SameFields(kept, Record(text))) << "what cannot be read changes nothing";
+    });
+}
+
+TEST(JsonRecordTest, TakesOfDuplicateKeysTheLastAndOfNumbersWhatFits)
+{
+    struct Case
+    {
+        const char* members;
+        std::vector<int> read;
+    };
+    const std::vector<Case> cases{
+        {R"("partitionNum": 1, "partitionNum": 2, "localZoneNum": 3)", {2, 3, 0}},
+        {R"("partitionNum": 1, "localZoneNum": 2147483648, "extendZoneNum": 3)", {1, 0, 0}},
+        {R"("partitionNum": -2147483648, "localZoneNum": 1.9, "extendZoneNum": true)",
+         {-2147483647 - 1, 1, 1}},
+        {R"("partitionNum": 1, "localZoneNum": 99999999999999999999, "extendZoneNum": 3)",
+         {1, 0, 0}},
+        {R"("partitionNum": 1, "localZoneNum": "2", "extendZoneNum": 3)", {1, 0, 0}},
+        {R"("partitionNum": 1, "localZoneNum": null, "extendZoneNum": 3)", {1, 0, 3}},
+        {R"("partitionNum": 1, "localZoneNum": 1e400)", {0, 0, 0}},
+    };
+    for (const Case& each : cases) {
+        const AlarmHostTARNCapability record("{\"SecurityCPCap\": {" + std::string(each.members) +
+                                             "}}");
+        EXPECT_THAT((std::vector{record.partitionNum, record.localZoneNum, record.extendZoneNum}),
+                    testing::ElementsAreArray(each.read))
+            << each.members;
+    }
+}
+
+TEST(JsonRecordTest, RaisesAPartsFlagOnlyWhenAllOfItWasRead)
+{
+    const auto read = [](const char* zone) {
+        return AlarmHostOperateTARNCapability("{\"HostControlCap\": {\"ZoneCap\": " +
+                                              std::string(zone) + ", \"isSptOutputsCtrl\": true}}");
+    };
+    EXPECT_TRUE(read("{}").ZoneCap.present);
+    EXPECT_FALSE(read("null").ZoneCap.present);
+    const auto broken = read(R"({"isSptBypass": true, "isSptBypassBatch": "yes"})");
+    EXPECT_TRUE(broken.ZoneCap.isSptBypass);
+    EXPECT_FALSE(broken.ZoneCap.present || broken.isSptOutputsCtrl);
+}
+
+TEST(JsonRecordTest, WritesAnItemOverTheEntryItWasReadFromAndKeepsTheKindsOfValues)
+{
+    const char* text = R"({"List": [{"Zone": {"id": 1, "zoneName": 11, "own": "a"}},
+                                    {"Zone": {"id": 2.0, "zoneName": "b", "own": "b"}, "more": 1},
+                                    {"Zone": {"id": 3, "enable": 1, "own": "c"}}]})";
+    const auto written = [](const AlarmHostZoneConfig& config) {
+        return Parsed(config.Make())["List"];
+    };
+    AlarmHostZoneConfig config(text);
+    EXPECT_EQ(written(config)[0]["Zone"]["zoneName"], Json::Value(11));
+    EXPECT_EQ(written(config)[2]["Zone"]["enable"], Json::Value(1));
+    config.zones[0].zoneName = "12";
+    EXPECT_EQ(written(config)[0]["Zone"]["zoneName"], Json::Value("12"));
+
+    config.zones.erase(config.zones.begin());
+    std::swap(config.zones[0], config.zones[1]);
+    config.zones.push_back({});
+    config.zones.push_back({});
+    const Json::Value list = written(config);
+    EXPECT_EQ(list.size(), 4U);
+    EXPECT_EQ(list[0]["Zone"]["own"], Json::Value("c"));
+    EXPECT_EQ(list[1]["Zone"]["own"], Json::Value("b"));
+    EXPECT_EQ(list[1]["more"], Json::Value(1));
+    EXPECT_FALSE(list[2]["Zone"].isMember("own") || list[3]["Zone"].isMember("own"));
+
+    AlarmHostZoneConfig renumbered(text);
+    renumbered.zones[1].id = 9;
+    EXPECT_EQ(written(renumbered)[1]["Zone"]["own"], Json::Value("b"));
+}
+
+TEST(JsonRecordTest, ReadsAStatusAfterAResetUpToTheFirstMemberOfTheWrongKind)
+{
+    const std::string whole = R"({"requestURL": "/TARN", "statusCode": 4, "statusString": "s",
+                                  "subStatusCode": "word", "errorCode": -5, "errorMsg": "m"})";
+    struct Case
+    {
+        std::string text;
+        JsonStatus read;
+    };
+    const auto status = [](std::string url, int code, std::string text, std::string sub, int error,
+                           std::string message) {
+        JsonStatus made;
+        made.requestURL = std::move(url);
+        made.statusCode = code;
+        made.statusString = std::move(text);
+        made.subStatusCode = std::move(sub);
+        made.errorCode = error;
+        made.errorMsg = std::move(message);
+        return made;
+    };
+    const std::vector<Case> cases{
+        {whole, status("/TARN", 4, "s", "word", -5, "m")},
+        {R"({"statusCode": 1, "statusString": "OK"})", status("", 1, "OK", "", 0, "")},
+        {R"({"requestURL": "/u", "statusCode": "x", "errorCode": 7})",
+         status("/u", 0, "", "", 0, "")},
+        {R"({"statusCode": true, "subStatusCode": 12})", status("", 1, "", "12", 0, "")},
+        {R"({"requestURL": {}, "statusCode": 4})", {}},
+        {"", {}},
+        {"[4]", {}},
+        {"not JSON", {}},
+    };
+    for (const Case& each : cases) {
+        JsonStatus used(whole);
+        used.Parse(each.text);
+        EXPECT_TRUE(SameFields(used, each.read)) << each.text;
+        EXPECT_TRUE(SameFields(JsonStatus(each.text), each.read)) << each.text;
+        EXPECT_EQ(used.Make(), "");
+    }
+}
+
+TEST(JsonRecordTest, ListsErrorsByNumberAloneOneAnswerAfterTheOther)
+{
+    struct Case
+    {
+        const char* text;
+        std::vector<std::string> ids;
+    };
+    const std::vector<Case> cases{
+        {R"({"ErrorList": [{"id": -3, "subStatusCode": "busy"}, {}]})", {"-3", "0"}},
+        {R"({"ErrorList": [null, {"id": 2}]})", {"2"}},
+        {R"({"ErrorList": [{"id": 1}, {"id": 2, "subStatusCode": []}, {"id": 3}]})", {"1"}},
+        {R"({"ErrorList": [{"id": 1}, {"id": "two"}]})", {"1"}},
+        {R"({"ErrorList": [{"id": 1}, 5]})", {"1"}},
+        {R"({"ErrorList": {"id": 1}})", {}},
+        {R"({"ErrorList": "none"})", {}},
+        {"{}", {}},
+        {"", {}},
+    };
+    for (const Case& each : cases) {
+        JsonErrorStatusList list(std::string{each.text});
+        list.Parse(each.text);
+        std::vector<std::string> twice = each.ids;
+        twice.insert(twice.end(), each.ids.begin(), each.ids.end());
+        std::vector<std::string> ids;
+        for (const JsonErrorStatus& status : list.errorList) {
+            ids.push_back(status.id);
+            EXPECT_EQ(status.subStatusCode, "");
+        }
+        EXPECT_EQ(ids, twice) << each.text;
+    }
+    EXPECT_EQ(JsonErrorStatus().id, "");
+    EXPECT_EQ(JsonErrorStatus(Json::Value()).id, "");
+    EXPECT_THROW(JsonErrorStatus(Json::Value("text")), Json::LogicError);
+}
+
+TEST(JsonRecordTest, MakesTheBodiesThatArmAndDisarmOfTheArgument)
+{
+    OperateSubSystemsInfo info;
+    info.subSystems.resize(2);
+    info.subSystems[0].id = 4;
+    info.subSystems[0].armType = "away";
+    info.subSystems[0].devIndex = "d";
+    EXPECT_EQ(Parsed(OperateSubSystemsInfo().CreatArmJsonParser(info)), Parsed(R"({"SubSysList": [
+                  {"SubSys": {"id": 4, "armType": "away", "devIndex": "d"}},
+                  {"SubSys": {"id": 0, "armType": "", "devIndex": ""}}]})"));
+    EXPECT_EQ(
+        Parsed(OperateSubSystemsInfo().CreatDisarmAndClearAlarmJsonParser(info)),
+        Parsed(
+            R"({"SubSysList": [{"SubSys": {"id": 4, "devIndex": "d"}}, {"SubSys": {"id": 0, "devIndex": ""}}]})"));
+    EXPECT_EQ(Parsed(info.CreatArmJsonParser({})), Parsed(R"({"SubSysList": []})"));
+}
+
+TEST(JsonRecordTest, EndsQuietlyWhenMemoryRunsOutAnywhere)
+{
+    JsonRecords::ForEach([]<class Record>() {
+        const std::string text = SampleText<Record>();
+        const std::string made = Record(text).Make();
+        bool struck = true;
+        for (std::size_t ordinal = 1; struck; ++ordinal) {
+            Record record;
+            std::string body;
+            {
+                const AllocationFault fault(AllocationFault::New, ordinal);
+                record.Parse(text);
+                struck = AllocationFault::Struck();
+            }
+            const Record whole(text);
+            const AllocationFault fault(AllocationFault::New, ordinal);
+            body = whole.Make();
+            struck = struck || AllocationFault::Struck();
+            const NoAllocationFaults pause;
+            ASSERT_TRUE(body == made || (AllocationFault::Struck() && body.empty())) << body;
+        }
+    });
+}
+
+TEST(JsonRecordTest, TellsOperationsThatMemoryRanOutWhateverIsThrownForIt)
+{
+    const auto read = [](const char* what) {
+        json::WithRoot("{}", [what](const Json::Value&) { Json::throwRuntimeError(what); });
+    };
+    const char* out =
+        "in Json::Value::duplicateStringValue(): Failed to allocate string value buffer";
+    EXPECT_NO_THROW(read(out));
+    const json::OperationScope scope;
+    EXPECT_THROW(read(out), std::bad_alloc);
+    EXPECT_NO_THROW(read("Exceeded stackLimit in readValue()."));
+}
+
+}  // namespace
