@@ -6,6 +6,7 @@
 
 #include "Device/DateTime.h"
 #include "Device/JsonDocument.h"
+#include "Device/Page.h"
 
 namespace Device
 {
@@ -99,18 +100,15 @@ std::optional<SearchDemand> ReadSearchDemand(const Json::Value& description)
 Json::Value MakeSearchPage(const SearchDemand& demand, const std::vector<Json::Value>& matches,
                            const std::string& list, const std::string& item)
 {
-    const size_t first = std::min(static_cast<size_t>(demand.position), matches.size());
-    const size_t count = std::min(matches.size() - first, demand.limit);
+    const Page span = PageOf(matches.size(), static_cast<size_t>(demand.position), demand.limit);
     Json::Value page;
     page["searchID"] = demand.searchId;
     page["responseStatus"] = true;
-    page["responseStatusStrg"] = matches.empty()                  ? "NO MATCHES"
-                                 : first + count < matches.size() ? "MORE"
-                                                                  : "OK";
-    page["numOfMatches"] = static_cast<Json::UInt>(count);
+    page["responseStatusStrg"] = span.status;
+    page["numOfMatches"] = static_cast<Json::UInt>(span.count);
     page["totalMatches"] = static_cast<Json::UInt>(matches.size());
     Json::Value& entries = page[list] = Json::Value(Json::arrayValue);
-    for (size_t i = first; i < first + count; ++i) {
+    for (size_t i = span.first; i < span.first + span.count; ++i) {
         Json::Value& entry = entries.append(Json::Value());
         (item.empty() ? entry : entry[item]) = matches[i];
     }
