@@ -68,7 +68,6 @@ protected:
         info_.certificateFile = file_.c_str();
         info_.userName = "admin";
         info_.password = "secret-1";
-        info_.receiveTimeout = 1000;
     }
     ~SdkDevice() override
     {
@@ -133,7 +132,8 @@ TEST_F(SdkDevice, AnswersThatNeverEndOrEndTooSoonAreErrorsInTime)
                {.kind = FaultKind::Truncate, .pathPrefix = "/TARN/cut", .bytes = 3},
                {.kind = FaultKind::Reset, .pathPrefix = "/TARN/reset", .times = 1}}});
     const LoggedIn device(info_);
-    EXPECT_EQ(Ask(device.UserID(), "GET /TARN/drip").error, NET_ORB_NETWORK_RECV_TIMEOUT);
+    EXPECT_EQ(Ask(device.UserID(), "GET /TARN/drip", "", {.receiveTimeout = 1000}).error,
+              NET_ORB_NETWORK_RECV_TIMEOUT);
     EXPECT_EQ(Ask(device.UserID(), "GET /TARN/cut").error, NET_ORB_NETWORK_RECV_ERROR);
     EXPECT_EQ(Ask(device.UserID(), "PUT /TARN/reset", "<a/>").error, NET_ORB_NETWORK_RECV_ERROR);
     EXPECT_EQ(Ask(device.UserID(), "GET /TARN/after").answer, "GET /TARN/after ")

@@ -16,6 +16,7 @@ using Keel::details::LogLevel;
 using Write = void (CLog::*)(const std::string&, const std::string&,
                              const log4cxx::spi::LocationInfo&);
 
+KEEL_PRINTF(3, 0)
 void Line(Write write, const Place& place, const char* format, va_list arguments)
 {
     (Keel::CSingleton<CLog>::Instance().*write)(
