@@ -14,6 +14,8 @@ namespace
 {
 
 constexpr size_t kMaxLogEntries = 10000;
+// An event repeats what the client wrote: it must not fill the log.
+constexpr size_t kMaxEvent = 64;
 constexpr const char* kDisarmed = "disarm";
 // A siren or output is "open" while it sounds or is switched on.
 constexpr const char* kOn = "open";
@@ -226,7 +228,7 @@ Verdict AlarmHostState::Switch(const EquipmentNames& names, int id, const std::s
         found->status["switch"] = position;
         return {};
     };
-    return Log("operation", position.substr(0, 16), Numbered(what, id), decide());
+    return Log("operation", position, Numbered(what, id), decide());
 }
 
 Verdict AlarmHostState::CommandDetector(int detector, const std::string& command)
@@ -253,7 +255,7 @@ Verdict AlarmHostState::CommandDetector(int detector, const std::string& command
         }
         return {};
     };
-    return Log("operation", command.substr(0, 16), Numbered("detector", detector), decide());
+    return Log("operation", command, Numbered("detector", detector), decide());
 }
 
 Verdict AlarmHostState::CommandDetector(int channel, int detectorOfChannel,
@@ -265,7 +267,7 @@ Verdict AlarmHostState::CommandDetector(int channel, int detectorOfChannel,
             return CommandDetector(id, command);
         }
     }
-    return Log("operation", command.substr(0, 16), Numbered("channel", channel),
+    return Log("operation", command, Numbered("channel", channel),
                Missing("such detector at channel", channel));
 }
 
@@ -327,7 +329,7 @@ Verdict AlarmHostState::Log(const char* type, const std::string& event, const st
     entry.descriptor["index"] = nextEntry_++;
     entry.descriptor["time"] = WriteDateTime(entry.time);
     entry.descriptor["type"] = type;
-    entry.descriptor["event"] = event;
+    entry.descriptor["event"] = event.substr(0, kMaxEvent);
     entry.descriptor["object"] = object;
     entry.descriptor["result"] = verdict.outcome->subStatusCode;
     log_.push_back(std::move(entry));

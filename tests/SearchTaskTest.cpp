@@ -241,7 +241,7 @@ TEST(SearchTask, TheLibraryDownloadsPackagesOfEverySizeUpToItsLimit)
     unsigned error = 0;
     for (const auto& [task, size] : {std::pair<const char*, size_t>{"pkg-1K", 1024},
                                      {"14", 50u << 20},
-                                     {"pkg-256M", 256u << 20}}) {
+                                     {"pkg-64M", 64u << 20}}) {
         tagNET_ORB_XML_CONFIG_OUTPUT out{};
         const bool ok = JsonConfigApp::GetHFPDDataPackage(out, task, error, recorder);
         const std::string text = Download(ok, out);
@@ -368,10 +368,11 @@ TEST(SearchTask, NoRequestStopsADevice)
                                               "[[[[",
                                               "<a>",
                                               "{"};
+    const std::vector devices = {LoadDevice("alarmhost"), LoadDevice("recorder")};
     std::vector<std::thread> threads;
     for (unsigned seed = 0; seed < 4; ++seed) {
         threads.emplace_back([&, seed] {
-            const auto device = LoadDevice(seed % 2 == 0 ? "alarmhost" : "recorder");
+            const auto& device = devices[seed % devices.size()];
             std::mt19937 random(seed);
             constexpr const char* kMethods[] = {"GET", "PUT", "POST", "DELETE"};
             for (int i = 0; i < 300; ++i) {
