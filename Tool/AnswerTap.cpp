@@ -3,6 +3,7 @@
 #include "AnswerTap.h"
 
 #include <algorithm>
+#include <array>
 
 #include "PelNetSDK/PelNetSDK.h"
 
@@ -36,7 +37,17 @@ AnswerTap::~AnswerTap()
 
 void AnswerTap::Hear(const char* buffer, std::size_t size)
 {
+    // No document is that large; a package is, and needs no copy.
+    constexpr std::size_t kLargestDocument = 64u << 20;
+    if (size > kLargestDocument) {
+        return;
+    }
     documents_.emplace_back(buffer, std::find(buffer, buffer + size, '\0'));
+}
+
+void AnswerTap::HearRefusal(const char* buffer, std::size_t size)
+{
+    refusal_.assign(buffer, std::find(buffer, buffer + size, '\0'));
 }
 
 }  // namespace Tool
@@ -76,7 +87,21 @@ int __wrap_NET_ORB_GetSTDAbility(int userID, unsigned int abilityCode,
 int __wrap_NET_ORB_STDXMLConfig(int userID, tagNET_ORB_XML_CONFIG_INPUT* input,
                                 tagNET_ORB_XML_CONFIG_OUTPUT* output)
 {
-    const int result = __real_NET_ORB_STDXMLConfig(userID, input, output);
+    if (Tool::openTap == nullptr) {
+        return __real_NET_ORB_STDXMLConfig(userID, input, output);
+    }
+    // Most operations want no status document, but a person wants to know why.
+    std::array<char, 16384> own{};
+    tagNET_ORB_XML_CONFIG_OUTPUT heard = *output;
+    if (heard.statusBuffer == nullptr) {
+        heard.statusBuffer = own.data();
+        heard.statusSize = own.size();
+    }
+    const int result = __real_NET_ORB_STDXMLConfig(userID, input, &heard);
+    output->returnedSize = heard.returnedSize;
+    if (result == 0) {
+        Tool::openTap->HearRefusal(static_cast<const char*>(heard.statusBuffer), heard.statusSize);
+    }
     return Tool::Heard(result, output->outBuffer, output->outBufferSize);
 }
 // NOLINTEND(bugprone-reserved-identifier)

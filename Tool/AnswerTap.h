@@ -8,9 +8,10 @@
 namespace Tool
 {
 
-/// Remembers the documents that reach the calling thread through the SDK's calls while the tap is
-/// open. The program is linked so that those calls pass by here (--wrap), whichever SDK stands
-/// behind them, and the library need not hand its documents out.
+/// Remembers the documents, and the status document of a refusal, that reach the calling thread
+/// through the SDK's calls while the tap is open. The program is linked so that those calls pass by
+/// here (--wrap), whichever SDK stands behind them, and the library need not hand its documents
+/// out.
 class AnswerTap
 {
 public:
@@ -23,10 +24,16 @@ public:
     /// own.
     [[nodiscard]] const std::vector<std::string>& Documents() const { return documents_; }
 
+    /// What the device sent with its last refusal since the tap was opened; empty when it sent
+    /// nothing.
+    [[nodiscard]] const std::string& Refusal() const { return refusal_; }
+
     void Hear(const char* buffer, std::size_t size);
+    void HearRefusal(const char* buffer, std::size_t size);
 
 private:
     std::vector<std::string> documents_;
+    std::string refusal_;
 };
 
 }  // namespace Tool

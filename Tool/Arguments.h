@@ -54,6 +54,10 @@ void AddJsonFlag(CLI::App& command, bool& json);
 void AddShowCommands(CLI::App& app, CommandLine& line);
 void AddCallCommand(CLI::App& app, CommandLine& line);
 void AddParseCommand(CLI::App& app, CommandLine& line);
+void AddPtzCommands(CLI::App& app, CommandLine& line);
+void AddSwitchCommands(CLI::App& app, CommandLine& line);
+void AddSearchCommands(CLI::App& app, CommandLine& line);
+void AddAlarmCommands(CLI::App& app, CommandLine& line);
 void AddDeviceCommands(CLI::App& app, CommandLine& line);
 void AddMacCommand(CLI::App& app, CommandLine& line);
 

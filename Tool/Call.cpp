@@ -12,6 +12,7 @@
 #include "JsonOutput.h"
 #include "PelNetSDK/Login.h"
 #include "Progress.h"
+#include "Refusal.h"
 #include "Text.h"
 
 namespace Tool
@@ -35,8 +36,6 @@ struct Reply
     SdkFailure failure;
     std::string body;  ///< of a refusal its status document, or whatever came in its place
 };
-
-using Status = std::vector<std::pair<std::string, std::string>>;
 
 /// Not filled: a large answer need not be written over with zeros first.
 struct Buffer
@@ -92,18 +91,6 @@ Json::Value BodyToJson(const std::string& body)
     return body;
 }
 
-Json::Value StatusToJson(const Status& status)
-{
-    Json::Value value(Json::objectValue);
-    for (const auto& [name, text] : status) {
-        const bool number = name == "statusCode" || name == "errorCode";
-        Json::Value read;
-        value[name] =
-            number && ReadJson(text, read) && read.isIntegral() ? read : Json::Value(text);
-    }
-    return value;
-}
-
 Json::Value ReplyToJson(const CallOptions& options, const std::string& device, const Reply& reply)
 {
     Json::Value value(Json::objectValue);
@@ -116,26 +103,9 @@ Json::Value ReplyToJson(const CallOptions& options, const std::string& device, c
         value["bodyBase64"] = ToBase64(reply.body);
     }
     if (!reply.answered) {
-        std::string text = reply.failure.text;
-        text += reply.failure.detail.empty() ? "" : " (" + reply.failure.detail + ")";
-        value["error"] = ErrorToJson(reply.failure.error, text);
-        value["status"] = StatusToJson(ReadStatus(reply.body));
+        AddToJson(value, {reply.failure, reply.body});
     }
     return value;
-}
-
-std::string RefusalSentence(const CallOptions& options, const std::string& device, Reply reply)
-{
-    std::string status;
-    for (const auto& [name, text] : ReadStatus(reply.body)) {
-        status += (status.empty() ? "; the device says: " : ", ") + name + " " + text;
-    }
-    if (!status.empty()) {
-        // The detail is that document's code once more.
-        reply.failure.detail.clear();
-    }
-    return options.request + " at " + device + ": " + Told(reply.failure) + status +
-           Hint(reply.failure.error);
 }
 
 int Call(const CallOptions& options, const CommonOptions& /*common*/)
@@ -153,7 +123,8 @@ int Call(const CallOptions& options, const CommonOptions& /*common*/)
     } else if (reply.answered) {
         PrintDocument(options.raw ? reply.body : Pretty(reply.body));
     } else {
-        Complain(RefusalSentence(options, session.Device(), reply));
+        Complain(options.request + " at " + session.Device() + ": " +
+                 Told(Refusal{reply.failure, reply.body}));
     }
     return reply.answered ? kAnswered : kFailed;
 }

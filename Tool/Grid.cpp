@@ -68,11 +68,24 @@ bool Grid::IsNumeric(std::size_t column) const
            std::ranges::any_of(rows_, [column](const auto& row) { return row[column].isNumber; });
 }
 
-std::size_t Grid::NaturalWidth() const
+bool Grid::Fit(std::size_t width)
 {
+    // Narrower than that a text is no pleasure to read.
+    constexpr std::size_t kReadable = 24;
     const std::vector<std::size_t> widths = Widths();
-    return std::accumulate(widths.begin(), widths.end(), std::size_t{0}) +
-           kGap * (widths.size() - 1);
+    const std::size_t natural =
+        std::accumulate(widths.begin(), widths.end(), std::size_t{0}) + kGap * (widths.size() - 1);
+    if (natural <= width) {
+        return true;
+    }
+    const auto widest = std::ranges::max_element(widths) - widths.begin();
+    const auto moveToEnd = [widest](auto& row) {
+        std::rotate(row.begin() + widest, row.begin() + widest + 1, row.end());
+    };
+    moveToEnd(head_);
+    std::ranges::for_each(rows_, moveToEnd);
+    const std::size_t most = widths[static_cast<std::size_t>(widest)];
+    return natural - most + std::min(most, kReadable) <= width;
 }
 
 std::string Grid::Render(std::size_t indent, std::size_t width, const Paint& paint) const

@@ -21,8 +21,9 @@ public:
 
     void Add(std::vector<Cell> row) { rows_.push_back(std::move(row)); }
 
-    /// Columns that it takes when nothing wraps.
-    [[nodiscard]] std::size_t NaturalWidth() const;
+    /// Whether it fits into so many columns, the last one wrapped. When it would not fit otherwise,
+    /// the widest column is moved to the end.
+    bool Fit(std::size_t width);
 
     [[nodiscard]] std::string Render(std::size_t indent, std::size_t width,
                                      const Paint& paint) const;

@@ -86,11 +86,7 @@ Json::Value ToJson(const Finding& finding, const std::string& device, bool expla
     value["answered"] = answered;
     value["values"] = answered ? ToJson(finding.reading.values) : Json::Value();
     if (!answered) {
-        std::string text = finding.failure.text;
-        if (!finding.failure.detail.empty()) {
-            text += " (" + finding.failure.detail + ")";
-        }
-        value["error"] = ErrorToJson(finding.failure.error, text);
+        value["error"] = ErrorToJson(finding.failure);
     }
     if (explain) {
         value["untaken"] = ToJson(finding.reading.untaken);

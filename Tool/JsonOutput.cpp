@@ -144,11 +144,12 @@ Json::Value ToJson(const RecordNode& node)
     return Json::nullValue;
 }
 
-Json::Value ErrorToJson(unsigned int number, const std::string& text)
+Json::Value ErrorToJson(const SdkFailure& failure)
 {
     Json::Value error(Json::objectValue);
-    error["number"] = number;
-    error["text"] = text;
+    error["number"] = failure.error;
+    error["text"] =
+        failure.text + (failure.detail.empty() ? std::string() : " (" + failure.detail + ")");
     return error;
 }
 

@@ -7,6 +7,7 @@
 #include <json/value.h>
 
 #include "CapabilitySet/RecordTree.h"
+#include "Failure.h"
 
 namespace Tool
 {
@@ -16,7 +17,7 @@ namespace Tool
 Json::Value ToJson(const CapabilitySet::RecordNode& node);
 
 /// {"number": 23, "text": "..."}.
-Json::Value ErrorToJson(unsigned int number, const std::string& text);
+Json::Value ErrorToJson(const SdkFailure& failure);
 
 /// What a text of JSON may hold beside ASCII.
 enum class JsonText

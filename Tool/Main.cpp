@@ -29,6 +29,10 @@ void Describe(CLI::App& app, CommandLine& line)
     AddShowCommands(app, line);
     AddCallCommand(app, line);
     AddParseCommand(app, line);
+    AddPtzCommands(app, line);
+    AddSwitchCommands(app, line);
+    AddSearchCommands(app, line);
+    AddAlarmCommands(app, line);
     AddDeviceCommands(app, line);
     AddMacCommand(app, line);
     app.set_help_all_flag("--help-all", "the help of all subcommands");

@@ -30,6 +30,12 @@ Progress::~Progress()
     }
 }
 
+void Progress::Say(const std::string& what)
+{
+    const std::lock_guard lock(mutex_);
+    what_ = Harmless(what);
+}
+
 void Progress::Run()
 {
     using namespace std::chrono_literals;

@@ -21,10 +21,13 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
+    /// What goes on from now on.
+    void Say(const std::string& what);
+
 private:
     void Run();
 
-    const std::string what_;
+    std::string what_;
     const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     std::mutex mutex_;
     std::condition_variable ended_;

@@ -14,7 +14,7 @@ std::span<const RecordEntry> AllRecords()
 {
     static const std::vector<RecordEntry> records = [] {
         std::vector<RecordEntry> all;
-        for (auto&& rows : {AbilityRows()}) {
+        for (auto&& rows : {AbilityRows(), SettingRows(), JsonRows()}) {
             all.insert(all.end(), rows.begin(), rows.end());
         }
         return all;

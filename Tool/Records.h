@@ -45,6 +45,8 @@ const RecordEntry* FindRecord(std::string_view name);
 
 // Each file of rows has one of these; AllRecords puts them together.
 std::vector<RecordEntry> AbilityRows();
+std::vector<RecordEntry> SettingRows();
+std::vector<RecordEntry> JsonRows();
 
 /// Options of the picks, without the arguments that nobody chooses.
 template <class... Picks>

@@ -145,8 +145,8 @@ private:
             Line(name, {joined}, indent);
             return;
         }
-        if (const std::optional<Grid> grid = AsGrid(items);
-            grid && indent + kIndent + grid->NaturalWidth() <= width_) {
+        const std::size_t inner = std::min(indent + kIndent, width_);
+        if (std::optional<Grid> grid = AsGrid(items); grid && grid->Fit(width_ - inner)) {
             const std::string count = std::to_string(items.size());
             Heading(name, count + (items.size() == 1 ? " entry" : " entries"), indent);
             out_ += grid->Render(indent + kIndent, width_, paint_);

@@ -116,14 +116,37 @@ Cell TextCell(const std::string& text)
     return {Harmless(text), Style::Plain, digits};
 }
 
+/// The options of an element: a text with commas, or a list.
+std::string OptionsOf(const RecordNode& element)
+{
+    const RecordNode* const options = Child(element, "@opt");
+    std::string text = options == nullptr ? std::string() : Spaced(Harmless(options->text));
+    if (options != nullptr) {
+        for (const RecordNode& each : options->children) {
+            Append(text, Harmless(each.text), ", ");
+        }
+    }
+    return text;
+}
+
+/// Limits that a record holds whether or not the device gave them: zeros then.
+bool AreFilledIn(const RecordNode& element)
+{
+    return std::ranges::all_of(element.children, [](const RecordNode& each) {
+        return each.kind == Kind::List || each.text == "0";
+    });
+}
+
 /// An element that holds attributes and text, and no elements.
 Cell ElementCell(const RecordNode& element)
 {
     std::string text = element.text.empty() ? std::string() : TextCell(element.text).text;
-    Append(text, Bounds(TextOf(Child(element, "@min")), TextOf(Child(element, "@max"))), ", ");
-    if (const RecordNode* options = Child(element, "@opt")) {
-        Append(text, Spaced(Harmless(options->text)), ": ");
+    const std::string options = OptionsOf(element);
+    if (AreFilledIn(element)) {
+        return options.empty() ? Cell{"(empty)", Style::Faint} : Cell{options};
     }
+    Append(text, Bounds(TextOf(Child(element, "@min")), TextOf(Child(element, "@max"))), ", ");
+    Append(text, options, ": ");
     const std::string unit = TextOf(Child(element, "@unit"));
     const bool isFactor = !unit.empty() && unit.front() >= '0' && unit.front() <= '9';
     Append(text, unit, isFactor ? " x " : " ");

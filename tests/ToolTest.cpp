@@ -7,6 +7,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -113,7 +114,30 @@ INSTANTIATE_TEST_SUITE_P(
         Line{{"call", "sim:dome", "GET /TARN/System/time"}, 0, "<Time", ""},
         Line{{"call", "sim:dome", "GET /TARN/none"}, 1, "", "subStatusCode notSupport"},
         Line{{"call", "sim:dome", "GET /TARN/none?format=json"}, 1, "", "errorCode 4194305"},
-        Line{{"parse", "PTZAbility", "/none"}, 1, "", "cannot read /none: No such file"}));
+        Line{{"parse", "PTZAbility", "/none"}, 1, "", "cannot read /none: No such file"},
+        Line{{"ptz", "presets", "sim:dome"}, 0, "North gate", ""},
+        Line{{"ptz", "presets", "sim:dome", "--channel", "9"}, 1, "", "choose one with --channel"},
+        Line{{"ptz", "track", "sim:dome", "--on", "--off"}, 2, "", "--on"},
+        Line{{"ptz", "patrols", "sim:alarmhost"}, 1, "", "subStatusCode notSupport"},
+        Line{{"ptz"}, 2, "", "subcommand"},
+        Line{{"switch", "set", "sim:switch", "rates", "3.uplinkRate=10240"}, 0, "10240", ""},
+        Line{{"switch", "set", "sim:switch", "wireless", "wirelesssecurity.wpa.sharedkey=a b c d"},
+             0,
+             "a b c d",
+             ""},
+        Line{{"switch", "set", "sim:switch", "rates", "99.uplinkRate=1"}, 2, "", "1 to 24"},
+        Line{{"switch", "set", "sim:switch", "info", "portNum=x"}, 2, "", "does not say a number"},
+        Line{{"switch", "set", "sim:switch", "region", "colour=red"}, 2, "", "countryID"},
+        Line{{"switch", "set", "sim:switch", "wireless", "channel=999"}, 1, "", "badParameters"},
+        Line{{"search", "content", "sim:recorder", "--from", "yesterday"}, 2, "", "is no time"},
+        Line{{"search", "content", "sim:dome"}, 1, "", "error 23"},
+        Line{{"alarm", "arm", "sim:alarmhost", "--subsystem", "1"}, 2, "", "--way"},
+        Line{{"alarm", "arm", "sim:alarmhost", "--subsystem", "1", "--way", "away"}, 0, "yes", ""},
+        Line{
+            {"alarm", "arm", "sim:alarmhost", "--subsystem", "1", "--way", "x"}, 1, "", "error 29"},
+        Line{{"alarm", "disarm", "sim:alarmhost", "--subsystem", "1,99"}, 1, "did not follow", ""},
+        Line{{"alarm", "bypass", "sim:alarmhost", "--zone", "900"}, 1, "", "no zone 900"},
+        Line{{"alarm", "status", "sim:alarmhost", "zones"}, 0, "zones  64 entries", ""}));
 
 TEST(Tool, AnAddressWithAPasswordIsRefusedAndNeverRepeated)
 {
@@ -333,6 +357,56 @@ TEST(Tool, HostileDevicesNeitherCrashItNorReachTheTerminal)
             }
         }
     }
+}
+
+TEST(Tool, ADownloadThatIsInterruptedOrFailsLeavesNoFile)
+{
+    using namespace std::chrono_literals;
+    const std::filesystem::path folder = testing::TempDir() + "capset-download";
+    std::filesystem::create_directory(folder);
+    const std::string file = folder / "faces.bin";
+    const Served slow(
+        {{.kind = Device::FaultKind::Delay, .pathPrefix = "/TARN/SDT/Face", .interval = 20000ms}});
+    ToolProcess download({"search", "captures", slow.Address(), "--download", file}, kPassword);
+    for (int i = 0; i < 1000 && std::filesystem::is_empty(folder); ++i) {
+        std::this_thread::sleep_for(10ms);
+    }
+    EXPECT_FALSE(std::filesystem::is_empty(folder));
+    download.Signal(SIGINT);
+    EXPECT_EQ(download.Wait().exitCode, 128 + SIGINT);
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+
+    EXPECT_EQ(RunTool({"search", "captures", "sim:switch", "--download", file}).exitCode, 1);
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+    std::filesystem::remove_all(folder);
+    EXPECT_THAT(RunTool({"search", "captures", "sim:dome", "--download", file}).err,
+                HasSubstr("No such file"));
+}
+
+TEST(Tool, PagesOfASearchAddUpToItsTotal)
+{
+    std::vector<std::string> search{"search", "content", "sim:recorder", "--track",
+                                    "101",    "--json",  "--max"};
+    search.emplace_back("7");
+    const Json::Value small = AsJson(RunTool(search).out)["values"]["matches"];
+    search.back() = "1000";
+    const Json::Value large = AsJson(RunTool(search).out)["values"]["matches"];
+    EXPECT_GT(small.size(), 14u);
+    EXPECT_EQ(small, large);
+    search.insert(search.end(), {"--limit", "10"});
+    EXPECT_EQ(AsJson(RunTool(search).out)["values"]["matches"].size(), 10u);
+}
+
+TEST(Tool, ARefusalIsJsonForAProgram)
+{
+    const ToolResult refused =
+        RunTool({"alarm", "arm", "sim:alarmhost", "--subsystem", "77", "--way", "away", "--json"});
+    EXPECT_EQ(refused.exitCode, 1);
+    const Json::Value value = AsJson(refused.out);
+    EXPECT_FALSE(value["answered"].asBool());
+    EXPECT_TRUE(value["values"].isNull());
+    EXPECT_EQ(value["error"]["number"].asInt(), 29);
+    EXPECT_EQ(value["status"]["subStatusCode"].asString(), "invalidID");
 }
 
 /// A command of a document and the output that the document shows; "..." ends what is shown.

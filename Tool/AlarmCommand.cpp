@@ -1,0 +1,320 @@
+// capset alarm: what an alarm host is doing, and commands to it.
+// SPDX-License-Identifier: Apache-2.0
+#include <memory>
+
+#include "AlarmItems.h"
+#include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
+#include "DeviceCommand.h"
+#include "JsonRecord.h"
+#include "Paging.h"
+#include "Text.h"
+
+namespace Tool
+{
+
+using namespace CapabilitySet;
+
+namespace
+{
+
+// --- reading ---
+
+using Part = std::function<RecordNode(Talk&, const char* name)>;
+
+/// A part that one of the library's operations reads.
+template <class Record>
+Part Read(bool (*get)(Record&, unsigned int&, const int))
+{
+    return [get](Talk& talk, const char* name) {
+        Record record;
+        talk.Do([&](unsigned int& error) { return get(record, error, talk.UserID()); });
+        return DescribeJson(name, record);
+    };
+}
+
+/// A part that the library only parses.
+template <class Record>
+Part Fetch(const char* path)
+{
+    return [path](Talk& talk, const char* name) {
+        return DescribeJson(name, Record(talk.Send(std::string("GET ") + path + "?format=json")));
+    };
+}
+
+struct NamedPart
+{
+    const char* name;
+    Part read;
+};
+
+const std::vector<NamedPart>& StatusParts()
+{
+    static const std::vector<NamedPart> all{
+        {"communication", Read(&JsonConfigApp::GetAlarmHostCommuniStatus)},
+        {"subsystems", Fetch<AlarmHostSubSystemsInfo>("/TARN/SecurityCP/status/subSystems")},
+        {"zones", Fetch<AlarmHostZonesInfo>("/TARN/SecurityCP/status/zones")},
+        {"outputs", Fetch<AlarmHostOutputsModulesInfo>("/TARN/SecurityCP/status/outputs")},
+        {"sirens", Fetch<AlarmHostSirensInfo>("/TARN/SecurityCP/status/sirens")},
+        {"detectors", Read(&JsonConfigApp::GetDetectorStates)},
+    };
+    return all;
+}
+
+const std::vector<NamedPart>& ConfigurationParts()
+{
+    static const std::vector<NamedPart> all{
+        {"subsystems", Read(&JsonConfigApp::GetSubSystemConfig)},
+        {"zones", Read(&JsonConfigApp::GetAlarmHostZoneConfiguration)},
+        {"outputs", Read(&JsonConfigApp::GetTriggerConfig)},
+    };
+    return all;
+}
+
+/// A host's list stands below "List", each item wrapped in an object of its own: for people the
+/// rows alone.
+RecordNode Rows(const RecordNode& part)
+{
+    RecordNode rows = part;
+    rows.children.clear();
+    for (const RecordNode& member : part.children) {
+        if (member.kind == RecordNode::Kind::List) {
+            rows.kind = RecordNode::Kind::List;
+            rows.children.clear();
+            std::ranges::transform(member.children, std::back_inserter(rows.children), Flattened);
+            return rows;
+        }
+        rows.children.push_back(member);
+    }
+    return rows;
+}
+
+void AddPartsCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+                     const std::string& title, const std::vector<NamedPart>& parts)
+{
+    const auto wanted = std::make_shared<std::vector<std::string>>();
+    CLI::App& command = AddDeviceCommand(group, line, text, [&parts, wanted, title](Talk& talk) {
+        Report report{{title, RecordNode::Kind::Record, {}, true, {}}};
+        report.shown = report.values;
+        for (const NamedPart& part : parts) {
+            if (wanted->empty() || std::ranges::count(*wanted, part.name) > 0) {
+                talk.Say(part.name);
+                report.values.children.push_back(part.read(talk, part.name));
+                report.shown->children.push_back(Rows(report.values.children.back()));
+            }
+        }
+        return report;
+    });
+    std::vector<std::string> names;
+    for (const NamedPart& part : parts) {
+        names.emplace_back(part.name);
+    }
+    command.add_option("part", *wanted, "all by default, or some of " + Joined(names))
+        ->check(CLI::IsMember(names).description(""))
+        ->type_name("");
+}
+
+struct LogOptions
+{
+    TimeOptions time;
+    PageOptions page;
+};
+
+void AddLogCommand(CLI::App& group, CommandLine& line)
+{
+    const auto options = std::make_shared<LogOptions>();
+    CLI::App& command = AddDeviceCommand(
+        group, line, {"log", "Read the log", "sim:alarmhost --limit 20"}, [options](Talk& talk) {
+            AlarmHostLogConditionDescription condition;
+            condition.startTime = StartTime(options->time, "");
+            condition.endTime = EndTime(options->time, "");
+            return FetchPages(talk, options->page, "Log", [&](const PageRequest& request) {
+                condition.searchID = request.searchID;
+                condition.searchResultPosition = request.position;
+                condition.maxResults = request.count;
+                AlarmHostDeviceLogResult result;
+                talk.Do([&](unsigned int& error) {
+                    return JsonConfigApp::GetAlarmHostDeviceLog(condition, result, error,
+                                                                talk.UserID());
+                });
+                return ReadPage(DescribeJson("Log", result));
+            });
+        });
+    AddTimeOptions(command, options->time);
+    AddPageOptions(command, options->page);
+}
+
+// --- commands ---
+
+struct ItemOptions
+{
+    std::vector<int> ids;
+    std::string way;
+    bool on = false;
+    bool off = false;
+    int sensor = -1;
+    std::string command;
+};
+using Options = std::shared_ptr<ItemOptions>;
+
+void AddItems(CLI::App& command, ItemOptions& options, const std::string& noun)
+{
+    command.add_option("--" + noun, options.ids, "number of the " + noun + ", or several: 1,2,5")
+        ->required()
+        ->delimiter(',')
+        ->type_name("N,...")
+        ->group("Command");
+}
+
+/// Commands to subsystems: `one` is the operation for a single one, `path` that of the batch.
+template <class One>
+void AddSubSystemCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+                         const Options& options, One one)
+{
+    const std::string path = std::string("/TARN/SecurityCP/control/") + text.name;
+    CLI::App& command = AddDeviceCommand(group, line, text, [options, one, path](Talk& talk) {
+        OperateSubSystemsInfo info;
+        for (const int id : options->ids) {
+            info.subSystems.emplace_back().id = id;
+            info.subSystems.back().armType = options->way;
+        }
+        return CommandItems(
+            talk, "subsystem", options->ids,
+            [&](int id) {
+                JsonStatus status;
+                talk.Do([&](unsigned int& error) { return one(status, id, error, talk.UserID()); });
+            },
+            [&] {
+                talk.Send("POST " + path + "?format=json",
+                          options->way.empty() ? info.CreatDisarmAndClearAlarmJsonParser(info)
+                                               : info.CreatArmJsonParser(info));
+            });
+    });
+    AddItems(command, *options, "subsystem");
+}
+
+void AddSubSystemCommands(CLI::App& group, CommandLine& line)
+{
+    const auto arming = std::make_shared<ItemOptions>();
+    AddSubSystemCommand(
+        group, line, {"arm", "Arm subsystems", "sim:alarmhost --subsystem 1 --way away"}, arming,
+        [arming](JsonStatus& status, int id, unsigned int& error, int userID) {
+            return JsonConfigApp::SetDevArming(status, arming->way, id, error, userID);
+        });
+    group.get_subcommand("arm")
+        ->add_option("--way", arming->way, "away, stay or another way of the host's")
+        ->required()
+        ->type_name("WAY")
+        ->group("Command");
+    AddSubSystemCommand(group, line,
+                        {"disarm", "Disarm subsystems", "sim:alarmhost --subsystem 1,2"},
+                        std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevDisArm);
+    AddSubSystemCommand(group, line,
+                        {"clearAlarm", "Clear subsystems' alarms", "sim:alarmhost --subsystem 1"},
+                        std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevClearAlarm);
+    group.get_subcommand("clearAlarm")->alias("clear");
+}
+
+using ZoneOperation = bool (*)(const AlarmHostBypassCfg&, JsonStatus&, unsigned int&, const int,
+                               const int);
+
+void AddZoneCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+                    ZoneOperation operation)
+{
+    const auto options = std::make_shared<ItemOptions>();
+    CLI::App& command = AddDeviceCommand(group, line, text, [options, operation](Talk& talk) {
+        constexpr int kBatch = -1;
+        const auto send = [&](int zone) {
+            AlarmHostBypassCfg cfg;
+            cfg.zone = JoinedNumbers(options->ids);
+            JsonStatus status;
+            talk.Do([&](unsigned int& error) {
+                return operation(cfg, status, error, zone, talk.UserID());
+            });
+        };
+        return CommandItems(talk, "zone", options->ids, send, [&] { send(kBatch); });
+    });
+    AddItems(command, *options, "zone");
+}
+
+void AddOutputCommand(CLI::App& group, CommandLine& line)
+{
+    const auto options = std::make_shared<ItemOptions>();
+    CLI::App& command = AddDeviceCommand(
+        group, line, {"output", "Switch outputs", "sim:alarmhost --output 1,2 --on"},
+        [options](Talk& talk) {
+            if (options->on == options->off) {
+                throw Failure("say --on or --off", kUsage);
+            }
+            constexpr int kBatch = -1;
+            const auto send = [&](int output) {
+                AlarmHostOutputCfg cfg;
+                cfg.switchState = options->on ? "open" : "close";
+                cfg.ids = options->ids;
+                JsonErrorStatusList errors;
+                talk.Do([&](unsigned int& error) {
+                    return JsonConfigApp::SetOutputControl(cfg, error, errors, output,
+                                                           talk.UserID());
+                });
+            };
+            return CommandItems(talk, "output", options->ids, send, [&] { send(kBatch); });
+        });
+    AddItems(command, *options, "output");
+    CLI::Option* const on = command.add_flag("--on", options->on, "switch on")->group("Command");
+    command.add_flag("--off", options->off, "switch off")->group("Command")->excludes(on);
+}
+
+void AddDetectorCommand(CLI::App& group, CommandLine& line)
+{
+    const auto options = std::make_shared<ItemOptions>();
+    options->command = "silence";
+    CLI::App& command = AddDeviceCommand(
+        group, line, {"silence", "Silence fire detectors", "sim:alarmhost --detector 1"},
+        [options](Talk& talk) {
+            DetectorSilence silence;
+            silence.cmd = options->command;
+            const auto send = [&](int detector) {
+                JsonStatus status;
+                talk.Do([&](unsigned int& error) {
+                    return JsonConfigApp::SetDetectorSilence(status, silence, error, detector,
+                                                             options->sensor, talk.UserID());
+                });
+                talk.Check(status);
+            };
+            // The protocol has no batch of them.
+            return CommandItems(talk, "detector", options->ids, send,
+                                [&] { std::ranges::for_each(options->ids, send); });
+        });
+    AddItems(command, *options, "detector");
+    command.add_option("--sensor", options->sensor, "one of the detectors at it")
+        ->type_name("N")
+        ->group("Command");
+    command
+        .add_option("--command", options->command,
+                    "silence by default, or another command that "
+                    "the host's capability lists")
+        ->type_name("WORD")
+        ->group("Command");
+}
+
+}  // namespace
+
+void AddAlarmCommands(CLI::App& app, CommandLine& line)
+{
+    CLI::App& group = AddCommandGroup(app, "alarm", "Alarm hosts: state, arming, zones, outputs",
+                                      "alarm arm sim:alarmhost --subsystem 1 --way away");
+    AddPartsCommand(group, line, {"status", "Tell what the host is doing", "sim:alarmhost zones"},
+                    "AlarmHostStatus", StatusParts());
+    AddPartsCommand(group, line, {"config", "Tell how the host is set up", "sim:alarmhost outputs"},
+                    "AlarmHostConfiguration", ConfigurationParts());
+    AddLogCommand(group, line);
+    AddSubSystemCommands(group, line);
+    AddZoneCommand(group, line, {"bypass", "Bypass zones", "sim:alarmhost --zone 3"},
+                   &JsonConfigApp::SetDevBypass);
+    AddZoneCommand(group, line,
+                   {"recover", "Take zones back from bypass", "sim:alarmhost --zone 3"},
+                   &JsonConfigApp::SetDevBypassRecover);
+    AddOutputCommand(group, line);
+    AddDetectorCommand(group, line);
+}
+
+}  // namespace Tool

@@ -1,0 +1,44 @@
+// A device that refused a request, with the status document it sent.
+// SPDX-License-Identifier: Apache-2.0
+#include "Refusal.h"
+
+#include <utility>
+
+#include "Document.h"
+#include "JsonOutput.h"
+
+namespace Tool
+{
+
+std::string Told(const Refusal& refusal)
+{
+    std::string status;
+    for (const auto& [name, text] : ReadStatus(refusal.document)) {
+        status += (status.empty() ? "; the device says: " : ", ") + name + " " + text;
+    }
+    SdkFailure failure = refusal.failure;
+    if (!status.empty()) {
+        // The detail is that document's code once more.
+        failure.detail.clear();
+    }
+    return Told(failure) + status + Hint(failure.error);
+}
+
+void AddToJson(Json::Value& value, const Refusal& refusal)
+{
+    value["error"] = ErrorToJson(refusal.failure);
+    Json::Value& status = value["status"] = Json::Value(Json::objectValue);
+    for (const auto& [name, text] : ReadStatus(refusal.document)) {
+        const bool number = name == "statusCode" || name == "errorCode";
+        Json::Value read;
+        status[name] =
+            number && ReadJson(text, read) && read.isIntegral() ? read : Json::Value(text);
+    }
+}
+
+DeviceFailure::DeviceFailure(const std::string& what, Refusal refusal)
+    : Failure(what + ": " + Told(refusal)), refusal_(std::move(refusal))
+{
+}
+
+}  // namespace Tool
