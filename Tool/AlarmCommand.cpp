@@ -41,6 +41,16 @@ Part Fetch(const char* path)
     };
 }
 
+/// The detectors with their numbers, which their record leaves in its root.
+RecordNode ReadDetectors(Talk& talk, const char* name)
+{
+    DetectorStates states;
+    talk.Do([&](unsigned int& error) {
+        return JsonConfigApp::GetDetectorStates(states, error, talk.UserID());
+    });
+    return tree::Node(name, states.root);
+}
+
 struct NamedPart
 {
     const char* name;
@@ -55,7 +65,7 @@ const std::vector<NamedPart>& StatusParts()
         {"zones", Fetch<AlarmHostZonesInfo>("/TARN/SecurityCP/status/zones")},
         {"outputs", Fetch<AlarmHostOutputsModulesInfo>("/TARN/SecurityCP/status/outputs")},
         {"sirens", Fetch<AlarmHostSirensInfo>("/TARN/SecurityCP/status/sirens")},
-        {"detectors", Read(&JsonConfigApp::GetDetectorStates)},
+        {"detectors", ReadDetectors},
     };
     return all;
 }
@@ -70,6 +80,25 @@ const std::vector<NamedPart>& ConfigurationParts()
     return all;
 }
 
+/// The flags of a row as one text of those that are set: "armed, open".
+RecordNode WithState(RecordNode row)
+{
+    const auto isFlag = [](const RecordNode& each) { return each.kind == RecordNode::Kind::Flag; };
+    if (std::ranges::count_if(row.children, isFlag) < 2) {
+        return row;
+    }
+    RecordNode state = tree::Text("state", {});
+    for (const RecordNode& each : row.children) {
+        if (isFlag(each) && each.text == "true") {
+            state.text += (state.text.empty() ? "" : ", ") + each.name;
+        }
+    }
+    state.announced = !state.text.empty();
+    std::erase_if(row.children, isFlag);
+    row.children.push_back(std::move(state));
+    return row;
+}
+
 /// A host's list stands below "List", each item wrapped in an object of its own: for people the
 /// rows alone.
 RecordNode Rows(const RecordNode& part)
@@ -80,7 +109,9 @@ RecordNode Rows(const RecordNode& part)
         if (member.kind == RecordNode::Kind::List) {
             rows.kind = RecordNode::Kind::List;
             rows.children.clear();
-            std::ranges::transform(member.children, std::back_inserter(rows.children), Flattened);
+            std::ranges::transform(
+                member.children, std::back_inserter(rows.children),
+                [](const RecordNode& item) { return WithState(Flattened(item)); });
             return rows;
         }
         rows.children.push_back(member);

@@ -45,12 +45,24 @@ std::string Completed(std::string time, const std::string& clock, const std::str
     return time.size() == kSeconds ? time + zone : time;
 }
 
+/// A list of short values as one text; anything else as it is.
+RecordNode Joined(RecordNode node)
+{
+    const auto isShort = [](const RecordNode& each) { return InOneLine(each).has_value(); };
+    if (node.kind == RecordNode::Kind::List && std::ranges::all_of(node.children, isShort)) {
+        for (const RecordNode& each : node.children) {
+            node.text += (node.text.empty() ? "" : ", ") + each.text;
+        }
+        node.kind = RecordNode::Kind::Text;
+        node.children.clear();
+    }
+    return node;
+}
+
 void MoveUp(const RecordNode& node, RecordNode& row)
 {
     for (const RecordNode& child : node.children) {
         const bool isList = child.kind == RecordNode::Kind::List;
-        const bool isTaken =
-            std::ranges::find(row.children, child.name, &RecordNode::name) != row.children.end();
         if (!child.announced || (isList && child.children.empty()) || IsAttribute(child)) {
             continue;
         }
@@ -58,8 +70,13 @@ void MoveUp(const RecordNode& node, RecordNode& row)
             MoveUp(child, row);
             continue;
         }
-        RecordNode moved = child;
-        moved.name = isTaken ? node.name + "/" + child.name : child.name;
+        const bool isTaken =
+            std::ranges::find(row.children, child.name, &RecordNode::name) != row.children.end();
+        RecordNode moved = Joined(child);
+        if (isTaken) {
+            // "status" of "Smoke" is the smoke's.
+            moved.name = node.children.size() == 1 ? node.name : node.name + "/" + child.name;
+        }
         row.children.push_back(std::move(moved));
     }
 }
