@@ -199,9 +199,9 @@ void AddItems(CLI::App& command, ItemOptions& options, const std::string& noun)
 /// Commands to subsystems: `one` is the operation for a single one, `path` that of the batch.
 template <class One>
 void AddSubSystemCommand(CLI::App& group, CommandLine& line, const CommandText& text,
-                         const Options& options, One one)
+                         const std::string& verb, const Options& options, One one)
 {
-    const std::string path = std::string("/TARN/SecurityCP/control/") + text.name;
+    const std::string path = "/TARN/SecurityCP/control/" + verb;
     CLI::App& command = AddDeviceCommand(group, line, text, [options, one, path](Talk& talk) {
         OperateSubSystemsInfo info;
         for (const int id : options->ids) {
@@ -227,8 +227,8 @@ void AddSubSystemCommands(CLI::App& group, CommandLine& line)
 {
     const auto arming = std::make_shared<ItemOptions>();
     AddSubSystemCommand(
-        group, line, {"arm", "Arm subsystems", "sim:alarmhost --subsystem 1 --way away"}, arming,
-        [arming](JsonStatus& status, int id, unsigned int& error, int userID) {
+        group, line, {"arm", "Arm subsystems", "sim:alarmhost --subsystem 1 --way away"}, "arm",
+        arming, [arming](JsonStatus& status, int id, unsigned int& error, int userID) {
             return JsonConfigApp::SetDevArming(status, arming->way, id, error, userID);
         });
     group.get_subcommand("arm")
@@ -237,12 +237,11 @@ void AddSubSystemCommands(CLI::App& group, CommandLine& line)
         ->type_name("WAY")
         ->group("Command");
     AddSubSystemCommand(group, line,
-                        {"disarm", "Disarm subsystems", "sim:alarmhost --subsystem 1,2"},
+                        {"disarm", "Disarm subsystems", "sim:alarmhost --subsystem 1,2"}, "disarm",
                         std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevDisArm);
-    AddSubSystemCommand(group, line,
-                        {"clearAlarm", "Clear subsystems' alarms", "sim:alarmhost --subsystem 1"},
-                        std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevClearAlarm);
-    group.get_subcommand("clearAlarm")->alias("clear");
+    AddSubSystemCommand(
+        group, line, {"clear", "Clear subsystems' alarms", "sim:alarmhost --subsystem 1"},
+        "clearAlarm", std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevClearAlarm);
 }
 
 using ZoneOperation = bool (*)(const AlarmHostBypassCfg&, JsonStatus&, unsigned int&, const int,

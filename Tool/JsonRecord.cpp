@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "JsonRecord.h"
 
-#include <algorithm>
+#include <set>
 
 namespace Tool
 {
@@ -17,9 +17,14 @@ void AddUnlisted(RecordNode& record, const Json::Value& root)
         }
         return;
     }
+    // Hostile answers hold members by the ten thousand.
+    std::set<std::string> listed;
+    for (const RecordNode& child : record.children) {
+        listed.insert(child.name);
+    }
     for (auto each = root.begin(); each != root.end(); ++each) {
         const std::string name = each.name();
-        if (std::ranges::find(record.children, name, &RecordNode::name) == record.children.end()) {
+        if (!listed.contains(name)) {
             record.children.push_back(CapabilitySet::tree::Node(name, *each));
         }
     }

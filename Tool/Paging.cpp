@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <random>
 #include <regex>
+#include <set>
 
 #include "Text.h"
 #include "Values.h"
@@ -59,7 +60,7 @@ RecordNode Joined(RecordNode node)
     return node;
 }
 
-void MoveUp(const RecordNode& node, RecordNode& row)
+void MoveUp(const RecordNode& node, RecordNode& row, std::set<std::string>& names)
 {
     for (const RecordNode& child : node.children) {
         const bool isList = child.kind == RecordNode::Kind::List;
@@ -67,11 +68,10 @@ void MoveUp(const RecordNode& node, RecordNode& row)
             continue;
         }
         if (!isList && !InOneLine(child)) {
-            MoveUp(child, row);
+            MoveUp(child, row, names);
             continue;
         }
-        const bool isTaken =
-            std::ranges::find(row.children, child.name, &RecordNode::name) != row.children.end();
+        const bool isTaken = !names.insert(child.name).second;
         RecordNode moved = Joined(child);
         if (isTaken) {
             // "status" of "Smoke" is the smoke's.
@@ -203,7 +203,8 @@ RecordNode Flattened(const RecordNode& item)
     if (item.children.empty()) {
         return item;
     }
-    MoveUp(item, row);
+    std::set<std::string> names;
+    MoveUp(item, row, names);
     // A device's JSON is in no order: what an item is called comes first.
     std::ranges::stable_partition(row.children, [](const RecordNode& each) {
         return each.name == "id" || each.name == "name";

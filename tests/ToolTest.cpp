@@ -18,6 +18,7 @@
 
 #include "Device/DeviceServer.h"
 #include "Device/HostileDocuments.h"
+#include "Device/Package.h"
 #include "support/ToolRun.h"
 
 namespace
@@ -38,18 +39,19 @@ Json::Value AsJson(const std::string& text)
     return value;
 }
 
-/// A served dome that counts its requests.
+/// A served device that counts its requests.
 class Served
 {
 public:
-    explicit Served(std::vector<Device::Fault> faults = {}, bool tls = false)
+    explicit Served(std::vector<Device::Fault> faults = {}, bool tls = false,
+                    const std::string& profile = "dome")
     {
         std::string error;
         Device::ServerOptions options;
         options.tls = tls;
         options.faults = std::move(faults);
         options.log = [this](const Device::ServedRequest&) { ++requests_; };
-        server_ = Device::DeviceServer::Start(Device::DeviceModel::Load("dome", error),
+        server_ = Device::DeviceServer::Start(Device::DeviceModel::Load(profile, error),
                                               std::move(options), error);
         EXPECT_NE(server_, nullptr) << error;
     }
@@ -345,6 +347,9 @@ TEST(Tool, HostileDevicesNeitherCrashItNorReachTheTerminal)
         for (const std::vector<std::string>& command :
              {std::vector<std::string>{"show", device, "BasicCapability", "EventAbility",
                                        "PTZAbility", "DeviceCap", "--explain"},
+              {"ptz", "presets", device},
+              {"search", "faces", device, "--limit", "200"},
+              {"alarm", "status", device, "zones", "--json"},
               {"show", device, "BasicCapability", "SmartCap", "--json"},
               {"call", device, "GET /TARN/System/capabilities", "--json"}}) {
             const ToolResult result = RunTool(command);
@@ -396,6 +401,34 @@ TEST(Tool, PagesOfASearchAddUpToItsTotal)
     EXPECT_EQ(small, large);
     search.insert(search.end(), {"--limit", "10"});
     EXPECT_EQ(AsJson(RunTool(search).out)["values"]["matches"].size(), 10u);
+}
+
+TEST(Tool, OverTlsCommandsChangeTheDeviceAndDownloadsComeWhole)
+{
+    const Served host({}, true, "alarmhost");
+    const Environment password{{"CAPSET_PASSWORD", "alarmhost-1234"}};
+    const auto on = [](const Served& device, std::vector<std::string> words) {
+        words.insert(words.begin() + 2, device.Address());
+        words.emplace_back("--insecure");
+        return words;
+    };
+    const ToolResult armed =
+        RunTool(on(host, {"alarm", "arm", "--subsystem", "1,2", "--way", "stay"}), password);
+    EXPECT_EQ(armed.exitCode, 0) << armed.err;
+    EXPECT_THAT(RunTool(on(host, {"alarm", "status", "subsystems"}), password).out,
+                testing::ContainsRegex("1  Entrance hall .*stay"));
+
+    const Served recorder({}, true, "recorder");
+    const std::string file = testing::TempDir() + "capset-captures.bin";
+    const ToolResult saved =
+        RunTool(on(recorder, {"search", "captures", "--json", "--download", file}),
+                {{"CAPSET_PASSWORD", "recorder-1234"}});
+    EXPECT_EQ(saved.exitCode, 0) << saved.err;
+    std::ifstream stream(file, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    EXPECT_TRUE(Device::IsWholePackage(bytes));
+    EXPECT_EQ(AsJson(saved.out)["values"]["bytes"].asUInt64(), bytes.size());
+    std::filesystem::remove(file);
 }
 
 TEST(Tool, ARefusalIsJsonForAProgram)
