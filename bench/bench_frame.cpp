@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "CapabilitySet/BasicCapability.h"
+#include "CapabilitySet/JsonTARN/JsonCap/JsonCapApp.h"
+#include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "CapabilitySet/SystemAbility.h"
 #include "CapabilitySet/private/ReceiveBuffer.h"
 #include "Comparison.h"
@@ -169,6 +171,30 @@ bool PlainBasicCapability(BasicCapability& out, unsigned int& err, int userID)
     return true;
 }
 
+/// A JSON query that no buffer is large enough for.
+bool ExhaustQuery(unsigned int& err)
+{
+    CapabilitySet::FiberConvertCap out;
+    return CapabilitySet::JsonCapApp::getFiberConvertCapability(out, err, 1);
+}
+
+/// A data package that no buffer is large enough for.
+bool ExhaustPackage(unsigned int& err)
+{
+    tagNET_ORB_XML_CONFIG_OUTPUT out{};
+    return CapabilitySet::JsonConfigApp::GetHFPDDataPackage(out, "1", err, 1);
+}
+
+/// Either as a side of a comparison: as many attempts, of another size.
+auto Exhaustion(bool (*ask)(unsigned int&))
+{
+    return [ask] {
+        Bench::script = {{}, 0xFFFFFFFF, 64};
+        unsigned int err = 0;
+        return ask(err) || err != NET_ORB_BUFFER_TOO_SMALL;
+    };
+}
+
 /// An operation as a side of a comparison, with a script of its own.
 template <class Record>
 auto Operation(bool (*query)(Record&, unsigned int&, int), const Bench::Script& script)
@@ -196,6 +222,9 @@ int main(int argc, char** argv)
     ComparePaired(
         "1000 attempts: the buffer alone", 7, 1, [] { return PlainLadder(kLimit); },
         [] { return OwnLadder(kLimit); });
+
+    ComparePaired("1000 MiB ladder beside 16 MB ladder", 21, 1, Exhaustion(ExhaustQuery),
+                  Exhaustion(ExhaustPackage));
 
     const Bench::Script basic{kBasic, 0, 0};
     ComparePaired("first attempt: GetBasicCapability", 201, 500,

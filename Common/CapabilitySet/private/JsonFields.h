@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -74,15 +75,6 @@ void ReadValue(const Json::Value& value, std::vector<Item>& items);
 template <class Item>
 void ReadItem(const Json::Value& value, Item& item);
 
-/// Appends an item once it is read whole: one that holds a member of the wrong kind is not listed.
-template <class Item>
-void AppendItem(const Json::Value& value, std::vector<Item>& items)
-{
-    Item item{};
-    ReadItem(value, item);
-    items.push_back(std::move(item));
-}
-
 // The ways of reading a member that a tag tells.
 
 template <class Member>
@@ -121,11 +113,32 @@ void ForEachEntry(const Json::Value& value, Read&& read)
         read(entry);
 }
 
+/// Appends an item for each entry; `valueOf` tells what of the entry it is read from. One that
+/// holds a member of the wrong kind is not listed, and ends the reading.
+template <class Item, class ValueOf>
+void AppendItems(const Json::Value& value, std::vector<Item>& items, ValueOf&& valueOf)
+{
+    // Entries take little text: how many there are is not worth memory for as many items at once.
+    constexpr Json::ArrayIndex kReserved = 1024;
+    if (value.isArray())
+        items.reserve(items.size() + std::min(value.size(), kReserved));
+    ForEachEntry(value, [&](const Json::Value& entry) {
+        Item& item = items.emplace_back();
+        try {
+            ReadItem(valueOf(entry), item);
+        } catch (...) {
+            items.pop_back();
+            throw;
+        }
+    });
+}
+
 template <class Item>
 void ReadAs(const Json::Value& value, std::vector<Item>& items, as::Wrapped how)
 {
-    ForEachEntry(value,
-                 [&](const Json::Value& entry) { AppendItem(MemberOf(entry, how.key), items); });
+    AppendItems(value, items, [how](const Json::Value& entry) -> const Json::Value& {
+        return MemberOf(entry, how.key);
+    });
 }
 
 /// Visits a field list and reads each member, there or not: a missing one reads as false, 0 or
@@ -167,9 +180,7 @@ void ReadItem(const Json::Value& value, Item& item)
 template <class Item>
 void ReadValue(const Json::Value& value, std::vector<Item>& items)
 {
-    if (value.isArray())
-        items.reserve(items.size() + value.size());
-    ForEachEntry(value, [&items](const Json::Value& entry) { AppendItem(entry, items); });
+    AppendItems(value, items, [](const Json::Value& entry) -> const Json::Value& { return entry; });
 }
 
 }  // namespace CapabilitySet::json

@@ -73,7 +73,7 @@ void ReceiveBuffer::Release()
 
 char* ReceiveBuffer::Renew(std::size_t size)
 {
-    if (mapped_ >= size && ZeroPages(data_, mapped_)) {
+    if (mapped_ >= size && ZeroPages(data_, size_)) {
         size_ = size;
         return data_;
     }

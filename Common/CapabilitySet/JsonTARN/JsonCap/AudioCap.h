@@ -31,14 +31,15 @@ struct CAPABILITYSET_API AudioImportSourceCap : JsonPart<AudioImportSourceCap>
     }
 };
 
-/// Where imported sounds go, and under which names.
-struct CAPABILITYSET_API AudioImportDestinationCap : JsonPart<AudioImportDestinationCap>
+/// Where an imported sound goes, and under which names: of a capability, or of a request.
+template <class Member>
+struct AudioLibPlace
 {
-    JsonLimits audioLibID;
-    JsonLimits audioSampleID;
-    JsonLimits audioID;
-    JsonLimits sampleName;
-    JsonLimits sampleType;
+    Member audioLibID;
+    Member audioSampleID;
+    Member audioID;
+    Member sampleName;
+    Member sampleType;
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -49,6 +50,12 @@ struct CAPABILITYSET_API AudioImportDestinationCap : JsonPart<AudioImportDestina
         field("sampleName", r.sampleName);
         field("sampleType", r.sampleType);
     }
+};
+
+/// What can be told of such a place.
+struct CAPABILITYSET_API AudioImportDestinationCap : JsonPart<AudioImportDestinationCap>,
+                                                     AudioLibPlace<JsonLimits>
+{
 };
 
 /// Importing sounds into a library.

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "CapabilitySet/JsonTARN/JsonCap/AudioCap.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
@@ -34,26 +35,10 @@ struct CAPABILITYSET_API AudioLibSource
 };
 
 /// A place in the audio library. Words are those that ImportAudioLibCap lists.
-struct CAPABILITYSET_API AudioLibDestination
+struct CAPABILITYSET_API AudioLibDestination : AudioLibPlace<std::string>
 {
-    std::string audioLibID;
-    std::string audioSampleID;
-    std::string audioID;
-    std::string sampleName;
-    std::string sampleType;
-
     /// Throws what JsonCpp throws for a value of the wrong kind.
     void Parse(const Json::Value& value);
-
-    template <class Record, class Field>
-    static void Fields(Record& r, Field&& field)
-    {
-        field("audioLibID", r.audioLibID);
-        field("audioSampleID", r.audioSampleID);
-        field("audioID", r.audioID);
-        field("sampleName", r.sampleName);
-        field("sampleType", r.sampleType);
-    }
 };
 
 /// Which detected sound to import, and where to.
