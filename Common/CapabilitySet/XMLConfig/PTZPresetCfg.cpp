@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 
-#include <atomic>
 #include <thread>
 
 #include "CapabilitySet/private/JsonReading.h"
@@ -28,8 +27,9 @@ void ReadItems(std::vector<Item>& items, const char* itemName, xmlNode* firstChi
             cursor = cursor->next;
         } else {
             // Kept: clients rely on this order of steps; an item without children is found again
-            // and again. The fence makes the endless search one that the language defines.
-            std::atomic_thread_fence(std::memory_order_seq_cst);
+            // and again. The volatile read makes the endless search one that the language defines.
+            xmlNode* const volatile again = cursor;
+            cursor = again;
             std::this_thread::yield();
         }
     }
