@@ -88,7 +88,7 @@ AlarmHostState::AlarmHostState(const Json::Value& start)
 {
     const std::optional<std::int64_t> time = ReadDateTime(JsonText(JsonMember(start, "time")));
     if (!time || ways_.empty()) {
-        throw StateFault("an alarm host needs a \"time\" and \"ways\" of arming");
+        throw StateFault(R"(an alarm host needs a "time" and "ways" of arming)");
     }
     startTime_ = *time;
     for (const EquipmentNames& names : kEquipment) {
@@ -102,7 +102,7 @@ void AlarmHostState::ReadItems(const Json::Value& start, const EquipmentNames& n
     for (const Json::Value& entry : start) {
         const std::optional<int> id = JsonNumber(JsonMember(entry, "id"));
         if (!id) {
-            throw StateFault(std::string("an entry of \"") + names.start + "\" has no \"id\"");
+            throw StateFault(std::string("an entry of \"") + names.start + R"(" has no "id")");
         }
         Item item{entry, StatusDefaults(names.equipment)};
         item.config.removeMember("state");
@@ -120,7 +120,7 @@ void AlarmHostState::ReadLog(const Json::Value& start)
     for (const Json::Value& entry : start) {
         const std::optional<std::int64_t> time = ReadDateTime(JsonText(JsonMember(entry, "time")));
         if (!time) {
-            throw StateFault("an entry of \"log\" has no \"time\"");
+            throw StateFault(R"(an entry of "log" has no "time")");
         }
         log_.push_back({*time, entry});
         log_.back().descriptor["index"] = nextEntry_++;

@@ -65,10 +65,10 @@ public:
         if (found.answer->status) {
             return MakeStatus(*found.answer->status, request.target);
         }
-        if (found.answer->search) {
-            return AnswerSearch(*found.answer, found.channel, request);
-        }
         std::string document = FillIn(*found.answer, found.channel);
+        if (found.answer->search) {
+            return AnswerSearch(*found.answer->search, document, request);
+        }
         if (found.answer->paging) {
             document = MakePage(document, *found.answer->paging, request.body);
         }

@@ -37,8 +37,8 @@ Json::Value Instance(const Json::Value& form, int number)
         return WriteDateTime(*from + step * (number - 1));
     }
     Json::Value made = form;
-    for (auto member = made.begin(); member != made.end(); ++member) {
-        *member = Instance(*member, number);
+    for (Json::Value& member : made) {
+        member = Instance(member, number);
     }
     return made;
 }
@@ -112,7 +112,8 @@ struct Findings
     std::vector<Json::Value> matches;
 };
 
-std::optional<Findings> Search(const Answer& answer, int channel, const ParsedRequest& request)
+std::optional<Findings> Search(const SearchRules& rules, const std::string& document,
+                               const ParsedRequest& request)
 {
     const Json::Value body = ReadJsonDocument(request.body).value_or(Json::Value());
     const Json::Value& description = DescriptionOf(body);
@@ -120,8 +121,7 @@ std::optional<Findings> Search(const Answer& answer, int channel, const ParsedRe
     if (!description.isObject() || !demand) {
         return std::nullopt;
     }
-    const SearchRules& rules = *answer.search;
-    Findings found{*std::move(demand), ReadSearched(FillIn(answer, channel), rules), {}};
+    Findings found{*std::move(demand), ReadSearched(document, rules), {}};
     for (Json::Value& thing : RootOf(found.document, rules)[rules.list]) {
         if (found.matches.size() < found.demand.most &&
             Wanted(rules, found.demand, description, thing)) {
@@ -153,10 +153,10 @@ SearchRules ReadSearchRules(const Json::Value& rules)
     SearchRules read;
     read.list = JsonText(rules["list"]);
     read.time = JsonText(rules["time"]);
-    fault(read.list.empty(), "\"search\" names no \"list\"");
+    fault(read.list.empty(), R"("search" names no "list")");
     const Json::Value& filters = rules["filters"];
     fault(!filters.isNull() && !filters.isArray() && !filters.isObject(),
-          "the \"filters\" of \"search\" are neither an array nor an object");
+          R"(the "filters" of "search" are neither an array nor an object)");
     for (auto filter = filters.begin(); filter != filters.end(); ++filter) {
         fault(!filter->isString(), "a filter of \"search\" is not a text");
         const std::string own = filters.isObject() ? filter.name() : filter->asString();
@@ -164,7 +164,7 @@ SearchRules ReadSearchRules(const Json::Value& rules)
     }
     const std::optional<int> bytes = JsonNumber(rules["packageBytes"]);
     fault(!rules["packageBytes"].isNull() && bytes.value_or(0) < 1,
-          "the \"packageBytes\" of \"search\" are no number of bytes");
+          R"(the "packageBytes" of "search" are no number of bytes)");
     read.packageBytes = static_cast<std::uint64_t>(bytes.value_or(0));
     return read;
 }
@@ -181,33 +181,33 @@ Json::Value ReadSearched(const std::string& document, const SearchRules& rules)
     return *std::move(read);
 }
 
-Response AnswerSearch(const Answer& answer, int channel, const ParsedRequest& request)
+Response AnswerSearch(const SearchRules& rules, const std::string& document,
+                      const ParsedRequest& request)
 {
-    const std::optional<Findings> found = Search(answer, channel, request);
+    const std::optional<Findings> found = Search(rules, document, request);
     if (!found) {
         return MakeJsonStatus(Outcome::kBadJsonContent, request.target, Json::Value());
     }
-    const SearchRules& rules = *answer.search;
     if (rules.packageBytes > 0) {
         return {200,
                 "application/octet-stream",
                 {},
                 MakePackage(SizeOf(*found, rules.packageBytes), found->demand.searchId)};
     }
-    Json::Value document = found->document;
-    Json::Value& root = RootOf(document, rules);
-    const Json::Value page = MakeSearchPage(found->demand, found->matches, rules.list.c_str(), "");
+    Json::Value answer = found->document;
+    Json::Value& root = RootOf(answer, rules);
+    const Json::Value page = MakeSearchPage(found->demand, found->matches, rules.list, "");
     for (const std::string& key : page.getMemberNames()) {
         root[key] = page[key];
     }
-    return {200, "application/json", document.toStyledString()};
+    return {200, "application/json", answer.toStyledString()};
 }
 
-std::optional<std::uint64_t> PackageSizeOf(const Answer& answer, int channel,
+std::optional<std::uint64_t> PackageSizeOf(const SearchRules& rules, const std::string& document,
                                            const ParsedRequest& request,
                                            std::uint64_t bytesPerMatch)
 {
-    const std::optional<Findings> found = Search(answer, channel, request);
+    const std::optional<Findings> found = Search(rules, document, request);
     return found ? std::optional(SizeOf(*found, bytesPerMatch)) : std::nullopt;
 }
 

@@ -15,8 +15,6 @@
 namespace Device
 {
 
-struct Answer;
-
 /// How a JSON document that lists things is searched.
 struct SearchRules
 {
@@ -36,13 +34,14 @@ SearchRules ReadSearchRules(const Json::Value& rules);
 /// with a sentence when the document has not the list.
 Json::Value ReadSearched(const std::string& document, const SearchRules& rules);
 
-/// The answer to a search whose description is the request's body: the description itself or an
-/// object under whatever name.
-Response AnswerSearch(const Answer& answer, int channel, const ParsedRequest& request);
+/// The answer to a search of such a document whose description is the request's body: the
+/// description itself or an object under whatever name.
+Response AnswerSearch(const SearchRules& rules, const std::string& document,
+                      const ParsedRequest& request);
 
 /// How many bytes the package of what a search finds has: what its "searchID" asks for ("pkg-50M"),
 /// otherwise so many as given for each match. Nothing when the description makes no sense.
-std::optional<std::uint64_t> PackageSizeOf(const Answer& answer, int channel,
+std::optional<std::uint64_t> PackageSizeOf(const SearchRules& rules, const std::string& document,
                                            const ParsedRequest& request,
                                            std::uint64_t bytesPerMatch);
 

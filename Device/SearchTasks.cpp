@@ -267,7 +267,8 @@ Response SearchTasks::StartPacking(const Call& call)
     if (found.answer == nullptr || !found.answer->search) {
         return MakeStatus(Outcome::kNotSupport, call.request.target);
     }
-    const auto size = PackageSizeOf(*found.answer, found.channel, request, bytesPerFace_);
+    const auto size = PackageSizeOf(*found.answer->search, FillIn(*found.answer, found.channel),
+                                    request, bytesPerFace_);
     return size ? Begin(call, "faces ", *size)
                 : MakeStatus(Outcome::kBadJsonContent, call.request.target);
 }
