@@ -17,8 +17,6 @@ using namespace CapabilitySet;
 namespace
 {
 
-// --- reading ---
-
 using Part = std::function<RecordNode(Talk&, const char* name)>;
 
 /// A part that one of the library's operations reads.
@@ -174,8 +172,6 @@ void AddLogCommand(CLI::App& group, CommandLine& line)
     AddPageOptions(command, options->page);
 }
 
-// --- commands ---
-
 struct ItemOptions
 {
     std::vector<int> ids;
@@ -311,8 +307,7 @@ void AddDetectorCommand(CLI::App& group, CommandLine& line)
                 talk.Check(status);
             };
             // The protocol has no batch of them.
-            return CommandItems(talk, "detector", options->ids, send,
-                                [&] { std::ranges::for_each(options->ids, send); });
+            return CommandItems(talk, "detector", options->ids, send, {});
         });
     AddItems(command, *options, "detector");
     command.add_option("--sensor", options->sensor, "one of the detectors at it")

@@ -44,6 +44,24 @@ RecordNode Row(int id, const std::string& noun, const std::string& error)
             {tree::Whole(noun, id), tree::Flag("done", error.empty()), reason}};
 }
 
+/// A refusal of one item does not keep the others from being commanded.
+std::map<int, std::string> CommandEach(const std::vector<int>& ids,
+                                       const std::function<void(int id)>& one)
+{
+    std::map<int, std::string> errors;
+    for (const int id : ids) {
+        try {
+            one(id);
+        } catch (const DeviceFailure& failure) {
+            if (MeansUnreachable(failure.Why().failure.error)) {
+                throw;
+            }
+            errors[id] = Told(failure.Why());
+        }
+    }
+    return errors;
+}
+
 }  // namespace
 
 std::map<int, std::string> ItemErrors(const std::string& answer)
@@ -66,14 +84,14 @@ Report CommandItems(Talk& talk, const std::string& noun, const std::vector<int>&
                     const std::function<void(int id)>& one, const std::function<void()>& batch)
 {
     std::map<int, std::string> errors;
-    if (ids.size() == 1) {
-        one(ids.front());
+    if (ids.size() > 1 && !batch) {
+        errors = CommandEach(ids, one);
     } else {
-        batch();
-    }
-    errors = ItemErrors(talk.Answer());
-    if (errors.empty()) {
-        talk.Check(JsonStatus(talk.Answer()));
+        ids.size() == 1 ? one(ids.front()) : batch();
+        errors = ItemErrors(talk.Answer());
+        if (errors.empty()) {
+            talk.Check(JsonStatus(talk.Answer()));
+        }
     }
     Report report{{"Result", RecordNode::Kind::Record, {}, true, {}}};
     RecordNode list{noun + "s", RecordNode::Kind::List, {}, true, {}};

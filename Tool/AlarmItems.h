@@ -16,7 +16,8 @@ namespace Tool
 std::map<int, std::string> ItemErrors(const std::string& answer);
 
 /// Commands the only item with `one`, several with `batch`, which is to leave its answer as the
-/// talk's last one, and reports how each fared. `noun` names an item: "subsystem".
+/// talk's last one, or one by one where there is no `batch`, and reports how each fared. `noun`
+/// names an item: "subsystem".
 Report CommandItems(Talk& talk, const std::string& noun, const std::vector<int>& ids,
                     const std::function<void(int id)>& one, const std::function<void()>& batch);
 

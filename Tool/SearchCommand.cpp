@@ -92,8 +92,6 @@ Report FetchJsonPages(Talk& talk, const SearchOptions& options, const std::strin
     });
 }
 
-// --- recordings ---
-
 Report SearchContent(Talk& talk, const SearchOptions& options)
 {
     CMSearchDescription description;
@@ -113,8 +111,6 @@ Report SearchContent(Talk& talk, const SearchOptions& options)
         return ReadPage(Describe("Recordings", result));
     });
 }
-
-// --- captured faces ---
 
 Report SearchCaptures(Talk& talk, const SearchOptions& options)
 {
@@ -141,8 +137,6 @@ Report SearchCaptures(Talk& talk, const SearchOptions& options)
     const std::unique_ptr<char[]> bytes(static_cast<char*>(package.outBuffer));
     return Saved(file, options.download, {bytes.get(), package.returnedSize});
 }
-
-// --- faces of libraries ---
 
 /// The path of a package on the device that the talk is with.
 std::string PathOf(const std::string& url)
@@ -201,8 +195,6 @@ Report SearchFaces(Talk& talk, const SearchOptions& options)
     description.maxResults = options.page.pageSize;
     return Saved(file, options.download, FetchFacePackage(talk, description));
 }
-
-// --- files by target ---
 
 Report SearchTargets(Talk& talk, const SearchOptions& options)
 {

@@ -139,6 +139,7 @@ INSTANTIATE_TEST_SUITE_P(
         Line{
             {"alarm", "arm", "sim:alarmhost", "--subsystem", "1", "--way", "x"}, 1, "", "error 29"},
         Line{{"alarm", "disarm", "sim:alarmhost", "--subsystem", "1,99"}, 1, "did not follow", ""},
+        Line{{"alarm", "silence", "sim:alarmhost", "--detector", "99,1"}, 1, "1  yes", ""},
         Line{{"alarm", "bypass", "sim:alarmhost", "--zone", "900"}, 1, "", "no zone 900"},
         Line{{"alarm", "status", "sim:alarmhost", "zones"}, 0, "zones  64 entries", ""}));
 
