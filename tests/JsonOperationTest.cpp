@@ -38,7 +38,7 @@ using namespace TestSupport;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr Keel::Error::ErrorCode kEarlier{1, 2, {}};
+const Keel::Error::ErrorCode kEarlier{1, 2, {}};
 constexpr std::pair kUntouched{1, 2};
 
 std::pair<int, int> LastError()
