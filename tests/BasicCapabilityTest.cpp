@@ -1,5 +1,5 @@
-// The basic capability record: its order, its flags, what it keeps, and the memory of 3D
-// positioning. SPDX-License-Identifier: Apache-2.0
+// The basic capability record: its order, its flags, and the memory of 3D positioning.
+// SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/BasicCapability.h"
 
 #include <string>
