@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -11,6 +12,7 @@
 
 #include "CapabilitySet/private/FieldTags.h"
 #include "CapabilitySet/private/JsonReading.h"
+#include "CapabilitySet/private/MemberIndex.h"
 #include "CapabilitySet/private/NumberText.h"
 
 namespace CapabilitySet::json
@@ -141,31 +143,50 @@ void ReadAs(const Json::Value& value, std::vector<Item>& items, as::Wrapped how)
     });
 }
 
+/// The record type `Record`'s names, made on first use.
+template <class Record>
+const MemberIndex& IndexOf()
+{
+    static const MemberIndex index = [] {
+        MemberIndex names;
+        Record sample;
+        Record::Fields(sample, [&names](std::string_view name, auto& /*member*/, auto... /*how*/) {
+            names.Add(name);
+        });
+        names.Finish();
+        return names;
+    }();
+    return index;
+}
+
 /// Visits a field list and reads each member, there or not: a missing one reads as false, 0 or
 /// empty. Throws what JsonCpp throws for a member of the wrong kind.
+template <class Record>
 class FieldReader
 {
 public:
-    explicit FieldReader(const Json::Value& object) : object_(object) {}
+    explicit FieldReader(const Json::Value& object) : matches_(IndexOf<Record>(), object) {}
 
     template <class Member, class How = as::Plain>
-    void operator()(std::string_view name, Member& member, How how = {}) const
+    void operator()(std::string_view /*name*/, Member& member, How how = {})
     {
         static_assert(
             requires(const Json::Value& value) { ReadAs(value, member, how); },
             "A field of this type and tag cannot be read from JSON: give the type a Parse(const "
             "Json::Value&), or add a ReadValue or ReadAs overload to JsonFields.h.");
-        ReadAs(MemberOf(object_, name), member, how);
+        ReadAs(matches_[field_++], member, how);
     }
 
 private:
-    const Json::Value& object_;
+    MemberMatches matches_;
+    std::size_t field_ = 0;
 };
 
 template <class Record>
 void ReadFields(Record& record, const Json::Value& object)
 {
-    Record::Fields(record, FieldReader(object));
+    FieldReader<Record> reader(object);
+    Record::Fields(record, reader);
 }
 
 template <class Item>
