@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <thread>
 
-#include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "support/DeviceSteps.h"
 
-using namespace CapabilitySet;
 using testing::HasSubstr;
 using TestSupport::AskJson;
 using TestSupport::LoadDevice;
@@ -197,85 +195,6 @@ TEST(AlarmHostState, ThreadsCommandOneHostAtOnce)
     for (std::thread& thread : threads) {
         thread.join();
     }
-}
-
-// The way a client goes: what is open is bypassed, what is refused is told in the status.
-TEST(AlarmHostState, TheLibrarysOperationsCommandIt)
-{
-    const TestSupport::Asked host("sim:alarmhost");
-    unsigned error = 0;
-    JsonStatus status;
-    EXPECT_TRUE(JsonConfigApp::SetDevArming(status, "away", 3, error, host));
-    EXPECT_EQ(status.statusCode, 4);
-    EXPECT_EQ(status.subStatusCode, "zoneOpen");
-    AlarmHostBypassCfg zones;
-    zones.zone = "17,20";
-    EXPECT_TRUE(JsonConfigApp::SetDevBypass(zones, status, error, -1, host));
-    EXPECT_EQ(status.statusCode, 1);
-    EXPECT_TRUE(JsonConfigApp::SetDevArming(status, "away", 3, error, host));
-    EXPECT_EQ(status.statusCode, 1);
-    EXPECT_TRUE(JsonConfigApp::SetDevDisArm(status, 3, error, host));
-    EXPECT_TRUE(JsonConfigApp::SetDevBypassRecover(zones, status, error, 17, host));
-    EXPECT_TRUE(JsonConfigApp::SetDevClearAlarm(status, 8, error, host));
-    EXPECT_EQ(status.statusCode, 1);
-    EXPECT_FALSE(JsonConfigApp::SetDevDisArm(status, 9, error, host));
-    EXPECT_NE(error, 0u);
-
-    AlarmHostOutputCfg outputs;
-    outputs.switchState = "open";
-    outputs.ids = {2, 77};
-    JsonErrorStatusList errors;
-    EXPECT_TRUE(JsonConfigApp::SetOutputControl(outputs, error, errors, -1, host));
-    ASSERT_EQ(errors.errorList.size(), 1u);
-    EXPECT_EQ(errors.errorList[0].id, "77");
-    EXPECT_TRUE(JsonConfigApp::SetOutputControl(outputs, error, errors, 3, host));
-
-    AlarmHostZoneConfig zoneConfig;
-    AlarmHostSubSystemConfig subSystemConfig;
-    TriggerListConfig outputConfig;
-    AlarmHostCommunicationStatus communication;
-    EXPECT_TRUE(JsonConfigApp::GetAlarmHostZoneConfiguration(zoneConfig, error, host));
-    EXPECT_TRUE(JsonConfigApp::GetSubSystemConfig(subSystemConfig, error, host));
-    EXPECT_TRUE(JsonConfigApp::GetTriggerConfig(outputConfig, error, host));
-    EXPECT_TRUE(JsonConfigApp::GetAlarmHostCommuniStatus(communication, error, host));
-    EXPECT_EQ(zoneConfig.zones.size(), 64u);
-    EXPECT_EQ(subSystemConfig.subSystems.size(), 8u);
-    EXPECT_EQ(subSystemConfig.subSystems[7].linkageZones.size(), 8u);
-    EXPECT_EQ(outputConfig.outputs.size(), 32u);
-    EXPECT_EQ(outputConfig.outputs[0].linkageList.size(), 2u);
-    EXPECT_EQ(communication.mobileSignal, 72);
-}
-
-TEST(AlarmHostState, TheLibrarysOperationsReadItsDetectorsAndItsLog)
-{
-    const TestSupport::Asked host("sim:alarmhost");
-    unsigned error = 0;
-    JsonStatus status;
-    DetectorSilenceCap cap;
-    EXPECT_TRUE(JsonConfigApp::GetDetectorSilenceCap(cap, error, static_cast<unsigned>(int(host))));
-    ASSERT_FALSE(cap.cmd.opt.empty());
-    DetectorSilence command;
-    command.cmd = "reset";
-    EXPECT_TRUE(JsonConfigApp::SetDetectorSilence(status, command, error, 5, -1, host));
-    EXPECT_TRUE(JsonConfigApp::SetDetectorSilence(status, command, error, 4, 1, host));
-    EXPECT_EQ(status.statusCode, 1);
-    DetectorStates states;
-    EXPECT_TRUE(JsonConfigApp::GetDetectorStates(states, error, host));
-    ASSERT_EQ(states.detectors.size(), 8u);
-    EXPECT_EQ(states.detectors[4].Temperature.status, "normal");
-    EXPECT_EQ(states.detectors[5].Gas.status, "expired");
-
-    AlarmHostLogConditionDescription condition;
-    condition.searchID = "log";
-    condition.maxResults = 10;
-    AlarmHostDeviceLogResult page;
-    do {
-        EXPECT_TRUE(JsonConfigApp::GetAlarmHostDeviceLog(condition, page, error, host));
-        ASSERT_GT(page.numOfMatches, 0);
-        condition.searchResultPosition += page.numOfMatches;
-    } while (page.responseStatusStrg == "MORE");
-    EXPECT_EQ(condition.searchResultPosition, 43);
-    EXPECT_EQ(page.matchList.back().logDescriptor["event"], "reset");
 }
 
 }  // namespace

@@ -200,6 +200,8 @@ TEST(DeviceStateTest, BodiesCutAnywhereAndThreadsAtOnceAreAnswered)
     other.join();
 }
 
+ON_EVERY_ROAD(AskedDeviceTest);
+
 bool Succeeded(const InterfaceRet& result)
 {
     return result.success && result.errorType == 0;
@@ -219,9 +221,9 @@ void SetAndGet(InterfaceRet (*get)(Record&, int), InterfaceRet (*set)(const Reco
     EXPECT_TRUE(SameFields(record, again)) << Record::kElement;
 }
 
-TEST(DeviceStateTest, ASwitchIsReadAndSetThroughTheLibrary)
+TEST_P(AskedDeviceTest, ASwitchIsReadAndSetThroughTheLibrary)
 {
-    const Asked device("sim:switch");
+    const Asked device = Login("switch");
     using P = ParamInterface;
     SetAndGet<SwitchesBasicInfo>(
         &P::GetSwitchesBasicInfo, &P::SetSwitchesBasicInfo, device,
@@ -249,9 +251,9 @@ TEST(DeviceStateTest, ASwitchIsReadAndSetThroughTheLibrary)
     EXPECT_EQ(apps.app.at(2)->runStatus, "stopped");
 }
 
-TEST(DeviceStateTest, ARefusalReachesTheClientWithItsStatus)
+TEST_P(AskedDeviceTest, ARefusalReachesTheClientWithItsStatus)
 {
-    const Asked device("sim:switch");
+    const Asked device = Login("switch");
     auto& manager = ParseXmlHelper::SDKInterfaceManager::instance();
     std::vector<std::string> heard;
     manager.setXmlErrorTransCallBack([&](int code, const std::string& subStatus) {
@@ -270,7 +272,7 @@ TEST(DeviceStateTest, ARefusalReachesTheClientWithItsStatus)
     EXPECT_EQ(ParamInterface::SearchSwitchesWorkState({}, states, device), refused);
     CMSearchResult found;
     EXPECT_EQ(ConfigCapXML::SearchContent({}, found, device), refused);
-    EXPECT_EQ(ConfigCapXML::SearchContent({}, found, Asked("sim:recorder")), refused);
+    EXPECT_EQ(ConfigCapXML::SearchContent({}, found, Login("recorder")), refused);
     EXPECT_THAT(heard, ElementsAre("6 badParameters", "6 badParameters", "6 badParameters",
                                    "4 notSupport", "6 badParameters"));
     manager.setXmlErrorTransCallBack(nullptr);
@@ -301,9 +303,9 @@ std::vector<std::string> AllPages(const char* list, const char* key, Ask ask)
     return texts;
 }
 
-TEST(DeviceStateTest, PagesAddUpToEveryMatchOnce)
+TEST_P(AskedDeviceTest, PagesAddUpToEveryMatchOnce)
 {
-    const Asked yard("sim:switch");
+    const Asked yard = Login("switch");
     const auto ports = AllPages<SwitchesWorkStateSearchResult>(
         "PortWorkStateList", "id", [&](auto& page, int position) {
             SwitchesWorkStateSearchCond condition;
@@ -315,7 +317,7 @@ TEST(DeviceStateTest, PagesAddUpToEveryMatchOnce)
     EXPECT_EQ(ports.size(), 24U);
     EXPECT_EQ(std::set(ports.begin(), ports.end()).size(), 24U);
 
-    const Asked recorder("sim:recorder");
+    const Asked recorder = Login("recorder");
     CMSearchDescription description;
     description.searchID = "one";
     description.trackIDList.trackID = {"101", "2301"};
@@ -349,10 +351,10 @@ List Listed(int device, int channel, const std::string& kind)
     return List(outcome.answer);
 }
 
-TEST(DeviceStateTest, PtzChannelsShowTheirListsAndKeepTheirTracking)
+TEST_P(AskedDeviceTest, PtzChannelsShowTheirListsAndKeepTheirTracking)
 {
-    const Asked dome("sim:dome");
-    const Asked recorder("sim:recorder");
+    const Asked dome = Login("dome");
+    const Asked recorder = Login("recorder");
     for (const auto& [device, sdk, channel] :
          {std::tuple<int, int, int>{dome, 1, 1}, {recorder, 39, 23}, {recorder, 41, 25}}) {
         const auto presets = Listed<CPTZPresetListCfg>(device, channel, "presets").presets;
@@ -379,58 +381,58 @@ TEST(DeviceStateTest, PtzChannelsShowTheirListsAndKeepTheirTracking)
 
 // Asks a device and expects a document of the record with something in it.
 template <class Record, class Error, class... Parameters, class... Arguments>
-void Answers(const char* address, bool (*get)(Record&, Error, int, Parameters...),
+void Answers(const Asked& device, bool (*get)(Record&, Error, int, Parameters...),
              const Arguments&... arguments)
 {
     unsigned int err = 0;
     Record record;
-    EXPECT_TRUE(get(record, err, Asked(address), static_cast<Parameters>(arguments)...))
-        << address << " " << err;
-    EXPECT_TRUE(record.capable) << address;
-    EXPECT_FALSE(record.root.children.empty()) << address;
+    EXPECT_TRUE(get(record, err, device, static_cast<Parameters>(arguments)...))
+        << Record::kRoot << " " << err;
+    EXPECT_TRUE(record.capable) << Record::kRoot;
+    EXPECT_FALSE(record.root.children.empty()) << Record::kRoot;
 }
 
-TEST(DeviceStateTest, EveryAbilityIsAnsweredBySomeDevice)
+TEST_P(AskedDeviceTest, EveryAbilityIsAnsweredBySomeDevice)
 {
-    Answers("sim:recorder", &AlarmHostAbility::GetAlarmHostAbility, true);
-    Answers("sim:dome", &AlarmForHelpAbility::GetAlarmForHelpAbility, 1);
-    Answers("sim:recorder", &AudioVideoCompressInfo::GetAudioVideoCompressInfo, 1, 1, 39);
-    Answers("sim:recorder", &CVRAbility::GetCVRAbility);
-    Answers("sim:dome", &CameraPara::GetCameraParam, std::vector{1});
-    Answers("sim:recorder", &ChannelInfoAbility::GetChannelInfoAbility, 41, "");
-    Answers("sim:recorder", &ChannelInputAbility::GetChannelInputAbility, 33, "");
-    Answers("sim:recorder", &ClusterCapability::GetClusterCap);
-    Answers("sim:recorder", &CodeSubSystemAbility::GetCodeSubSystemAbility, 1, "");
-    Answers("sim:recorder", &CustomStreamCap::GetCustomStreamAbility, 1);
-    Answers("sim:recorder", &DecoderAbility::GetDecoderAbility);
-    Answers("sim:switch", &DeviceCap::GetDeviceCapability);
-    Answers("sim:switch", &DiscoveryModeCap::getDiscoveryModeAbility);
-    Answers("sim:recorder", &DynChannelAbility::GetDynChannelAbility, 39);
-    Answers("sim:recorder", &FishEyeAbility::GetFishEyeAbility, 34, "");
-    Answers("sim:recorder", &IntercomDeviceIpViewAbility::GetIntercomDeviceIpViewAbility, 1);
-    Answers("sim:recorder", &IntercomNoticeVideoAbility::GetNoticeVideoCapability, 1);
-    Answers("sim:recorder", &ManualThermometryCap::GetManualThermometryAbility, 35);
-    Answers("sim:switch", &NetAppAbility::GetNetAppAbility, "");
-    Answers("sim:recorder", &PTZAbility::GetPTZAbility, 39);
-    Answers("sim:dome", &RecordAbility::GetRecordAbility);
-    Answers("sim:dome", &RegionBaggageCap::GetRegionBaggageAbility, 1);
-    Answers("sim:dome", &RegionExitingCap::GetRegionExitingAbility, 1);
-    Answers("sim:dome", &RegionParkingCap::GetRegionParkingAbility, 1);
-    Answers("sim:dome", &RegionUnBaggageCap::GetRegionUnBaggageAbility, 1);
-    Answers("sim:switch", &SecurityAbility::GetSecurityAbility);
-    Answers("sim:recorder", &SmartCap::GetSmartCapAbility, 1);
-    Answers("sim:switch", &SystemDeviceCap::GetSystemDeviceAbility);
-    Answers("sim:recorder", &ThermalCap::GetThermalCapability, 35);
-    Answers("sim:switch", &UserAbility::GetUserAbility, "");
-    Answers("sim:dome", &VcaAbility::GetVcaAbility, 1);
-    Answers("sim:recorder", &VehicleInfoResultCap::GetVehicleInfoResultCapAbility, 36);
-    Answers("sim:dome", &VideoPicAbility::GetVideoPicAbility, 1, "");
-    Answers("sim:recorder", &VideoPlatformAbility::GetVideoPlatformAbility, "");
-    Answers("sim:recorder", &WallAbility::GetWallAbility, 1, 1);
+    Answers(Login("recorder"), &AlarmHostAbility::GetAlarmHostAbility, true);
+    Answers(Login("dome"), &AlarmForHelpAbility::GetAlarmForHelpAbility, 1);
+    Answers(Login("recorder"), &AudioVideoCompressInfo::GetAudioVideoCompressInfo, 1, 1, 39);
+    Answers(Login("recorder"), &CVRAbility::GetCVRAbility);
+    Answers(Login("dome"), &CameraPara::GetCameraParam, std::vector{1});
+    Answers(Login("recorder"), &ChannelInfoAbility::GetChannelInfoAbility, 41, "");
+    Answers(Login("recorder"), &ChannelInputAbility::GetChannelInputAbility, 33, "");
+    Answers(Login("recorder"), &ClusterCapability::GetClusterCap);
+    Answers(Login("recorder"), &CodeSubSystemAbility::GetCodeSubSystemAbility, 1, "");
+    Answers(Login("recorder"), &CustomStreamCap::GetCustomStreamAbility, 1);
+    Answers(Login("recorder"), &DecoderAbility::GetDecoderAbility);
+    Answers(Login("switch"), &DeviceCap::GetDeviceCapability);
+    Answers(Login("switch"), &DiscoveryModeCap::getDiscoveryModeAbility);
+    Answers(Login("recorder"), &DynChannelAbility::GetDynChannelAbility, 39);
+    Answers(Login("recorder"), &FishEyeAbility::GetFishEyeAbility, 34, "");
+    Answers(Login("recorder"), &IntercomDeviceIpViewAbility::GetIntercomDeviceIpViewAbility, 1);
+    Answers(Login("recorder"), &IntercomNoticeVideoAbility::GetNoticeVideoCapability, 1);
+    Answers(Login("recorder"), &ManualThermometryCap::GetManualThermometryAbility, 35);
+    Answers(Login("switch"), &NetAppAbility::GetNetAppAbility, "");
+    Answers(Login("recorder"), &PTZAbility::GetPTZAbility, 39);
+    Answers(Login("dome"), &RecordAbility::GetRecordAbility);
+    Answers(Login("dome"), &RegionBaggageCap::GetRegionBaggageAbility, 1);
+    Answers(Login("dome"), &RegionExitingCap::GetRegionExitingAbility, 1);
+    Answers(Login("dome"), &RegionParkingCap::GetRegionParkingAbility, 1);
+    Answers(Login("dome"), &RegionUnBaggageCap::GetRegionUnBaggageAbility, 1);
+    Answers(Login("switch"), &SecurityAbility::GetSecurityAbility);
+    Answers(Login("recorder"), &SmartCap::GetSmartCapAbility, 1);
+    Answers(Login("switch"), &SystemDeviceCap::GetSystemDeviceAbility);
+    Answers(Login("recorder"), &ThermalCap::GetThermalCapability, 35);
+    Answers(Login("switch"), &UserAbility::GetUserAbility, "");
+    Answers(Login("dome"), &VcaAbility::GetVcaAbility, 1);
+    Answers(Login("recorder"), &VehicleInfoResultCap::GetVehicleInfoResultCapAbility, 36);
+    Answers(Login("dome"), &VideoPicAbility::GetVideoPicAbility, 1, "");
+    Answers(Login("recorder"), &VideoPlatformAbility::GetVideoPlatformAbility, "");
+    Answers(Login("recorder"), &WallAbility::GetWallAbility, 1, 1);
 }
 
 // What a channel's documents say of PTZ and of events agrees between them and with the device's.
-TEST(DeviceStateTest, EventsOfAChannelAgreeWithTheDevice)
+TEST_P(AskedDeviceTest, EventsOfAChannelAgreeWithTheDevice)
 {
     struct Channel
     {
@@ -438,13 +440,13 @@ TEST(DeviceStateTest, EventsOfAChannelAgreeWithTheDevice)
         unsigned number;
         bool ptz;
     };
-    for (const Channel& channel : {Channel{"sim:dome", 1, true},
-                                   {"sim:recorder", 1, false},
-                                   {"sim:recorder", 33, false},
-                                   {"sim:recorder", 39, true},
-                                   {"sim:switch", 1, false}}) {
+    for (const Channel& channel : {Channel{"dome", 1, true},
+                                   {"recorder", 1, false},
+                                   {"recorder", 33, false},
+                                   {"recorder", 39, true},
+                                   {"switch", 1, false}}) {
         SCOPED_TRACE(std::string(channel.device) + " " + std::to_string(channel.number));
-        const Asked device(channel.device);
+        const Asked device = Login(channel.device);
         unsigned err = 0;
         BasicCapability basic;
         EventAbility events;

@@ -1,10 +1,8 @@
-// Searches, search tasks and packages of simulated devices, and an answer to every JSON request.
+// Searches, search tasks and packages of simulated devices.
 // SPDX-License-Identifier: Apache-2.0
-#include <atomic>
 #include <random>
 #include <thread>
 
-#include "CapabilitySet/JsonTARN/JsonCap/JsonCapApp.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Device/Package.h"
 #include "support/DeviceSteps.h"
@@ -18,96 +16,6 @@ using TestSupport::Play;
 
 namespace
 {
-
-struct Line
-{
-    const char* profile;
-    const char* method;
-    const char* target;
-    const char* body;
-    const char* key;  // in the answer
-};
-
-constexpr Line kLines[] = {
-    {"recorder", "GET", "Intelligent/imagesComparision/face/capabilities", "", "imagesComparision"},
-    {"recorder", "GET", "SDT/HFPD/capabilities", "", "HFPDCap"},
-    {"alarmhost", "GET", "SecurityCP/capabilities", "", "SecurityCPCap"},
-    {"alarmhost", "GET", "SecurityCP/control/capabilities", "", "HostControlCap"},
-    {"alarmhost", "GET", "SecurityCP/status/capabilities", "", "HostStatusCap"},
-    {"dome", "GET", "Intelligent/channels/1/intersectionAnalysis/capabilities", "", "TagID"},
-    {"switch", "GET", "Transfers/FiberConvert/capabilities", "", "FiberConvertCap"},
-    {"switch", "GET", "Transfers/Switches/portCfg/portPOEInfo/capabilities", "",
-     "PortPOEInfoListCap"},
-    {"recorder", "GET", "Intelligent/cityManagement/search/capabilities", "", "maxResultNumber"},
-    {"recorder", "GET", "SDT/Management/analysisResult/capabilities", "", "SearchCap"},
-    {"recorder", "GET", "Intelligent/misinfoFilter/confirmation/capabilities", "",
-     "misinfoConfirmCap"},
-    {"recorder", "GET", "Intelligent/AIOpenPlatform/audioDetectionSearch/capabilities", "",
-     "AudioDetectionSearchCap"},
-    {"recorder", "GET", "Intelligent/AIOpenPlatform/audioDetection/importAudioLib/capabilities", "",
-     "DestinationData"},
-    {"dome", "GET", "Intelligent/channels/1/manualFaceSnap", "", "ManualFaceSnap"},
-    {"dome", "PUT", "Intelligent/channels/1/manualPersonArmingTrack",
-     R"({"ManualPersonArmingTrack": {}})", "statusCode"},
-    {"dome", "POST", "Intelligent/channels/1/personQueueDetection/queueCountingResult", "{}",
-     "PersonQueueCountingResult"},
-    {"dome", "POST", "Intelligent/channels/1/personQueueDetection/queueTimeResult", "{}",
-     "PersonQueueTimeResult"},
-    {"recorder", "POST", "SDT/Face/captureSearch", "{}", "targets"},
-    {"recorder", "POST", "Intelligent/imagesComparision/face", "{}", "similarity"},
-    {"recorder", "GET", "SDT/HFPD/searchTask/result/recordData/12", "", "HFPDSearchFaceResult"},
-    {"recorder", "GET", "SDT/Management/Task/pause/12", "", "\"ok\""},
-    {"recorder", "GET", "SDT/Management/Task/resume/12", "", "\"ok\""},
-    {"recorder", "GET", "SDT/Management/Task/progress/12", "", "progress"},
-    {"recorder", "GET", "SDT/Management/Task/cancel12", "", "\"ok\""},
-    {"recorder", "DELETE", "SDT/Management/Task/12", "", "\"ok\""},
-    {"recorder", "POST", "Intelligent/FDLib/FCSearch", "{}", "abnormalRate "},
-    {"recorder", "POST", "Intelligent/FDLib/FCSearch/dataPackage", "{}", "taskID"},
-    {"recorder", "GET", "Intelligent/FDLib/FCSearch/dataPackage/progress?taskID=pkg-1K", "", "URL"},
-    {"recorder", "GET", "SDT/HFPD/searchTask/captureLibCollision", "", "taskID"},
-    {"dome", "PUT", "Thermal/channels/1/clickToThermometry/rules/1",
-     R"({"ManualClickThermometry": {}})", "statusCode"},
-    {"dome", "GET", "Intelligent/channels/1/intersectionAnalysis", "", "IntersectionAnalysis"},
-    {"dome", "POST", "Intelligent/channels/1/intersectionAnalysis/search", "{}", "MatchList"},
-    {"recorder", "GET", "Intelligent/AIOpenPlatform/algorithmModel/management", "",
-     "AlgorithmModelList"},
-    {"dome", "GET", "System/Audio/channels/1/Test", "", "AudioTest"},
-    {"dome", "PUT", "System/Audio/channels/1/Test", R"({"AudioTest": {}})", "statusCode"},
-    {"switch", "GET", "Transfers/FiberConvert/slot", "", "FiberConvertSlotList"},
-    {"switch", "GET", "Transfers/Switches/portCfg/portPOEInfo", "", "PortPOEInfo"},
-    {"dome", "GET", "System/Hardware/PTDeicing", "", "PTDeicing"},
-    {"dome", "PUT", "System/Hardware/PTDeicing", R"({"PTDeicing": {}})", "statusCode"},
-    {"alarmhost", "GET", "Radar/Configuration/alarmLineCfg", "", "AlarmLineCfg"},
-    {"recorder", "POST", "ContentMgmt/SearchByTargetType", "{}", "TargetSearchResult"},
-    {"recorder", "POST", "SDT/Management/Task/Video/monitorPort/search", "{}",
-     "DataCenterTaskResult"},
-    {"recorder", "POST", "SDT/Management/analysisResult/search", "{}", "SearchResult"},
-    {"recorder", "PUT", "Intelligent/misinfoFilter/confirmation",
-     R"({"misinfoConfirm": {"eventType": "motion", "state": "wrong"}})", "statusCode"},
-    {"recorder", "POST", "Intelligent/AIOpenPlatform/audioDetection/importAudioLib", "{}",
-     "audioID"},
-    {"recorder", "GET", "Intelligent/audioLib", "", "AudioLib"},
-    {"alarmhost", "GET", "SecurityCP/status/communication", "", "CommuniStatus"},
-    {"alarmhost", "GET", "SecurityCP/status/batteries", "", "BatteryList"},
-    {"alarmhost", "GET", "FireControl/Status/detectorStatus", "", "DetectorStatus"},
-    {"alarmhost", "GET", "FireControl/Control/detectorAlarm/capabilities", "", "DetectorAlarmCap"},
-};
-
-TEST(SearchTask, EveryJsonRequestHasAnAnswerFromTheDeviceThatShouldGiveIt)
-{
-    std::map<std::string, std::shared_ptr<Device::DeviceModel>> devices;
-    for (const Line& line : kLines) {
-        auto& device = devices[line.profile];
-        device = device ? device : LoadDevice(line.profile);
-        SCOPED_TRACE(line.profile);
-        Play(*device, {{line.method, line.target, line.body, 200, line.key}});
-    }
-    // These two are asked without "format=json".
-    auto& recorder = *devices["recorder"];
-    EXPECT_EQ(recorder.Handle({"POST", "/TARN/SDT/Face/captureSearch", "{}"}).status, 200);
-    EXPECT_EQ(recorder.Handle({"POST", "/TARN/Intelligent/imagesComparision/face", "{}"}).status,
-              200);
-}
 
 TEST(SearchTask, SearchesFilterAndTheirPagesAddUp)
 {
@@ -228,42 +136,11 @@ TEST(SearchTask, PackagesAreWholeHoweverTheyAreReadAndShowEveryChange)
     }
 }
 
-// Downloads through the library and frees what it got.
-std::string Download(bool ok, tagNET_ORB_XML_CONFIG_OUTPUT& out)
-{
-    const std::unique_ptr<char[]> buffer(static_cast<char*>(out.outBuffer));
-    return ok ? std::string(buffer.get(), out.returnedSize) : std::string();
-}
+ON_EVERY_ROAD(AskedTaskTest);
 
-TEST(SearchTask, TheLibraryDownloadsPackagesOfEverySizeUpToItsLimit)
+TEST_P(AskedTaskTest, FacesArePackedThenFetchedFromTheirUrl)
 {
-    const Asked recorder("sim:recorder");
-    unsigned error = 0;
-    for (const auto& [task, size] : {std::pair<const char*, size_t>{"pkg-1K", 1024},
-                                     {"14", 50u << 20},
-                                     {"pkg-64M", 64u << 20}}) {
-        tagNET_ORB_XML_CONFIG_OUTPUT out{};
-        const bool ok = JsonConfigApp::GetHFPDDataPackage(out, task, error, recorder);
-        const std::string text = Download(ok, out);
-        EXPECT_EQ(text.size(), size) << task;
-        EXPECT_TRUE(Device::IsWholePackage(text)) << task;
-    }
-    tagNET_ORB_XML_CONFIG_OUTPUT out{};
-    EXPECT_FALSE(JsonConfigApp::GetHFPDDataPackage(out, "pkg-2G", error, recorder));
-    EXPECT_FALSE(JsonConfigApp::GetHFPDDataPackage(out, "13", error, recorder));  // not done
-    CaptureSearchDescription women;
-    women.gender = "female";
-    EXPECT_EQ(
-        Download(JsonConfigApp::GetFCDataPackageByJson(women, out, error, recorder), out).size(),
-        90u * 24576);
-    women.searchID = "pkg-3M";
-    EXPECT_TRUE(Device::IsWholePackage(
-        Download(JsonConfigApp::GetFCDataPackageByJson(women, out, error, recorder), out)));
-}
-
-TEST(SearchTask, FacesArePackedThenFetchedFromTheirUrl)
-{
-    const Asked recorder("sim:recorder");
+    const Asked recorder = Login("recorder");
     unsigned error = 0;
     FDLibSearchDescription description;
     description.searchID = "s";
@@ -281,68 +158,6 @@ TEST(SearchTask, FacesArePackedThenFetchedFromTheirUrl)
     const auto answer = TestSupport::Ask(recorder, "GET " + packed.URL, "", {.answer = 4u << 20});
     EXPECT_EQ(answer.answer.size(), 120u * 20480);
     EXPECT_TRUE(Device::IsWholePackage(answer.answer));
-}
-
-TEST(SearchTask, TheLibrarysRecordsTakeWhatDevicesAnswer)
-{
-    const Asked recorder("sim:recorder");
-    const Asked dome("sim:dome");
-    const Asked equipment("sim:switch");
-    unsigned error = 0;
-    CaptureSearchDescription women;
-    women.gender = "female";
-    women.maxResults = 10;
-    CaptureSearchResult captures;
-    EXPECT_TRUE(JsonConfigApp::GetCaptureSearchResult(women, captures, error, recorder));
-    ASSERT_EQ(captures.targets.size(), 10u);
-    EXPECT_EQ(captures.totalMatches, 90);
-    EXPECT_EQ(captures.targets[9].gender, "female");
-    EXPECT_GT(captures.targets[9].face_rect.width, 0);
-
-    FDLibSearchDescription faces;
-    faces.hasTimeRange = true;
-    faces.startTime = "2026-11-18T15:00:00";
-    faces.endTime = "2026-11-18T15:30:00";
-    FDLibSearchResult people;
-    EXPECT_TRUE(JsonConfigApp::GetFDLibFCSearchByJson(faces, people, error, recorder));
-    ASSERT_EQ(people.MatchList.size(), 2u);
-    EXPECT_EQ(people.MatchList[1].human_data[0].Attendance.AttendStatus.late, 2);
-    EXPECT_EQ(people.MatchList[1].human_data[0].Attendance.abnormalRate, "0.25");
-
-    HFPDSearchProgress progress;
-    EXPECT_TRUE(JsonConfigApp::GetHFPDSearchProgress(progress, "12", error, recorder));
-    EXPECT_EQ(progress.progress.value, 25);
-    HFPDSearchFaceResult found;
-    EXPECT_TRUE(JsonConfigApp::GetHFPDSearchRecordData(found, "12", error, recorder));
-    EXPECT_EQ(found.numOfMatches, 20);
-    JsonStatus status;
-    for (const auto& [action, code] : {std::pair{0, 1}, {1, 1}, {3, 1}, {3, 1}, {1, 4}, {2, 1}}) {
-        EXPECT_TRUE(JsonConfigApp::GetHFPDManagementTask(status, action, 12, error, recorder));
-        EXPECT_EQ(status.statusCode, code) << action;
-    }
-
-    HFPDCapbility hfpd;
-    EXPECT_TRUE(JsonCapApp::GetHFPDCapability(hfpd, error, recorder));
-    EXPECT_TRUE(hfpd.isSupportDataPackage && hfpd.occurrences.def == 3);
-    IntersectionAnalysisCap intersection;
-    EXPECT_TRUE(JsonCapApp::GetIntersectionAnalysisCap(intersection, error,
-                                                       static_cast<unsigned>(int(dome)), 1));
-    EXPECT_TRUE(intersection.TagID.isSupportIDPoint && !intersection.TagID.isSupportIDDirection);
-    MisinfoConfirmCap misinfo;
-    EXPECT_TRUE(
-        JsonCapApp::getmisinfoConfirmCap(misinfo, error, static_cast<unsigned>(int(recorder))));
-    EXPECT_EQ(misinfo.state.opt.size(), 2u);
-    PortPoeInfoList ports;
-    EXPECT_TRUE(JsonConfigApp::getPortPoeInfoCfgList(ports, error, equipment));
-    EXPECT_FALSE(ports.ports.empty());
-    ManualPTDeicingCfg deicing;
-    EXPECT_TRUE(JsonConfigApp::GetManualPTDeicingCfg(deicing, error, 1, dome));
-    deicing.root["PTDeicing"]["enabled"] = true;
-    EXPECT_TRUE(JsonConfigApp::SetManualPTDeicingCfg(deicing, status, error, 1, dome));
-    EXPECT_EQ(status.statusCode, 1);
-    ManualPTDeicingCfg again;
-    EXPECT_TRUE(JsonConfigApp::GetManualPTDeicingCfg(again, error, 1, dome));
-    EXPECT_EQ(again.root, deicing.root);
 }
 
 // Requests made of pieces of real ones, at random but the same on every run, from several threads.
@@ -368,6 +183,28 @@ TEST(SearchTask, NoRequestStopsADevice)
                                               "[[[[",
                                               "<a>",
                                               "{"};
+    constexpr const char* kTargets[] = {
+        "SecurityCP/capabilities",
+        "SecurityCP/control/outputs",
+        "SecurityCP/control/bypass",
+        "SecurityCP/Log/search",
+        "SecurityCP/Configuration/zones/1",
+        "FireControl/Control/detectorAlarm/5",
+        "SDT/Face/captureSearch",
+        "SDT/Face/captureSearch/dataPackage",
+        "SDT/HFPD/searchTask",
+        "SDT/HFPD/searchTask/result/recordData/12",
+        "SDT/HFPD/search/dataPackage/14",
+        "SDT/Management/Task/pause/12",
+        "SDT/Management/Task/progress/12",
+        "SDT/Management/Task/cancel12",
+        "SDT/Management/analysisResult/search",
+        "Intelligent/FDLib/FCSearch",
+        "Intelligent/FDLib/FCSearch/dataPackage",
+        "Intelligent/FDLib/FCSearch/dataPackage/progress?taskID=pkg-1K",
+        "Intelligent/misinfoFilter/confirmation",
+        "ContentMgmt/SearchByTargetType",
+        "Radar/Configuration/alarmLineCfg"};
     const std::vector devices = {LoadDevice("alarmhost"), LoadDevice("recorder")};
     std::vector<std::thread> threads;
     for (unsigned seed = 0; seed < 4; ++seed) {
@@ -376,7 +213,7 @@ TEST(SearchTask, NoRequestStopsADevice)
             std::mt19937 random(seed);
             constexpr const char* kMethods[] = {"GET", "PUT", "POST", "DELETE"};
             for (int i = 0; i < 300; ++i) {
-                std::string target = Line(kLines[random() % std::size(kLines)]).target;
+                std::string target = kTargets[random() % std::size(kTargets)];
                 if (random() % 3 == 0) {
                     target.insert(random() % target.size(), 1, static_cast<char>(random() % 256));
                 }

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "Device/DeviceModel.h"
+#include "Device/DeviceServer.h"
 #include "support/SdkCalls.h"
 
 namespace TestSupport
@@ -57,22 +57,82 @@ inline Json::Value AskJson(Device::DeviceModel& model, const std::string& method
     return root;
 }
 
-/// A device of this process that the library asks.
+/// How a client reaches a simulated device.
+enum class Road
+{
+    InProcess,
+    Http  ///< over the loopback, with a password
+};
+
+/// A device of a profile and a login to it, for the library to ask.
 class Asked
 {
 public:
-    explicit Asked(const char* address) : login_(Info(address)) {}
-    operator int() const { return login_.UserID(); }
-
-private:
-    static tagNET_ORB_LOGIN_INFO Info(const char* address)
+    Asked(Road road, const std::string& profile) : address_("sim:" + profile)
     {
+        if (road == Road::Http)
+            Serve(profile);
         tagNET_ORB_LOGIN_INFO info{};
-        info.address = address;
-        return info;
+        info.address = address_.c_str();
+        info.userName = password_.empty() ? nullptr : "admin";
+        info.password = password_.empty() ? nullptr : password_.c_str();
+        login_ = std::make_unique<LoggedIn>(info);
+    }
+    Asked(const Asked&) = delete;
+    Asked& operator=(const Asked&) = delete;
+    operator int() const { return login_->UserID(); }
+
+    void SetFaults(std::vector<Device::Fault> faults)
+    {
+        std::string error;
+        if (!server_->SetFaults(std::move(faults), error))
+            throw std::runtime_error(error);
+    }
+    /// Ends the serving; what was asked of it until then, the login's questions too.
+    std::vector<Device::ServedRequest> EndServing()
+    {
+        server_->Stop();
+        return served_;
     }
 
-    LoggedIn login_;
+private:
+    void Serve(const std::string& profile)
+    {
+        const auto model = LoadDevice(profile);
+        std::string error;
+        server_ = Device::DeviceServer::Start(
+            model, {.log = [this](const auto& request) { served_.push_back(request); }}, error);
+        if (!server_)
+            throw std::runtime_error(error);
+        address_ = server_->Url();
+        password_ = *model->PasswordOf("admin");
+    }
+
+    std::string address_;
+    std::string password_;
+    std::vector<Device::ServedRequest> served_;  // written by the server's threads until it ends
+    std::unique_ptr<Device::DeviceServer> server_;
+    std::unique_ptr<LoggedIn> login_;
 };
+
+/// Tests of what a client meets whichever way it reaches a device.
+class OnEveryRoad : public testing::TestWithParam<Road>
+{
+protected:
+    static Asked Login(const std::string& profile) { return Asked(GetParam(), profile); }
+};
+
+inline std::string NameOfRoad(const testing::TestParamInfo<Road>& road)
+{
+    return road.param == Road::Http ? "Http" : "InProcess";
+}
+
+#define ON_EVERY_ROAD(suite)                                                                 \
+    class suite : public TestSupport::OnEveryRoad                                            \
+    {                                                                                        \
+    };                                                                                       \
+    INSTANTIATE_TEST_SUITE_P(                                                                \
+        Over, suite, testing::Values(TestSupport::Road::InProcess, TestSupport::Road::Http), \
+        TestSupport::NameOfRoad)
 
 }  // namespace TestSupport
