@@ -26,11 +26,11 @@ std::size_t ConversionLetter(std::string_view text)
     return at;
 }
 
-/// A zeroed buffer of at least `size` bytes that holds the text and a NUL.
-std::vector<char> Buffer(std::string_view text, std::size_t size)
+/// A formatted copy and its NUL in a zeroed buffer of at least `size` bytes.
+std::string Buffered(std::string_view text, std::size_t size)
 {
-    std::vector<char> buffer(std::max(size, text.size() + 1));
-    std::copy(text.begin(), text.end(), buffer.begin());
+    std::string buffer = FormattedCopy(text);
+    buffer.resize(std::max(buffer.size() + 1, size));
     return buffer;
 }
 
@@ -58,37 +58,13 @@ std::string FormattedCopy(std::string_view text)
     return copy;
 }
 
-JsonRequest::JsonRequest(int userID, std::string_view line, std::string_view body,
-                         const JsonOptions& options)
-    : Request(userID, "NET_ORB_STDXMLConfig"), timeout_(options.timeout)
+TransparentRequest JsonRequest(int userID, std::string_view line, std::string body,
+                               const JsonOptions& options)
 {
-    const std::string text = FormattedCopy(line);
-    line_ = Buffer(text, kLineBuffer);
-    lineLength_ = static_cast<unsigned int>(text.size());
     if (options.bodyForm == BodyForm::Padded)
-        body_ = Buffer(FormattedCopy(body), kBodyBuffer);
-    else
-        body_.assign(body.begin(), body.end());
-}
-
-bool JsonRequest::Send(char* buffer, unsigned int size)
-{
-    tagNET_ORB_XML_CONFIG_INPUT input{};
-    input.size = sizeof input;
-    input.requestUrl = line_.data();
-    input.requestUrlLength = lineLength_;
-    if (!body_.empty()) {
-        input.inBuffer = body_.data();
-        input.inBufferSize = static_cast<unsigned int>(body_.size());
-    }
-    input.receiveTimeout = timeout_;
-    tagNET_ORB_XML_CONFIG_OUTPUT output{};
-    output.size = sizeof output;
-    output.outBuffer = buffer;
-    output.outBufferSize = size;
-    const bool answered = NET_ORB_STDXMLConfig(UserID(), &input, &output) != 0;
-    returnedSize_ = std::min(output.returnedSize, size);
-    return answered;
+        body = Buffered(body, kBodyBuffer);
+    return TransparentRequest(userID, Buffered(line, kLineBuffer), std::move(body),
+                              options.timeout);
 }
 
 bool MakeLine(int userID, LineParts parts, std::string& line)
@@ -130,7 +106,7 @@ bool DownloadPackage(tagNET_ORB_XML_CONFIG_OUTPUT& output, unsigned int& err, in
         if (!MakeLine(userID, parts, line))
             return false;
         const JsonOptions options{.timeout = kPackageTimeout};
-        JsonRequest request(userID, line, body, options);
+        TransparentRequest request = JsonRequest(userID, line, body, options);
         ReceiveBuffer answer(kPackageGrowth.limit);
         if (!Ask(JsonOperation(place, options, kPackageGrowth), request, answer, err))
             return false;

@@ -7,7 +7,6 @@
 #include <string_view>
 #include <utility>
 #include <variant>
-#include <vector>
 
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/private/JsonReading.h"
@@ -49,25 +48,10 @@ struct JsonOptions
 /// on texts being sent so.
 std::string FormattedCopy(std::string_view text);
 
-/// A request line with a formatted copy in a zeroed buffer of 128 bytes, or of its length and one.
-class JsonRequest : public Request
-{
-public:
-    JsonRequest(int userID, std::string_view line, std::string_view body,
-                const JsonOptions& options);
-
-    bool Send(char* buffer, unsigned int size) override;
-
-    /// What the SDK says it returned for the last call, at most the buffer's size.
-    [[nodiscard]] unsigned int ReturnedSize() const { return returnedSize_; }
-
-private:
-    std::vector<char> line_;
-    unsigned int lineLength_;
-    std::vector<char> body_;
-    unsigned int timeout_;
-    unsigned int returnedSize_ = 0;
-};
+/// A request whose line is a formatted copy in a zeroed buffer of 128 bytes, or of its length and
+/// one.
+TransparentRequest JsonRequest(int userID, std::string_view line, std::string body,
+                               const JsonOptions& options);
 
 /// The text of a request line. False when it names a channel that the SDK cannot convert.
 bool MakeLine(int userID, LineParts parts, std::string& line);
@@ -103,7 +87,7 @@ bool AskJson(Out& out, unsigned int& err, int userID, const log::Place& place, L
         std::string line;
         if (!MakeLine(userID, parts, line))
             return false;
-        JsonRequest request(userID, line, makeBody(), options);
+        TransparentRequest request = JsonRequest(userID, line, makeBody(), options);
         const Operation operation = JsonOperation(place, options, kJsonGrowth);
         ReceiveBuffer answer(operation.growth.limit);
         if (!Ask(operation, request, answer, err))

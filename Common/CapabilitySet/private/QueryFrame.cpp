@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/QueryFrame.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "CommonMethod/SDKErrorCode/SDKErrorCode.h"
 #include "Vsk/OutputDebug.h"
 
@@ -87,7 +90,7 @@ bool TransparentRequest::Send(char* buffer, unsigned int size)
     tagNET_ORB_XML_CONFIG_INPUT input{};
     input.size = sizeof input;
     input.requestUrl = line_.data();
-    input.requestUrlLength = static_cast<unsigned int>(line_.size());
+    input.requestUrlLength = static_cast<unsigned int>(std::strlen(line_.c_str()));
     if (!body_.empty()) {
         input.inBuffer = body_.data();
         input.inBufferSize = static_cast<unsigned int>(body_.size());
@@ -97,7 +100,9 @@ bool TransparentRequest::Send(char* buffer, unsigned int size)
     output.size = sizeof output;
     output.outBuffer = buffer;
     output.outBufferSize = size;
-    return NET_ORB_STDXMLConfig(UserID(), &input, &output) != 0;
+    const bool answered = NET_ORB_STDXMLConfig(UserID(), &input, &output) != 0;
+    returnedSize_ = std::min(output.returnedSize, size);
+    return answered;
 }
 
 bool Ask(const Operation& operation, Request& request, ReceiveBuffer& answer, unsigned int& err)

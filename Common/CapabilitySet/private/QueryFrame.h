@@ -120,7 +120,7 @@ private:
     unsigned int channel_;
 };
 
-/// A request line on the device's protocol, with or without a body.
+/// A request line on the device's protocol, up to its first NUL, with or without a body.
 class TransparentRequest : public Request
 {
 public:
@@ -135,10 +135,14 @@ public:
 
     bool Send(char* buffer, unsigned int size) override;
 
+    /// What the SDK says it returned for the last call, at most the buffer's size.
+    [[nodiscard]] unsigned int ReturnedSize() const { return returnedSize_; }
+
 private:
     std::string line_;
     std::string body_;
     unsigned int timeout_;  ///< milliseconds, 0: the SDK's default
+    unsigned int returnedSize_ = 0;
 };
 
 /// Sends the request with larger and larger buffers until the answer fits. False: `err`, the last
