@@ -1,11 +1,8 @@
 // Exchanges with a device over HTTP, beside a client that keeps neither answers nor connections.
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdint>
-#include <cstdio>
-#include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include <curl/curl.h>
 
@@ -13,10 +10,13 @@
 #include "Comparison.h"
 #include "Device/DeviceServer.h"
 #include "PelNetSDK/Login.h"
+#include "PlainClient.h"
 
 namespace
 {
 
+using Bench::Need;
+using Bench::PlainClient;
 using CapabilitySet::DeviceCap;
 using Statistics = tagNET_ORB_STATISTICS;
 
@@ -25,66 +25,6 @@ constexpr char kUser[] = "admin";
 constexpr std::uint64_t kStep = 16384;
 constexpr std::uint64_t kGrowths = 20;
 constexpr int kQueries = 100;
-
-/// What one side needed.
-struct Need
-{
-    double exchanges = 0;
-    double connections = 0;
-};
-
-/// A client that fetches documents and keeps its connection as long as it lives.
-class PlainClient
-{
-public:
-    PlainClient(const std::string& url, const std::string& password)
-    {
-        CURL* const curl = handle_.get();
-        curl_easy_setopt(curl, CURLOPT_URL, (url + kPath).c_str());
-        curl_easy_setopt(curl, CURLOPT_PROXY, "");
-        curl_easy_setopt(curl, CURLOPT_HTTPAUTH, CURLAUTH_DIGEST);
-        curl_easy_setopt(curl, CURLOPT_USERNAME, kUser);
-        curl_easy_setopt(curl, CURLOPT_PASSWORD, password.c_str());
-        curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &PlainClient::OnBody);
-        curl_easy_setopt(curl, CURLOPT_WRITEDATA, &received_);
-        curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &PlainClient::OnHeader);
-        curl_easy_setopt(curl, CURLOPT_HEADERDATA, &need_);
-    }
-
-    /// Bytes of the document; 0 when there was none.
-    std::uint64_t Get()
-    {
-        received_ = 0;
-        long status = 0;
-        long connections = 0;
-        const CURLcode result = curl_easy_perform(handle_.get());
-        curl_easy_getinfo(handle_.get(), CURLINFO_RESPONSE_CODE, &status);
-        curl_easy_getinfo(handle_.get(), CURLINFO_NUM_CONNECTS, &connections);
-        need_.connections += static_cast<double>(connections);
-        return result == CURLE_OK && status == 200 ? received_ : 0;
-    }
-
-    [[nodiscard]] Need Needed() const { return need_; }
-
-private:
-    static std::size_t OnBody(const char* /*data*/, std::size_t size, std::size_t count, void* into)
-    {
-        *static_cast<std::uint64_t*>(into) += size * count;
-        return size * count;
-    }
-
-    static std::size_t OnHeader(const char* line, std::size_t size, std::size_t count, void* into)
-    {
-        if (std::string_view(line, size * count).substr(0, 5) == "HTTP/")
-            static_cast<Need*>(into)->exchanges += 1;
-        return size * count;
-    }
-
-    std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> handle_{curl_easy_init(),
-                                                                curl_easy_cleanup};
-    std::uint64_t received_ = 0;
-    Need need_;
-};
 
 /// A device on the loopback, and a session with it.
 struct Site
@@ -148,7 +88,7 @@ bool AskLargeAnswer(Site& site, Need& plain, Need& ours)
     padding.kind = Device::FaultKind::Oversize;
     padding.pathPrefix = kPath;
     padding.bytes = kGrowths * kStep;
-    PlainClient client(site.server->Url(), site.password);
+    PlainClient client(site.server->Url() + kPath, kUser, site.password);
     if (client.Get() == 0 || !site.server->SetFaults({padding}, site.error))
         return false;
     const double before = client.Needed().exchanges;
@@ -165,7 +105,7 @@ bool AskLargeAnswer(Site& site, Need& plain, Need& ours)
 bool AskOften(Site& site, Need& plain, Need& ours)
 {
     for (int i = 0; i < kQueries; ++i) {
-        PlainClient client(site.server->Url(), site.password);
+        PlainClient client(site.server->Url() + kPath, kUser, site.password);
         if (client.Get() == 0)
             return false;
         plain.exchanges += client.Needed().exchanges;

@@ -12,6 +12,13 @@ namespace
 {
 constexpr std::size_t kFirstBlock = 16 * 1024;
 constexpr std::size_t kLargestBlock = 4 * 1024 * 1024;
+
+/// Copies what of the block, which begins at `begin`, is among the first `count` bytes.
+std::size_t CopyBlock(const std::string& block, void* target, std::size_t begin,
+                      std::size_t count) noexcept
+{
+    return begin < count ? block.copy(static_cast<char*>(target) + begin, count - begin) : 0;
+}
 }  // namespace
 
 AnswerBody::AnswerBody(AnswerBody&& other) noexcept
@@ -69,16 +76,22 @@ void AnswerBody::Clear() noexcept
 
 std::size_t AnswerBody::CopyTo(void* target, std::size_t count) const noexcept
 {
-    auto* to = static_cast<char*>(target);
     std::size_t copied = 0;
     for (const std::string& block : blocks_) {
-        const std::size_t part = std::min(count - copied, block.size());
-        if (part == 0) {
-            break;
-        }
-        block.copy(to + copied, part);
-        copied += part;
+        copied += CopyBlock(block, target, copied, count);
     }
+    return copied;
+}
+
+std::size_t AnswerBody::MoveTo(void* target, std::size_t count) noexcept
+{
+    const std::size_t copied = std::min(count, size_);
+    // Backwards: the newest block lies at the end of the heap, which shrinks only from there.
+    for (std::size_t begin = size_; !blocks_.empty(); blocks_.pop_back()) {
+        begin -= blocks_.back().size();
+        CopyBlock(blocks_.back(), target, begin, count);
+    }
+    Clear();
     return copied;
 }
 

@@ -34,6 +34,9 @@ public:
     [[nodiscard]] std::size_t Limit() const noexcept { return limit_; }
     /// Copies the first `count` bytes, or all when there are fewer; returns how many.
     std::size_t CopyTo(void* target, std::size_t count) const noexcept;
+    /// The same, giving back each block once it is copied: no large answer is held twice. Nothing
+    /// is left of the body.
+    std::size_t MoveTo(void* target, std::size_t count) noexcept;
     /// The first `count` bytes, or all when there are fewer.
     [[nodiscard]] std::string Head(std::size_t count) const;
 

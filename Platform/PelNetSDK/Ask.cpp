@@ -21,19 +21,18 @@ void Report(const AnswerSpace& space, std::size_t bytes)
     }
 }
 
-/// Copies as much as fits, ended by a NUL when there is room for one.
-std::size_t CopyText(const AnswerBody& body, void* target, unsigned size)
+/// A text in a buffer is ended by a NUL when there is room for one.
+void EndText(void* buffer, std::size_t length, unsigned size)
 {
-    const std::size_t copied = body.CopyTo(target, size);
-    if (copied < size) {
-        static_cast<char*>(target)[copied] = '\0';
+    if (length < size) {
+        static_cast<char*>(buffer)[length] = '\0';
     }
-    return copied;
 }
 
 void GiveStatus(const AnswerSpace& space, const AnswerBody& body)
 {
-    const std::size_t copied = CopyText(body, space.status, space.statusSize);
+    const std::size_t copied = body.CopyTo(space.status, space.statusSize);
+    EndText(space.status, copied, space.statusSize);
     if (space.returnsStatusSize) {
         Report(space, copied);
     }
@@ -66,7 +65,7 @@ int GiveAnswer(Session& session, const TransportRequest& request, const AnswerSp
         session.Keep(request, space.size, std::move(body));
         return Fail(NET_ORB_BUFFER_TOO_SMALL);
     }
-    CopyText(body, space.buffer, space.size);
+    EndText(space.buffer, body.MoveTo(space.buffer, space.size), space.size);
     return 1;
 }
 

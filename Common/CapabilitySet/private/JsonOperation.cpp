@@ -3,7 +3,6 @@
 #include "CapabilitySet/private/JsonOperation.h"
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 
 namespace CapabilitySet::query
@@ -112,7 +111,7 @@ bool DownloadPackage(tagNET_ORB_XML_CONFIG_OUTPUT& output, unsigned int& err, in
             return false;
         const unsigned int size = request.ReturnedSize();
         auto package = std::make_unique_for_overwrite<char[]>(size);
-        std::memcpy(package.get(), answer.Data(), size);
+        answer.MoveTo(package.get(), size);
         output.outBuffer = package.release();
         output.returnedSize = size;
         return true;

@@ -19,6 +19,8 @@ namespace
 constexpr std::size_t kSmallestMapping = 128 * 1024;
 /// Answers mostly fit the start of a buffer: cleared in place it keeps its pages.
 constexpr std::size_t kClearedInPlace = 16 * 1024;
+/// A multiple of every page size.
+constexpr std::size_t kMovedAtOnce = 4 * 1024 * 1024;
 
 #if defined(__unix__)
 char* MapPages(std::size_t size)
@@ -33,11 +35,15 @@ void UnmapPages(char* pages, std::size_t size)
     munmap(pages, size);
 }
 
+bool GiveBack(char* pages, std::size_t size)
+{
+    return madvise(pages, size, MADV_DONTNEED) == 0;
+}
+
 bool ZeroPages(char* pages, std::size_t size)
 {
     std::memset(pages, 0, std::min(size, kClearedInPlace));
-    return size <= kClearedInPlace ||
-           madvise(pages + kClearedInPlace, size - kClearedInPlace, MADV_DONTNEED) == 0;
+    return size <= kClearedInPlace || GiveBack(pages + kClearedInPlace, size - kClearedInPlace);
 }
 #else
 char* MapPages(std::size_t /*size*/)
@@ -46,6 +52,11 @@ char* MapPages(std::size_t /*size*/)
 }
 
 void UnmapPages(char* /*pages*/, std::size_t /*size*/) {}
+
+bool GiveBack(char* /*pages*/, std::size_t /*size*/)
+{
+    return false;
+}
 
 bool ZeroPages(char* /*pages*/, std::size_t /*size*/)
 {
@@ -99,6 +110,17 @@ bool ReceiveBuffer::Map(std::size_t size)
         }
     }
     return false;
+}
+
+void ReceiveBuffer::MoveTo(char* target, std::size_t count)
+{
+    const std::size_t step = mapped_ != 0 ? kMovedAtOnce : count;
+    for (std::size_t at = 0; at < count; at += step) {
+        const std::size_t part = std::min(step, count - at);
+        std::memcpy(target + at, data_ + at, part);
+        if (mapped_ != 0)
+            GiveBack(data_ + at, part);
+    }
 }
 
 std::string_view ReceiveBuffer::Text() const

@@ -28,8 +28,9 @@ public:
     /// The text received: up to the first NUL, or all of a buffer that is full.
     [[nodiscard]] std::string_view Text() const;
 
-    [[nodiscard]] const char* Data() const { return data_; }
-    [[nodiscard]] std::size_t Size() const { return size_; }
+    /// Copies the first `count` bytes, at most the size, and gives a mapping's pages back as it
+    /// goes: no package is held twice. The buffer's content is lost.
+    void MoveTo(char* target, std::size_t count);
 
 private:
     void Release();
