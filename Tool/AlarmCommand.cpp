@@ -3,8 +3,10 @@
 #include <memory>
 
 #include "AlarmItems.h"
+#include "AlarmLists.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "DeviceCommand.h"
+#include "JsonOutput.h"
 #include "JsonRecord.h"
 #include "Paging.h"
 #include "Text.h"
@@ -39,16 +41,6 @@ Part Fetch(const char* path)
     };
 }
 
-/// The detectors with their numbers, which their record leaves in its root.
-RecordNode ReadDetectors(Talk& talk, const char* name)
-{
-    DetectorStates states;
-    talk.Do([&](unsigned int& error) {
-        return JsonConfigApp::GetDetectorStates(states, error, talk.UserID());
-    });
-    return tree::Node(name, states.root);
-}
-
 struct NamedPart
 {
     const char* name;
@@ -78,45 +70,6 @@ const std::vector<NamedPart>& ConfigurationParts()
     return all;
 }
 
-/// The flags of a row as one text of those that are set: "armed, open".
-RecordNode WithState(RecordNode row)
-{
-    const auto isFlag = [](const RecordNode& each) { return each.kind == RecordNode::Kind::Flag; };
-    if (std::ranges::count_if(row.children, isFlag) < 2) {
-        return row;
-    }
-    RecordNode state = tree::Text("state", {});
-    for (const RecordNode& each : row.children) {
-        if (isFlag(each) && each.text == "true") {
-            state.text += (state.text.empty() ? "" : ", ") + each.name;
-        }
-    }
-    state.announced = !state.text.empty();
-    std::erase_if(row.children, isFlag);
-    row.children.push_back(std::move(state));
-    return row;
-}
-
-/// A host's list stands below "List", each item wrapped in an object of its own: for people the
-/// rows alone.
-RecordNode Rows(const RecordNode& part)
-{
-    RecordNode rows = part;
-    rows.children.clear();
-    for (const RecordNode& member : part.children) {
-        if (member.kind == RecordNode::Kind::List) {
-            rows.kind = RecordNode::Kind::List;
-            rows.children.clear();
-            std::ranges::transform(
-                member.children, std::back_inserter(rows.children),
-                [](const RecordNode& item) { return WithState(Flattened(item)); });
-            return rows;
-        }
-        rows.children.push_back(member);
-    }
-    return rows;
-}
-
 void AddPartsCommand(CLI::App& group, CommandLine& line, const CommandText& text,
                      const std::string& title, const std::vector<NamedPart>& parts)
 {
@@ -128,7 +81,7 @@ void AddPartsCommand(CLI::App& group, CommandLine& line, const CommandText& text
             if (wanted->empty() || std::ranges::count(*wanted, part.name) > 0) {
                 talk.Say(part.name);
                 report.values.children.push_back(part.read(talk, part.name));
-                report.shown->children.push_back(Rows(report.values.children.back()));
+                report.shown->children.push_back(HostRows(report.values.children.back()));
             }
         }
         return report;
@@ -171,6 +124,9 @@ void AddLogCommand(CLI::App& group, CommandLine& line)
     AddTimeOptions(command, options->time);
     AddPageOptions(command, options->page);
 }
+
+/// The library's number for all items that a request's body lists.
+constexpr int kBatch = -1;
 
 struct ItemOptions
 {
@@ -248,7 +204,6 @@ void AddZoneCommand(CLI::App& group, CommandLine& line, const CommandText& text,
 {
     const auto options = std::make_shared<ItemOptions>();
     CLI::App& command = AddDeviceCommand(group, line, text, [options, operation](Talk& talk) {
-        constexpr int kBatch = -1;
         const auto send = [&](int zone) {
             AlarmHostBypassCfg cfg;
             cfg.zone = JoinedNumbers(options->ids);
@@ -262,31 +217,54 @@ void AddZoneCommand(CLI::App& group, CommandLine& line, const CommandText& text,
     AddItems(command, *options, "zone");
 }
 
-void AddOutputCommand(CLI::App& group, CommandLine& line)
+/// Sends a switch's position to one item, or with kBatch to all that the options list.
+using SwitchSender = std::function<void(Talk& talk, const ItemOptions& options, int id)>;
+
+void AddSwitchCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+                      const SwitchSender& sender)
 {
     const auto options = std::make_shared<ItemOptions>();
-    CLI::App& command = AddDeviceCommand(
-        group, line, {"output", "Switch outputs", "sim:alarmhost --output 1,2 --on"},
-        [options](Talk& talk) {
-            if (options->on == options->off) {
-                throw Failure("say --on or --off", kUsage);
-            }
-            constexpr int kBatch = -1;
-            const auto send = [&](int output) {
-                AlarmHostOutputCfg cfg;
-                cfg.switchState = options->on ? "open" : "close";
-                cfg.ids = options->ids;
-                JsonErrorStatusList errors;
-                talk.Do([&](unsigned int& error) {
-                    return JsonConfigApp::SetOutputControl(cfg, error, errors, output,
-                                                           talk.UserID());
-                });
-            };
-            return CommandItems(talk, "output", options->ids, send, [&] { send(kBatch); });
-        });
-    AddItems(command, *options, "output");
+    const std::string noun = text.name;
+    CLI::App& command = AddDeviceCommand(group, line, text, [options, noun, sender](Talk& talk) {
+        if (options->on == options->off) {
+            throw Failure("say --on or --off", kUsage);
+        }
+        const auto send = [&](int id) { sender(talk, *options, id); };
+        return CommandItems(talk, noun, options->ids, send, [&] { send(kBatch); });
+    });
+    AddItems(command, *options, noun);
     CLI::Option* const on = command.add_flag("--on", options->on, "switch on")->group("Command");
     command.add_flag("--off", options->off, "switch off")->group("Command")->excludes(on);
+}
+
+const char* PositionOf(const ItemOptions& options)
+{
+    return options.on ? "open" : "close";
+}
+
+void SwitchOutput(Talk& talk, const ItemOptions& options, int id)
+{
+    AlarmHostOutputCfg cfg;
+    cfg.switchState = PositionOf(options);
+    cfg.ids = options.ids;
+    JsonErrorStatusList errors;
+    talk.Do([&](unsigned int& error) {
+        return JsonConfigApp::SetOutputControl(cfg, error, errors, id, talk.UserID());
+    });
+}
+
+/// The library has no operation for sirens.
+void SwitchSiren(Talk& talk, const ItemOptions& options, int id)
+{
+    Json::Value body;
+    body["SirensCtrl"]["switch"] = PositionOf(options);
+    for (const int each : options.ids) {
+        body["SirensCtrl"]["List"].append(Json::Value())["id"] = each;
+    }
+    const std::string path = "/TARN/SecurityCP/control/sirens";
+    talk.Send(id == kBatch ? "POST " + path + "?format=json"
+                           : "PUT " + path + "/" + std::to_string(id) + "?format=json",
+              Dump(body));
 }
 
 void AddDetectorCommand(CLI::App& group, CommandLine& line)
@@ -304,7 +282,7 @@ void AddDetectorCommand(CLI::App& group, CommandLine& line)
                     return JsonConfigApp::SetDetectorSilence(status, silence, error, detector,
                                                              options->sensor, talk.UserID());
                 });
-                talk.Check(status);
+                talk.CheckStatus();
             };
             // The protocol has no batch of them.
             return CommandItems(talk, "detector", options->ids, send, {});
@@ -331,6 +309,12 @@ void AddAlarmCommands(CLI::App& app, CommandLine& line)
                     "AlarmHostStatus", StatusParts());
     AddPartsCommand(group, line, {"config", "Tell how the host is set up", "sim:alarmhost outputs"},
                     "AlarmHostConfiguration", ConfigurationParts());
+    AddDeviceCommand(
+        group, line,
+        {"zones", "List the zones, how they are set up and what they are doing", "sim:alarmhost"},
+        ListZones);
+    AddDeviceCommand(group, line, {"detectors", "List the fire detectors", "sim:alarmhost"},
+                     ListDetectors);
     AddLogCommand(group, line);
     AddSubSystemCommands(group, line);
     AddZoneCommand(group, line, {"bypass", "Bypass zones", "sim:alarmhost --zone 3"},
@@ -338,7 +322,10 @@ void AddAlarmCommands(CLI::App& app, CommandLine& line)
     AddZoneCommand(group, line,
                    {"recover", "Take zones back from bypass", "sim:alarmhost --zone 3"},
                    &JsonConfigApp::SetDevBypassRecover);
-    AddOutputCommand(group, line);
+    AddSwitchCommand(group, line, {"output", "Switch outputs", "sim:alarmhost --output 1,2 --on"},
+                     SwitchOutput);
+    AddSwitchCommand(group, line, {"siren", "Switch sirens", "sim:alarmhost --siren 4 --off"},
+                     SwitchSiren);
     AddDetectorCommand(group, line);
 }
 

@@ -90,7 +90,7 @@ Report CommandItems(Talk& talk, const std::string& noun, const std::vector<int>&
         ids.size() == 1 ? one(ids.front()) : batch();
         errors = ItemErrors(talk.Answer());
         if (errors.empty()) {
-            talk.Check(JsonStatus(talk.Answer()));
+            talk.CheckStatus();
         }
     }
     Report report{{"Result", RecordNode::Kind::Record, {}, true, {}}};

@@ -5,6 +5,7 @@
 #include <memory>
 #include <utility>
 
+#include "Document.h"
 #include "JsonOutput.h"
 #include "PelNetSDK/Login.h"
 #include "Records.h"
@@ -79,11 +80,25 @@ int RunDeviceCommand(const std::string& command, const DeviceOptions& options,
 Talk::Talk(const Session& session, std::string command)
     : session_(session), what_(std::move(command) + " at " + session.Device()), progress_(what_)
 {
+    const auto receive = [](unsigned long long received, unsigned long long total, void* talk) {
+        static_cast<Talk*>(talk)->progress_.Receive(received, total);
+    };
+    NET_ORB_SetReceiveProgress(receive, this);
 }
 
-void Talk::Say(const std::string& what)
+Talk::~Talk()
 {
-    progress_.Say(what_ + ": " + what);
+    NET_ORB_SetReceiveProgress(nullptr, nullptr);
+}
+
+void Talk::Say(const std::string& step, int percent)
+{
+    progress_.Say(step, percent);
+}
+
+void Talk::Fail(Refusal refusal) const
+{
+    throw DeviceFailure(what_, std::move(refusal));
 }
 
 void Talk::Fail(unsigned int error, const std::string& document) const
@@ -93,20 +108,25 @@ void Talk::Fail(unsigned int error, const std::string& document) const
         // Nothing was sent: only a channel that cannot be converted ends so.
         number = NET_ORB_CHANNEL_ERROR;
     }
-    throw DeviceFailure(what_, {LastFailure(number), document});
+    Fail({LastFailure(number), document});
 }
 
-void Talk::Check(const CapabilitySet::JsonStatus& status) const
+void Talk::CheckStatus() const
 {
-    constexpr int kCarriedOut = 1;
-    // Some devices answer a request they carried out with no status at all.
-    const bool isSilent = status.statusCode == 0 && status.subStatusCode.empty();
-    if (status.statusCode == kCarriedOut || isSilent) {
-        return;
+    std::string code;
+    std::string word;
+    for (const auto& [name, text] : ReadStatus(answer_)) {
+        code = name == "statusCode" ? text : code;
+        word = name == "subStatusCode" ? text : word;
     }
-    const SdkFailure failure{
-        NET_ORB_DEVICE_REFUSED, NET_ORB_GetErrorText(NET_ORB_DEVICE_REFUSED), {}};
-    throw DeviceFailure(what_, {failure, Dump(ToJson(CapabilitySet::Describe({}, status)))});
+    // Some devices answer a request that they carried out with no status at all.
+    constexpr const char* kCarriedOut = "1";
+    const bool isDone = code.empty() ? word.empty() || word == "ok" : code == kCarriedOut;
+    const bool isDocument = Trimmed(answer_).empty() || IsDocument(answer_);
+    if (!isDone || !isDocument) {
+        const unsigned int error = isDocument ? NET_ORB_DEVICE_REFUSED : NET_ORB_NETWORK_ERRORDATA;
+        Fail({{error, NET_ORB_GetErrorText(error), {}}, answer_});
+    }
 }
 
 std::string Talk::Send(const std::string& request, const std::string& body)

@@ -9,7 +9,6 @@
 
 #include "AnswerTap.h"
 #include "Arguments.h"
-#include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/RecordTree.h"
 #include "CapabilitySet/XMLParamInterface/SDKInterfaceManager.h"
 #include "Progress.h"
@@ -24,11 +23,17 @@ class Talk
 public:
     /// `command` as it was typed: "alarm arm".
     Talk(const Session& session, std::string command);
+    ~Talk();
+    Talk(const Talk&) = delete;
+    Talk& operator=(const Talk&) = delete;
 
     [[nodiscard]] int UserID() const { return session_.UserID(); }
+    /// The device's address without the user.
+    [[nodiscard]] const std::string& Device() const { return session_.Device(); }
 
-    /// What the line of progress tells from now on, behind the command and the device.
-    void Say(const std::string& what);
+    /// What the line of progress tells from now on, behind the command and the device, and how many
+    /// percent of it are done, if one knows. It tells by itself how much of a long answer has come.
+    void Say(const std::string& step, int percent = -1);
 
     /// Runs an operation of the library, `operation(error)`, and throws a DeviceFailure with what
     /// the device said when it fails. It returns bool with an error number in its argument, which
@@ -56,8 +61,12 @@ public:
     /// it.
     [[nodiscard]] const std::string& Answer() const { return answer_; }
 
-    /// Throws a DeviceFailure unless the device says that it carried the request out.
-    void Check(const CapabilitySet::JsonStatus& status) const;
+    /// Throws a DeviceFailure when the last answer is a status document that says that the device
+    /// did not carry the request out, or is no answer to a command at all.
+    void CheckStatus() const;
+
+    /// Ends the command with what the device said.
+    [[noreturn]] void Fail(Refusal refusal) const;
 
     /// Sends a request that no operation of the library stands for, "GET /TARN/...", and returns
     /// the answer.

@@ -123,6 +123,13 @@ std::string Pretty(const std::string& document)
     return isJson ? Dump(value, JsonText::Utf8) : document;
 }
 
+bool IsDocument(const std::string& text)
+{
+    Json::Value value;
+    return ParseXml(text) != nullptr ||
+           (ReadJson(text, value) && (value.isObject() || value.isArray()));
+}
+
 bool IsBinary(const std::string& document)
 {
     return std::ranges::any_of(document, [](char c) {

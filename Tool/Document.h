@@ -14,6 +14,9 @@ namespace Tool
 /// else as it is.
 std::string Pretty(const std::string& document);
 
+/// Whether it is a JSON object or array, or XML.
+bool IsDocument(const std::string& text);
+
 /// Whether a terminal cannot show it as text.
 bool IsBinary(const std::string& document);
 

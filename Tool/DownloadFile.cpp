@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DownloadFile.h"
 
-#include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -18,70 +16,26 @@
 namespace Tool
 {
 
-namespace
+DownloadFile::DownloadFile(std::string file)
+    : file_(std::move(file)), unfinished_(file_ + ".XXXXXX")
 {
-
-constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP};
-
-// The signal handler knows nothing else. Empty: there is no unfinished file.
-std::array<char, 4096> unfinished{};
-
-void RemoveUnfinished()
-{
-    if (unfinished.front() != '\0') {
-        unlink(unfinished.data());
-        unfinished.front() = '\0';
-    }
-}
-
-void EndBySignal(int signal)
-{
-    RemoveUnfinished();
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
-}
-
-void Handle(void (*handler)(int))
-{
-    for (const int signal : kSignals) {
-        std::signal(signal, handler);
-    }
-}
-
-}  // namespace
-
-DownloadFile::DownloadFile(std::string file) : file_(std::move(file))
-{
-    const std::string pattern = file_ + ".XXXXXX";
-    if (pattern.size() >= unfinished.size()) {
+    if (unfinished_.size() > AtInterruption::kLongest) {
         throw Failure("cannot write " + file_ + ": its name is too long");
     }
-    // No signal may come between the file and its name.
-    sigset_t held{};
-    sigset_t former{};
-    for (const int signal : kSignals) {
-        sigaddset(&held, signal);
-    }
-    pthread_sigmask(SIG_BLOCK, &held, &former);
-    std::array<char, 4096> name{};
-    pattern.copy(name.data(), name.size() - 1);
-    descriptor_ = mkstemp(name.data());
-    const int error = errno;
-    if (descriptor_ >= 0) {
-        unfinished = name;
-        Handle(EndBySignal);
-    }
-    pthread_sigmask(SIG_SETMASK, &former, nullptr);
-    errno = error;
+    // No signal may come between the file and its removal.
+    const SignalsHeld held;
+    descriptor_ = mkstemp(unfinished_.data());
     if (descriptor_ < 0) {
         Fail();
     }
+    removal_.emplace(AtInterruption::Kind::RemoveFile, unfinished_);
 }
 
 DownloadFile::~DownloadFile()
 {
-    Handle(SIG_DFL);
-    RemoveUnfinished();
+    if (removal_) {
+        unlink(unfinished_.c_str());
+    }
     if (descriptor_ >= 0) {
         close(descriptor_);
     }
@@ -106,10 +60,10 @@ void DownloadFile::Finish(std::string_view bytes)
     const mode_t mask = umask(0);
     umask(mask);
     if (fchmod(descriptor_, 0666 & ~mask) != 0 || fsync(descriptor_) != 0 ||
-        std::rename(unfinished.data(), file_.c_str()) != 0) {
+        std::rename(unfinished_.c_str(), file_.c_str()) != 0) {
         Fail();
     }
-    unfinished.front() = '\0';
+    removal_.reset();
 }
 
 }  // namespace Tool

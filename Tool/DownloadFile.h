@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "Interruption.h"
 
 namespace Tool
 {
 
 /// Collects what is written beside the file and takes its place when it is finished. What is not
-/// finished goes with the object, and also when SIGINT, SIGTERM or SIGHUP ends the program. One
-/// object at a time.
+/// finished goes with the object, and also when a signal ends the program. One object at a time.
 class DownloadFile
 {
 public:
@@ -20,6 +22,8 @@ public:
     DownloadFile(const DownloadFile&) = delete;
     DownloadFile& operator=(const DownloadFile&) = delete;
 
+    [[nodiscard]] const std::string& Name() const { return file_; }
+
     /// Writes all of it and puts the file in its place. Throws a failure when the disk is full or
     /// gone; nothing is left behind then.
     void Finish(std::string_view bytes);
@@ -28,6 +32,8 @@ private:
     [[noreturn]] void Fail() const;
 
     const std::string file_;
+    std::string unfinished_;  ///< its name until it is finished
+    std::optional<AtInterruption> removal_;
     int descriptor_ = -1;
 };
 

@@ -62,13 +62,14 @@ RecordNode Joined(RecordNode node)
 
 void MoveUp(const RecordNode& node, RecordNode& row, std::set<std::string>& names)
 {
+    std::vector<const RecordNode*> nested;
     for (const RecordNode& child : node.children) {
         const bool isList = child.kind == RecordNode::Kind::List;
         if (!child.announced || (isList && child.children.empty()) || IsAttribute(child)) {
             continue;
         }
         if (!isList && !InOneLine(child)) {
-            MoveUp(child, row, names);
+            nested.push_back(&child);
             continue;
         }
         const bool isTaken = !names.insert(child.name).second;
@@ -78,6 +79,10 @@ void MoveUp(const RecordNode& node, RecordNode& row, std::set<std::string>& name
             moved.name = node.children.size() == 1 ? node.name : node.name + "/" + child.name;
         }
         row.children.push_back(std::move(moved));
+    }
+    // A row's own "status" comes before that of its "Smoke".
+    for (const RecordNode* each : nested) {
+        MoveUp(*each, row, names);
     }
 }
 
@@ -100,19 +105,26 @@ std::string Amount(std::size_t got, const Page& last)
                     : Counted(got, "result") + (last.hasMore ? ", and there are more" : "");
 }
 
+void AddNumber(CLI::App& command, const char* name, int& value, int least, const char* description)
+{
+    constexpr int kLargest = 100000;
+    command.add_option(name, value, description)
+        ->check(CLI::Range(least, kLargest).description(""))
+        ->type_name("N")
+        ->group("Search");
+}
+
 }  // namespace
 
 void AddPageOptions(CLI::App& command, PageOptions& options)
 {
-    constexpr int kLargest = 100000;
-    const auto add = [&command](const char* name, int& value, int least, const char* description) {
-        command.add_option(name, value, description)
-            ->check(CLI::Range(least, kLargest).description(""))
-            ->type_name("N")
-            ->group("Search");
-    };
-    add("--max", options.pageSize, 1, "results asked for at once, 50 by default");
-    add("--limit", options.limit, 0, "most results to fetch, all by default");
+    AddNumber(command, "--max", options.pageSize, 1, "results asked for at once, 50 by default");
+    AddLimitOption(command, options);
+}
+
+void AddLimitOption(CLI::App& command, PageOptions& options)
+{
+    AddNumber(command, "--limit", options.limit, 0, "most results to fetch, all by default");
 }
 
 void AddTimeOptions(CLI::App& command, TimeOptions& options)

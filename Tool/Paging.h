@@ -21,6 +21,9 @@ struct PageOptions
 /// --max and --limit.
 void AddPageOptions(CLI::App& command, PageOptions& options);
 
+/// --limit alone, for what comes in one page.
+void AddLimitOption(CLI::App& command, PageOptions& options);
+
 /// The time that a search looks at.
 struct TimeOptions
 {

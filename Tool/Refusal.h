@@ -14,8 +14,12 @@ namespace Tool
 struct Refusal
 {
     SdkFailure failure;
-    std::string document;  ///< the device's status document, or whatever came in its place
+    std::string document;   ///< the device's status document, or whatever came in its place
+    std::string task = {};  ///< what goes on in the device all the same; empty: nothing
 };
+
+/// How a person takes a task up again, behind a semicolon: "; take it up again with --task 12".
+std::string TaskHint(const std::string& task);
 
 /// "error 29: the device refused the request; the device says: statusCode 4, ...", with a hint.
 std::string Told(const Refusal& refusal);

@@ -1,18 +1,16 @@
-// capset search: recordings, faces and targets that a device holds.
+// capset search: recordings, faces, targets and people that a device holds.
 // SPDX-License-Identifier: Apache-2.0
-#include <chrono>
 #include <memory>
-#include <thread>
 
 #include "Assignment.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 #include "DeviceCommand.h"
-#include "DownloadFile.h"
 #include "JsonRecord.h"
+#include "PackageDownload.h"
 #include "Paging.h"
-#include "PelNetSDK/PelNetSDK.h"
-#include "Text.h"
+#include "SearchCommands.h"
+#include "TaskRun.h"
 
 namespace Tool
 {
@@ -31,6 +29,7 @@ struct SearchOptions
     std::vector<int> channels;
     std::vector<std::string> filters;
     std::string download;
+    TaskOptions task;  ///< of the download
 };
 using Options = std::shared_ptr<SearchOptions>;
 
@@ -54,25 +53,6 @@ void AddListOption(CLI::App& command, const char* name, auto& value, const char*
         ->allow_extra_args(false)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
         ->group("Search");
-}
-
-void AddDownload(CLI::App& command, SearchOptions& options)
-{
-    command
-        .add_option("--download", options.download,
-                    "save what is found as the device packs it, in place of a table")
-        ->type_name("FILE")
-        ->group("Search");
-}
-
-Report Saved(DownloadFile& file, const std::string& name, std::string_view bytes)
-{
-    file.Finish(bytes);
-    return {{"Download",
-             RecordNode::Kind::Record,
-             {},
-             true,
-             {tree::Text("file", name), tree::Whole("bytes", bytes.size())}}};
 }
 
 /// Asks for pages of JSON by a description that is the same but for its page.
@@ -129,50 +109,38 @@ Report SearchCaptures(Talk& talk, const SearchOptions& options)
     DownloadFile file(options.download);
     description.searchID = NewSearchID();
     description.maxResults = options.page.pageSize;
-    tagNET_ORB_XML_CONFIG_OUTPUT package{};
-    talk.Say("downloading");
-    talk.Do([&](unsigned int& error) {
-        return JsonConfigApp::GetFCDataPackageByJson(description, package, error, talk.UserID());
-    });
-    const std::unique_ptr<char[]> bytes(static_cast<char*>(package.outBuffer));
-    return Saved(file, options.download, {bytes.get(), package.returnedSize});
+    return Download(
+        talk, file, [&](tagNET_ORB_XML_CONFIG_OUTPUT& package, unsigned int& error, int userID) {
+            return JsonConfigApp::GetFCDataPackageByJson(description, package, error, userID);
+        });
 }
 
-/// The path of a package on the device that the talk is with.
-std::string PathOf(const std::string& url)
+/// Has the device pack what a search finds, a task, and saves the package.
+Report DownloadFaces(Talk& talk, const SearchOptions& options, FDLibSearchDescription& description)
 {
-    const std::size_t scheme = url.find("://");
-    const std::size_t path = scheme == std::string::npos ? 0 : url.find('/', scheme + 3);
-    if (path == std::string::npos || url.compare(path, 1, "/") != 0) {
-        throw Failure("the device names no place of its package: \"" + url + "\"");
-    }
-    return url.substr(path);
-}
-
-/// Has the device pack what the search finds, waits, and returns the package.
-std::string FetchFacePackage(Talk& talk, FDLibSearchDescription& description)
-{
-    FDLibFCSearchPackageByJsonResult task;
-    talk.Do([&](unsigned int& error) {
-        return JsonConfigApp::GetFDLibFCSearchDataPackageTaskID(description, task, error,
-                                                                talk.UserID());
-    });
-    FDLibFCSearchPackageByTaskID state;
-    for (;;) {
-        state = {};
+    DownloadFile file(options.download);
+    std::string url;
+    const auto begin = [&] {
+        FDLibFCSearchPackageByJsonResult task;
         talk.Do([&](unsigned int& error) {
-            return JsonConfigApp::GetFDLibFCSearchDataPackage(state, task.taskID, error,
-                                                              talk.UserID());
+            return JsonConfigApp::GetFDLibFCSearchDataPackageTaskID(description, task, error,
+                                                                    talk.UserID());
+        });
+        return task.taskID;
+    };
+    const auto look = [&](const std::string& task) {
+        FDLibFCSearchPackageByTaskID state;
+        talk.Do([&](unsigned int& error) {
+            return JsonConfigApp::GetFDLibFCSearchDataPackage(state, task, error, talk.UserID());
         });
         constexpr int kWhole = 100;
-        if (!state.URL.empty() || state.progress >= kWhole) {
-            break;
-        }
-        talk.Say("the device is packing, " + std::to_string(state.progress) + " %");
-        std::this_thread::sleep_for(std::chrono::milliseconds(200));
-    }
-    talk.Say("downloading");
-    return talk.Send("GET " + PathOf(state.URL));
+        url = state.URL;
+        return TaskState{state.progress, !url.empty() || state.progress >= kWhole};
+    };
+    const auto finish = [&](const std::string& /*task*/) {
+        return Download(talk, file, PackageAt(url));
+    };
+    return RunTask(talk, options.task, {"the device is packing", begin, look, finish});
 }
 
 Report SearchFaces(Talk& talk, const SearchOptions& options)
@@ -186,14 +154,16 @@ Report SearchFaces(Talk& talk, const SearchOptions& options)
         description.root[assignment.path.front()] = assignment.value;
     }
     description.maxResultNumber = options.page.limit;
+    if (options.download.empty() && !options.task.task.empty()) {
+        throw Failure("--task takes up the packing of a download: say --download FILE", kUsage);
+    }
     if (options.download.empty()) {
         return FetchJsonPages<FDLibSearchResult>(talk, options, "Faces", description,
                                                  &JsonConfigApp::GetFDLibFCSearchByJson);
     }
-    DownloadFile file(options.download);
     description.searchID = NewSearchID();
     description.maxResults = options.page.pageSize;
-    return Saved(file, options.download, FetchFacePackage(talk, description));
+    return DownloadFaces(talk, options, description);
 }
 
 Report SearchTargets(Talk& talk, const SearchOptions& options)
@@ -214,7 +184,7 @@ Report SearchTargets(Talk& talk, const SearchOptions& options)
 
 void AddSearchCommands(CLI::App& app, CommandLine& line)
 {
-    CLI::App& group = AddCommandGroup(app, "search", "Find recordings, faces and targets",
+    CLI::App& group = AddCommandGroup(app, "search", "Find recordings, faces, targets and people",
                                       "search content sim:recorder --track 101");
     Options options = std::make_shared<SearchOptions>();
     CLI::App& content = AddSearch(group, line,
@@ -235,7 +205,7 @@ void AddSearchCommands(CLI::App& app, CommandLine& line)
                   "NAME=VALUE of a face's looks: ageGroup, gender, glasses, mask ...; can be "
                   "repeated",
                   "FILTER");
-    AddDownload(captures, *options);
+    AddDownloadOption(captures, options->download);
 
     options = std::make_shared<SearchOptions>();
     CLI::App& faces = AddSearch(
@@ -243,7 +213,8 @@ void AddSearchCommands(CLI::App& app, CommandLine& line)
         options, &SearchFaces);
     AddListOption(faces, "--filter", options->filters,
                   "NAME=VALUE of the search, as the device names it; can be repeated", "FILTER");
-    AddDownload(faces, *options);
+    AddDownloadOption(faces, options->download);
+    AddTaskOptions(faces, options->task);
 
     options = std::make_shared<SearchOptions>();
     CLI::App& targets = AddSearch(
@@ -252,6 +223,8 @@ void AddSearchCommands(CLI::App& app, CommandLine& line)
         options, &SearchTargets);
     AddListOption(targets, "--filter", options->filters,
                   "NAME=VALUE of the search, as the device names it; can be repeated", "FILTER");
+
+    AddPeopleCommands(group, line);
 }
 
 }  // namespace Tool

@@ -8,6 +8,7 @@
 
 #include "PelNetSDK/LastError.h"
 #include "PelNetSDK/Login.h"
+#include "PelNetSDK/ReceiveProgress.h"
 #include "PelNetSDK/Statistics.h"
 
 namespace PelNet
@@ -273,14 +274,15 @@ std::size_t HttpConnection::OnHeader(const char* bytes, std::size_t /*one*/, std
     return count;
 }
 
-int HttpConnection::OnProgress(void* self, curl_off_t /*total*/, curl_off_t /*now*/,
-                               curl_off_t /*upTotal*/, curl_off_t /*upNow*/)
+int HttpConnection::OnProgress(void* self, curl_off_t total, curl_off_t now, curl_off_t /*upTotal*/,
+                               curl_off_t /*upNow*/)
 {
     auto& connection = *static_cast<HttpConnection*>(self);
     if (connection.cancelled_) {
         connection.stopped_ = NET_ORB_CANCELLED;
         return 1;
     }
+    TellReceived(static_cast<unsigned long long>(now), static_cast<unsigned long long>(total));
     return 0;
 }
 

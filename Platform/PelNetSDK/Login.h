@@ -72,6 +72,14 @@ extern "C"
      * the thread's next call of the SDK; never null. */
     PELNETSDK_API const char* NET_ORB_GetLastErrorDetail(void);
 
+    /* Hears how many bytes of an answer have come; `total` is 0 as long as it is not known. Runs on
+     * the thread that asked, many times while an answer comes, and calls nothing of the SDK. */
+    typedef void (*NET_ORB_RECEIVE_PROGRESS)(unsigned long long received, unsigned long long total,
+                                             void* context);
+
+    /* Has the calling thread's requests tell their progress from now on; null: no longer. */
+    PELNETSDK_API void NET_ORB_SetReceiveProgress(NET_ORB_RECEIVE_PROGRESS progress, void* context);
+
     /* What the two transports have done since the process began, for tests and benchmarks. */
     typedef struct tagNET_ORB_STATISTICS
     {

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "PelNetSDK/Login.h"
+#include "PelNetSDK/ReceiveProgress.h"
 #include "PelNetSDK/Statistics.h"
 
 namespace PelNet
@@ -25,6 +26,7 @@ unsigned SimTransport::Receive(Device::BodySource& source, AnswerBody& body) con
         if (!body.Append(block.data(), count)) {
             return NET_ORB_ANSWER_TOO_LARGE;
         }
+        TellReceived(body.Size(), source.Size());
     }
     return NET_ORB_NOERROR;
 }
