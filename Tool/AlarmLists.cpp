@@ -177,8 +177,7 @@ Report ListZones(Talk& talk)
     RecordNode zones{"zones", RecordNode::Kind::List, {}, true, {}};
     for (const AlarmHostZone& zone : config.zones) {
         RecordNode row = Describe("Zone", zone);
-        const RecordNode* const id = FindMember(row, "id");
-        const auto state = states.find(id == nullptr ? std::string() : id->text);
+        const auto state = states.find(std::to_string(zone.id));
         if (state != states.end()) {
             for (RecordNode& member : state->second.children) {
                 if (FindMember(row, member.name.c_str()) == nullptr) {
