@@ -134,11 +134,31 @@ TEST(JsonSearchTest, ReadsAWholeFaceLibraryAnswer)
     EXPECT_TRUE(human.present && human.Attendance.present);
 }
 
-TEST(JsonSearchTest, ReadsProgressAndChannelsInEachFormThatDevicesSend)
+TEST(JsonSearchTest, ReadsMembersInEachFormThatDevicesSend)
 {
     EXPECT_EQ(HFPDSearchProgress(R"({"progress": {"value": 40}})").progress.value, 40);
     EXPECT_EQ(HFPDSearchProgress(R"({"progress": 40})").progress.value, 40);
     EXPECT_FALSE(HFPDSearchProgress(R"({"progress": "done"})").progress.present);
+    const FDLibSearchResult people(R"({"FDLibSearchResult": {"MatchList": [{"human_data": [
+        {"Attendance": {"checkInDay": 3, "nocheckInDay": 4}, "abnormalRate ": "0.5"}]}]}})");
+    ASSERT_EQ(people.MatchList.size(), 1U);
+    const FDLibHuman& human = people.MatchList[0].human_data.at(0);
+    EXPECT_EQ(human.Attendance.checkInDay, 3);
+    EXPECT_EQ(human.Attendance.nocheckInDay, 4);
+    EXPECT_EQ(human.abnormalRate, "0.5");
+    const DetectorStates states(R"({"List": [{"DetectorStatus": {
+        "Gas": {"status": "normal", "preheated": true}, "Smoke": {"status": "abnormal"},
+        "Motion": true, "Tamper": "normal"}}]})");
+    ASSERT_EQ(states.detectors.size(), 1U);
+    const DetectorStatus& detector = states.detectors[0];
+    EXPECT_TRUE(detector.Gas.preheated && !detector.Gas.expired && !detector.Shelter.present);
+    EXPECT_EQ(detector.Gas.status + detector.Tamper.status, "normalnormal");
+    EXPECT_EQ(detector.Smoke.status + detector.Motion.status, "abnormaltrue");
+    const DetectorSilenceCap silence(R"({"DetectorAlarmCap": {"id": {"@min": 1, "@max": 9},
+        "cmd": {"@opt": ["mute", "reset"], "@def": "mute"},
+        "ChannelDetectorCapList": [{"ChannelID": {"id": {"@max": 4}}}]}})");
+    EXPECT_EQ(silence.cmd.def, "mute") << "of options the default is a word";
+    EXPECT_EQ(silence.channels.size(), 1U);
     const CaptureSearchResult captures(R"({"CaptureSearchResult": {"targets": [
         {"id": 4, "channelId": "12", "isInLibrary": true, "face_rect": {"x": 1, "y": 0.5}},
         {"id": "5", "channelId": 13, "currTemperature": 36}]}})");

@@ -1,7 +1,5 @@
 // The operations that configure, search and fetch, as rows; data packages aside.
 // SPDX-License-Identifier: Apache-2.0
-#include <json/reader.h>
-
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "support/JsonOperations.h"
 
@@ -80,21 +78,6 @@ auto deicing = Read<ManualPTDeicingCfg>(kDeicingText);
 auto confirm = Read<MisinfoConfirm>(kConfirmText);
 auto import = Read<AudioImportAudioLibData>(kImportText);
 
-JsonOperationRow Row(const char* name, std::string line, const char* answer,
-                     std::function<JsonAnswered(const char*)> ask, const std::string& body = {})
-{
-    Json::Value tree;
-    const bool hasBody = !body.empty() && Json::Reader().parse(body, tree);
-    const bool converts = line.find("/channels/35/") != std::string::npos;
-    return {.name = name,
-            .file = "JsonConfig/JsonConfigApp.cpp",
-            .line = std::move(line),
-            .answer = answer,
-            .ask = std::move(ask),
-            .body = hasBody ? tree.toStyledString() : body,
-            .convertsChannel = converts};
-}
-
 /// An operation whose answer nobody reads: its record is an input that stays as it was.
 template <class Record, class Query>
 JsonOperationRow InputRow(const char* name, std::string line, Record& input, const char* text,
@@ -107,7 +90,7 @@ JsonOperationRow InputRow(const char* name, std::string line, Record& input, con
         answered.isFilled = *before != '\0' && IsSame(input, Read<Record>(text));
         return answered;
     };
-    JsonOperationRow row = Row(name, std::move(line), kStatus, std::move(ask), text);
+    JsonOperationRow row = JsonRow(name, std::move(ask), std::move(line), kStatus, text);
     row.keepsRecord = true;
     return row;
 }
@@ -115,169 +98,130 @@ JsonOperationRow InputRow(const char* name, std::string line, Record& input, con
 std::vector<JsonOperationRow> ControlRows()
 {
     return {
-        Row("JsonConfigApp::GetManualFaceSnapCfg",
-            "GET /TARN/Intelligent/channels/35/manualFaceSnap?format=json\r\n",
-            R"({"ManualFaceSnap": {"enabled": true}})",
-            ASK_JSON(ManualFaceSnapCfg, JsonConfigApp::GetManualFaceSnapCfg(out, err, 3, kUser))),
+        JSON_ROW(JsonConfigApp, GetManualFaceSnapCfg, ManualFaceSnapCfg, (out, err, 3, kUser),
+                 "GET /TARN/Intelligent/channels/35/manualFaceSnap?format=json\r\n",
+                 R"({"ManualFaceSnap": {"enabled": true}})"),
         InputRow("JsonConfigApp::setManualPersonTrack",
                  "PUT /TARN/Intelligent/channels/35/manualPersonArmingTrack?format=json", track,
                  kTrackText,
                  [](unsigned& err) {
                      return JsonConfigApp::setManualPersonTrack(track, err, 3, kUser);
                  }),
-        Row("JsonConfigApp::SetMaunalClickThermomtry",
-            "PUT /TARN/Thermal/channels/35/clickToThermometry/rules/1?format=json\r\n", kStatus,
-            ASK_JSON(JsonStatus,
-                     JsonConfigApp::SetMaunalClickThermomtry(out, Argument(click), err, 3, kUser)),
-            kClickText),
-        Row("JsonConfigApp::GetManualPTDeicingCfg",
-            "GET /TARN/System/Hardware/PTDeicing?format=json\r\n", kDeicingText,
-            ASK_JSON(ManualPTDeicingCfg, JsonConfigApp::GetManualPTDeicingCfg(out, err, 3, kUser))),
-        Row("JsonConfigApp::SetManualPTDeicingCfg",
-            "PUT /TARN/System/Hardware/PTDeicing?format=json\r\n", kStatus,
-            ASK_JSON(JsonStatus, JsonConfigApp::SetManualPTDeicingCfg(deicing, out, err, 3, kUser)),
-            kDeicingText),
-        Row("JsonConfigApp::GetAudioDectioinCfg",
-            "GET /TARN/System/Audio/channels/3/Test?format=json", kAudioText,
-            ASK_JSON(CAudioDectionCfg, JsonConfigApp::GetAudioDectioinCfg(out, err, 3, kUser))),
+        JSON_ROW(JsonConfigApp, SetMaunalClickThermomtry, JsonStatus,
+                 (out, Argument(click), err, 3, kUser),
+                 "PUT /TARN/Thermal/channels/35/clickToThermometry/rules/1?format=json\r\n",
+                 kStatus, kClickText),
+        JSON_ROW(JsonConfigApp, GetManualPTDeicingCfg, ManualPTDeicingCfg, (out, err, 3, kUser),
+                 "GET /TARN/System/Hardware/PTDeicing?format=json\r\n", kDeicingText),
+        JSON_ROW(JsonConfigApp, SetManualPTDeicingCfg, JsonStatus, (deicing, out, err, 3, kUser),
+                 "PUT /TARN/System/Hardware/PTDeicing?format=json\r\n", kStatus, kDeicingText),
+        JSON_ROW(JsonConfigApp, GetAudioDectioinCfg, CAudioDectionCfg, (out, err, 3, kUser),
+                 "GET /TARN/System/Audio/channels/3/Test?format=json", kAudioText),
         InputRow("JsonConfigApp::SetAudioDectioinCfg",
                  "PUT /TARN/System/Audio/channels/-3/Test?format=json", audio, kAudioText,
                  [](unsigned& err) {
                      return JsonConfigApp::SetAudioDectioinCfg(audio, err, -3, true, kUser);
                  }),
-        Row("JsonConfigApp::setMisinfoConfirmConfig",
-            "PUT /TARN/Intelligent/misinfoFilter/confirmation?format=json\r\n", kStatus,
-            ASK_JSON(JsonStatus, JsonConfigApp::setMisinfoConfirmConfig(confirm, out, err, kUser)),
-            kConfirmText),
-        Row("JsonConfigApp::PostAudioDetectionToAudioLib",
+        JSON_ROW(JsonConfigApp, setMisinfoConfirmConfig, JsonStatus, (confirm, out, err, kUser),
+                 "PUT /TARN/Intelligent/misinfoFilter/confirmation?format=json\r\n", kStatus,
+                 kConfirmText),
+        JSON_ROW(
+            JsonConfigApp, PostAudioDetectionToAudioLib, AudioImportAudioLibResult,
+            (import, out, err, kUser),
             "POST /TARN/Intelligent/AIOpenPlatform/audioDetection/importAudioLib?format=json\r\n",
-            R"({"audioID": 9})",
-            ASK_JSON(AudioImportAudioLibResult,
-                     JsonConfigApp::PostAudioDetectionToAudioLib(import, out, err, kUser)),
-            kImportText),
-        Row("JsonConfigApp::GetAudioLibBaseConfig",
-            "GET /TARN/Intelligent/audioLib?format=json\r\n", R"({"AudioLib": [{"id": 1}]})",
-            ASK_JSON(AudioLibBaseConfig, JsonConfigApp::GetAudioLibBaseConfig(out, err, kUser))),
-        Row("JsonConfigApp::getFiberConvertSlotList",
-            "GET /TARN/Transfers/FiberConvert/slot?format=json", R"({"slots": [1, 2]})",
-            ASK_JSON(FiberConvertSlotList,
-                     JsonConfigApp::getFiberConvertSlotList(out, err, kUser))),
-        Row("JsonConfigApp::getPortPoeInfoCfgList",
-            "GET /TARN/Transfers/Switches/portCfg/portPOEInfo?format=json\r\n",
-            R"({"PortPOEInfoList": [{"PortPOEInfo": {"id": 1}}]})",
-            ASK_JSON(PortPoeInfoList, JsonConfigApp::getPortPoeInfoCfgList(out, err, kUser))),
-        Row("JsonConfigApp::GetRadarAlarmLineConfiguration",
-            "GET /TARN/Radar/Configuration/alarmLineCfg?format=json\r\n",
-            R"({"AlarmLine": [{"id": 1}]})",
-            ASK_JSON(AllAlarmLineCfg,
-                     JsonConfigApp::GetRadarAlarmLineConfiguration(out, err, kUser))),
-        Row("JsonConfigApp::GetIntersectionAnalysisConfig",
-            "GET /TARN/Intelligent/channels/35/intersectionAnalysis?format=json\r\n",
-            R"({"IntersectionAnalysis": {"enabled": true}})",
-            ASK_JSON(IntersectionAnalysisConfig,
-                     JsonConfigApp::GetIntersectionAnalysisConfig(out, err, 3, kUser))),
-        Row("JsonConfigApp::GetAIOPModel",
+            R"({"audioID": 9})", kImportText),
+        JSON_QUERY_ROW(JsonConfigApp, GetAudioLibBaseConfig, AudioLibBaseConfig,
+                       "GET /TARN/Intelligent/audioLib?format=json\r\n",
+                       R"({"AudioLib": [{"id": 1}]})"),
+        JSON_QUERY_ROW(JsonConfigApp, getFiberConvertSlotList, FiberConvertSlotList,
+                       "GET /TARN/Transfers/FiberConvert/slot?format=json", R"({"slots": [1, 2]})"),
+        JSON_QUERY_ROW(JsonConfigApp, getPortPoeInfoCfgList, PortPoeInfoList,
+                       "GET /TARN/Transfers/Switches/portCfg/portPOEInfo?format=json\r\n",
+                       R"({"PortPOEInfoList": [{"PortPOEInfo": {"id": 1}}]})"),
+        JSON_QUERY_ROW(JsonConfigApp, GetRadarAlarmLineConfiguration, AllAlarmLineCfg,
+                       "GET /TARN/Radar/Configuration/alarmLineCfg?format=json\r\n",
+                       R"({"AlarmLine": [{"id": 1}]})"),
+        JSON_ROW(JsonConfigApp, GetIntersectionAnalysisConfig, IntersectionAnalysisConfig,
+                 (out, err, 3, kUser),
+                 "GET /TARN/Intelligent/channels/35/intersectionAnalysis?format=json\r\n",
+                 R"({"IntersectionAnalysis": {"enabled": true}})"),
+        JSON_QUERY_ROW(
+            JsonConfigApp, GetAIOPModel, GetAIOPAlgorithmModel,
             "GET /TARN/Intelligent/AIOpenPlatform/algorithmModel/management?format=json\r\n",
-            R"({"models": [{"id": "m"}]})",
-            ASK_JSON(GetAIOPAlgorithmModel, JsonConfigApp::GetAIOPModel(out, err, kUser))),
+            R"({"models": [{"id": "m"}]})"),
     };
 }
 
 std::vector<JsonOperationRow> SearchRows()
 {
-    JsonOperationRow dataCentre = Row(
-        "JsonConfigApp::getDataCenterResource",
-        "POST /TARN/SDT/Management/Task/Video/monitorPort/search?format=json",
-        R"({"DataCenterTaskResult": {"progress": 1}})",
-        ASK_JSON(DataCenterTaskResult, JsonConfigApp::getDataCenterResource(out, centre, kUser)),
-        kCentre);
+    JsonOperationRow dataCentre =
+        JSON_ROW(JsonConfigApp, getDataCenterResource, DataCenterTaskResult, (out, centre, kUser),
+                 "POST /TARN/SDT/Management/Task/Video/monitorPort/search?format=json",
+                 R"({"DataCenterTaskResult": {"progress": 1}})", kCentre);
     dataCentre.tellsError = false;
     return {
         std::move(dataCentre),
-        Row("JsonConfigApp::SearchPersonQueueCounting",
-            "POST /TARN/Intelligent/channels/35/personQueueDetection/queueCountingResult"
-            "?format=json\r\n",
-            R"({"PersonQueueCountingResult": {"totalMatches": 1}})",
-            ASK_JSON(PersonQueueCountingResult,
-                     JsonConfigApp::SearchPersonQueueCounting(queueCounts, out, err, 3, kUser)),
-            kQueueCounts),
-        Row("JsonConfigApp::SearchPersonQueueTime",
-            "POST /TARN/Intelligent/channels/35/personQueueDetection/queueTimeResult"
-            "?format=json\r\n",
-            R"({"PersonQueueTimeResult": {"numOfMatches": 1}})",
-            ASK_JSON(PersonQueueTimeResult,
-                     JsonConfigApp::SearchPersonQueueTime(queueTimes, out, err, 3, kUser)),
-            kQueueTimes),
-        Row("JsonConfigApp::GetCaptureSearchResult", "POST /TARN/SDT/Face/captureSearch\r\n",
-            R"({"CaptureSearchResult": {"targets": [{"id": "1", "face_rect": {"x": 0.5}}]}})",
-            ASK_JSON(CaptureSearchResult,
-                     JsonConfigApp::GetCaptureSearchResult(captures, out, err, kUser)),
-            kCaptures),
-        Row("JsonConfigApp::GetFDLibFCSearchByJson",
+        JSON_ROW(JsonConfigApp, SearchPersonQueueCounting, PersonQueueCountingResult,
+                 (queueCounts, out, err, 3, kUser),
+                 "POST /TARN/Intelligent/channels/35/personQueueDetection/queueCountingResult"
+                 "?format=json\r\n",
+                 R"({"PersonQueueCountingResult": {"totalMatches": 1}})", kQueueCounts),
+        JSON_ROW(JsonConfigApp, SearchPersonQueueTime, PersonQueueTimeResult,
+                 (queueTimes, out, err, 3, kUser),
+                 "POST /TARN/Intelligent/channels/35/personQueueDetection/queueTimeResult"
+                 "?format=json\r\n",
+                 R"({"PersonQueueTimeResult": {"numOfMatches": 1}})", kQueueTimes),
+        JSON_ROW(JsonConfigApp, GetCaptureSearchResult, CaptureSearchResult,
+                 (captures, out, err, kUser), "POST /TARN/SDT/Face/captureSearch\r\n",
+                 R"({"CaptureSearchResult": {"targets": [{"id": "1", "face_rect": {"x": 0.5}}]}})",
+                 kCaptures),
+        JSON_ROW(
+            JsonConfigApp, GetFDLibFCSearchByJson, FDLibSearchResult, (library, out, err, kUser),
             "POST /TARN/Intelligent/FDLib/FCSearch?format=json\r\n",
-            R"({"FDLibSearchResult": {"MatchList": [{"human_data": [{"FDID": "1"}]}]}})",
-            ASK_JSON(FDLibSearchResult,
-                     JsonConfigApp::GetFDLibFCSearchByJson(library, out, err, kUser)),
-            kLibrary),
-        Row("JsonConfigApp::SearchIntersectionAnalysis",
-            "POST /TARN/Intelligent/channels/35/intersectionAnalysis/search?format=json\r\n",
-            R"({"IntersectionAnalysisResult": {"responseStatusStrg": "OK"}})",
-            ASK_JSON(IntersectionAnalysisResult,
-                     JsonConfigApp::SearchIntersectionAnalysis(intersection, out, err, 3, kUser)),
-            kIntersection),
-        Row("JsonConfigApp::SearchTargetFiles",
-            "POST /TARN/ContentMgmt/SearchByTargetType?format=json\r\n",
-            R"({"TargetSearchResult": {"numOfMatches": 1, "files": []}})",
-            ASK_JSON(TargetSearchResult,
-                     JsonConfigApp::SearchTargetFiles(targets, out, err, kUser)),
-            kTargets),
-        Row("JsonConfigApp::getDeeplyThinkBehaviorSearchResult",
-            "POST /TARN/SDT/Management/analysisResult/search?format=json\r\n",
-            R"({"SearchResult": {"progress": 50}})",
-            ASK_JSON(DeeplyThinkBehaviorSearch,
-                     JsonConfigApp::getDeeplyThinkBehaviorSearchResult(behavior, out, err, kUser)),
-            kBehavior),
-        Row("JsonConfigApp::GetImagesComparision",
-            "POST /TARN/Intelligent/imagesComparision/face\r\n", R"({"similarity": 0.9})",
-            ASK_JSON(ImagesCmpResult, JsonConfigApp::GetImagesComparision(images, out, err, kUser)),
-            kImages),
+            R"({"FDLibSearchResult": {"MatchList": [{"human_data": [{"FDID": "1"}]}]}})", kLibrary),
+        JSON_ROW(JsonConfigApp, SearchIntersectionAnalysis, IntersectionAnalysisResult,
+                 (intersection, out, err, 3, kUser),
+                 "POST /TARN/Intelligent/channels/35/intersectionAnalysis/search?format=json\r\n",
+                 R"({"IntersectionAnalysisResult": {"responseStatusStrg": "OK"}})", kIntersection),
+        JSON_ROW(JsonConfigApp, SearchTargetFiles, TargetSearchResult, (targets, out, err, kUser),
+                 "POST /TARN/ContentMgmt/SearchByTargetType?format=json\r\n",
+                 R"({"TargetSearchResult": {"numOfMatches": 1, "files": []}})", kTargets),
+        JSON_ROW(JsonConfigApp, getDeeplyThinkBehaviorSearchResult, DeeplyThinkBehaviorSearch,
+                 (behavior, out, err, kUser),
+                 "POST /TARN/SDT/Management/analysisResult/search?format=json\r\n",
+                 R"({"SearchResult": {"progress": 50}})", kBehavior),
+        JSON_ROW(JsonConfigApp, GetImagesComparision, ImagesCmpResult, (images, out, err, kUser),
+                 "POST /TARN/Intelligent/imagesComparision/face\r\n", R"({"similarity": 0.9})",
+                 kImages),
     };
 }
 
 std::vector<JsonOperationRow> TaskRows()
 {
     std::vector<JsonOperationRow> rows{
-        Row("JsonConfigApp::GetHFPDCaptureLibCollisionTask",
-            "GET /TARN/SDT/HFPD/searchTask/captureLibCollision?format=json\r\n",
-            R"({"taskID": 12})",
-            ASK_JSON(HFPDCaptureLibCollisionTask,
-                     JsonConfigApp::GetHFPDCaptureLibCollisionTask(out, err, kUser))),
-        Row("JsonConfigApp::GetHFPDSearchProgress",
-            "GET /TARN/SDT/Management/Task/progress/1 2?format=json\r\n",
-            R"({"progress": {"value": 40}})",
-            ASK_JSON(HFPDSearchProgress,
-                     JsonConfigApp::GetHFPDSearchProgress(out, "1 2", err, kUser))),
-        Row("JsonConfigApp::GetHFPDSearchRecordData",
-            "GET /TARN/SDT/HFPD/searchTask/result/recordData/12?format=json\r\n",
-            R"({"HFPDSearchFaceResult": {"numOfMatches": 1}})",
-            ASK_JSON(HFPDSearchFaceResult,
-                     JsonConfigApp::GetHFPDSearchRecordData(out, "12", err, kUser))),
-        Row("JsonConfigApp::GetFDLibFCSearchDataPackageTaskID",
-            "POST /TARN/Intelligent/FDLib/FCSearch/dataPackage?format=json\r\n",
-            R"({"taskID": "p"})",
-            ASK_JSON(FDLibFCSearchPackageByJsonResult,
-                     JsonConfigApp::GetFDLibFCSearchDataPackageTaskID(library, out, err, kUser)),
-            kLibrary),
-        Row("JsonConfigApp::GetFDLibFCSearchDataPackage",
-            "GET /TARN/Intelligent/FDLib/FCSearch/dataPackage/progress?format=json&taskID=a "
-            "b&c\r\n",
-            R"({"progress": 100, "URL": "/p.zip"})",
-            ASK_JSON(FDLibFCSearchPackageByTaskID,
-                     JsonConfigApp::GetFDLibFCSearchDataPackage(out, "a b&c", err, kUser))),
+        JSON_QUERY_ROW(JsonConfigApp, GetHFPDCaptureLibCollisionTask, HFPDCaptureLibCollisionTask,
+                       "GET /TARN/SDT/HFPD/searchTask/captureLibCollision?format=json\r\n",
+                       R"({"taskID": 12})"),
+        JSON_ROW(JsonConfigApp, GetHFPDSearchProgress, HFPDSearchProgress, (out, "1 2", err, kUser),
+                 "GET /TARN/SDT/Management/Task/progress/1 2?format=json\r\n",
+                 R"({"progress": {"value": 40}})"),
+        JSON_ROW(JsonConfigApp, GetHFPDSearchRecordData, HFPDSearchFaceResult,
+                 (out, "12", err, kUser),
+                 "GET /TARN/SDT/HFPD/searchTask/result/recordData/12?format=json\r\n",
+                 R"({"HFPDSearchFaceResult": {"numOfMatches": 1}})"),
+        JSON_ROW(JsonConfigApp, GetFDLibFCSearchDataPackageTaskID, FDLibFCSearchPackageByJsonResult,
+                 (library, out, err, kUser),
+                 "POST /TARN/Intelligent/FDLib/FCSearch/dataPackage?format=json\r\n",
+                 R"({"taskID": "p"})", kLibrary),
+        JSON_ROW(JsonConfigApp, GetFDLibFCSearchDataPackage, FDLibFCSearchPackageByTaskID,
+                 (out, "a b&c", err, kUser),
+                 "GET /TARN/Intelligent/FDLib/FCSearch/dataPackage/progress?format=json&taskID=a "
+                 "b&c\r\n",
+                 R"({"progress": 100, "URL": "/p.zip"})"),
     };
-#define TASK_ROW(action, start)                                                      \
-    Row("JsonConfigApp::GetHFPDManagementTask", start "12?format=json\r\n", kStatus, \
-        ASK_JSON(JsonStatus, JsonConfigApp::GetHFPDManagementTask(out, action, 12, err, kUser)))
+#define TASK_ROW(action, start)                                                               \
+    JSON_ROW(JsonConfigApp, GetHFPDManagementTask, JsonStatus, (out, action, 12, err, kUser), \
+             start "12?format=json\r\n", kStatus)
     rows.push_back(TASK_ROW(0, "GET /TARN/SDT/Management/Task/pause/"));
     rows.push_back(TASK_ROW(1, "GET /TARN/SDT/Management/Task/resume/"));
     rows.push_back(TASK_ROW(2, "DELETE /TARN/SDT/Management/Task/"));

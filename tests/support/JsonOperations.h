@@ -24,10 +24,9 @@ struct JsonAnswered
 
 struct JsonOperationRow
 {
-    const char* name;    ///< "JsonCapApp::GetHFPDCapability"
-    const char* file;    ///< of its log lines, under Common/CapabilitySet/JsonTARN
-    std::string line;    ///< with 32 added to the channel where the SDK converts it
-    const char* answer;  ///< one that changes the record
+    const char* name;     ///< "JsonCapApp::GetHFPDCapability"
+    std::string request;  ///< the line, with 32 added to the channel where the SDK converts it
+    const char* answer;   ///< one that changes the record
     std::function<JsonAnswered(const char* before)> ask;  ///< with a record read from `before`
     std::string body{};
     bool padsBody = false;  ///< the body is sent in 8,192 zeroed bytes
@@ -70,6 +69,20 @@ JsonAnswered AskJsonInto(const char* before, Query query)
         return TestSupport::AskJsonInto<Record>(                                       \
             before, [](Record& out, [[maybe_unused]] unsigned& err) { return call; }); \
     }
+
+/// A row that sends the body, a JSON text, in styled form, and converts the channel 3 if the
+/// request names the channel 35.
+JsonOperationRow JsonRow(const char* name, std::function<JsonAnswered(const char*)> ask,
+                         std::string request, const char* answer, const std::string& body = {});
+
+/// A row of an operation: its record, its arguments in brackets, its request, an answer, its body.
+#define JSON_ROW(App, operation, Record, arguments, ...)                                   \
+    TestSupport::JsonRow(#App "::" #operation, ASK_JSON(Record, App::operation arguments), \
+                         __VA_ARGS__)
+
+/// The same of one that takes nothing but the user.
+#define JSON_QUERY_ROW(App, operation, Record, ...) \
+    JSON_ROW(App, operation, Record, (out, err, kUser), __VA_ARGS__)
 
 // One table a file.
 std::vector<JsonOperationRow> JsonCapabilityRows();

@@ -5,7 +5,12 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include <gtest/gtest.h>
+
+#include "Keel/Error.h"
 #include "support/ScriptedSdk.h"
 
 namespace TestSupport
@@ -49,5 +54,29 @@ struct OperationRow
 };
 
 std::span<const OperationRow> Operations();
+
+/// Module and code of the last error that an operation finds.
+inline constexpr std::pair kUntouched{1, 2};
+
+inline std::pair<int, int> LastError()
+{
+    const auto& last = Keel::Error::GetLastError();
+    return {last.module, last.code};
+}
+
+/// Runs a check on every operation, each with a fresh SDK that answers `steps`.
+template <class Rows, class Check>
+void ForEachRow(const Rows& rows, const std::vector<SdkStep>& steps, Check check)
+{
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.name) + " " + row.request);
+        ScriptedSdk& sdk = ScriptedSdk::Fresh();
+        sdk.steps = steps;
+        Keel::Error::SetLastError({kUntouched.first, kUntouched.second, {}});
+        check(row, sdk);
+        if (testing::Test::HasFatalFailure())
+            return;
+    }
+}
 
 }  // namespace TestSupport

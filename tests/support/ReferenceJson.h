@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <concepts>
 #include <locale>
 #include <sstream>
 #include <string>
@@ -138,11 +139,15 @@ inline void ReadMember(const Json::Value& value, CapabilitySet::HFPDProgress& pr
     progress.present = true;
 }
 
-inline void ReadMember(const Json::Value& value, CapabilitySet::DetectorSensor& sensor)
+template <std::derived_from<CapabilitySet::DetectorSensor> Sensor>
+void ReadMember(const Json::Value& value, Sensor& sensor)
 {
     if (value.isNull())
         return;
-    sensor.status = value.isString() ? value.asString() : value["status"].asString();
+    if (value.isObject())
+        ReadMembers(value, sensor);
+    else
+        sensor.status = value.asString();
     sensor.present = true;
 }
 

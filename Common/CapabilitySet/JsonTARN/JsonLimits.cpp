@@ -8,5 +8,7 @@ namespace CapabilitySet
 {
 
 template struct JsonPart<JsonLimits>;
+template struct JsonPart<JsonTextLimits>;
+template struct JsonPart<JsonTimeLimits>;
 
 }  // namespace CapabilitySet

@@ -11,11 +11,12 @@ namespace CapabilitySet
 {
 
 /// The keys "@min", "@max", "@def" and "@opt" of a member; those that are missing are 0 or empty.
-struct CAPABILITYSET_API JsonLimits : JsonPart<JsonLimits>
+template <class Limit, class Default>
+struct CAPABILITYSET_API JsonLimitsOf : JsonPart<JsonLimitsOf<Limit, Default>>
 {
-    int min = 0;
-    int max = 0;
-    int def = 0;
+    Limit min{};
+    Limit max{};
+    Default def{};
     std::vector<std::string> opt;
 
     template <class Record, class Field>
@@ -27,5 +28,12 @@ struct CAPABILITYSET_API JsonLimits : JsonPart<JsonLimits>
         field("@opt", r.opt);
     }
 };
+
+/// Of a number.
+using JsonLimits = JsonLimitsOf<int, int>;
+/// Of a text: how long it is, and what it is unless told.
+using JsonTextLimits = JsonLimitsOf<int, std::string>;
+/// Of a time; limits and default are as the device writes them.
+using JsonTimeLimits = JsonLimitsOf<std::string, std::string>;
 
 }  // namespace CapabilitySet

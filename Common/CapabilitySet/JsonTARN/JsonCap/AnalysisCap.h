@@ -36,7 +36,7 @@ struct CAPABILITYSET_API IntersectionAnalysisCap : JsonRecord<IntersectionAnalys
     static constexpr const char* kKey = "IntersectionAnalysisCap";
 
     IntersectionTagCap TagID;
-    JsonLimits searchReportType;  ///< kinds of report that a search can give
+    JsonTextLimits searchReportType;  ///< kinds of report that a search can give
 
     IntersectionAnalysisCap() = default;
     explicit IntersectionAnalysisCap(const std::string& text) { Parse(text); }
@@ -54,9 +54,9 @@ struct CAPABILITYSET_API CityManagementCapability : JsonRecord<CityManagementCap
 {
     static constexpr const char* kKey = "SearchDescription";
 
-    JsonLimits maxResultNumber;  ///< results of a whole search
-    JsonLimits maxResults;       ///< results of one page
-    JsonLimits subEventType;     ///< kinds of event
+    JsonLimits maxResultNumber;   ///< results of a whole search
+    JsonLimits maxResults;        ///< results of one page
+    JsonTextLimits subEventType;  ///< kinds of event
     int channelID = 0;
 
     CityManagementCapability() = default;
@@ -77,8 +77,8 @@ struct CAPABILITYSET_API DeeplyThinkBehaviorCap : JsonRecord<DeeplyThinkBehavior
 {
     static constexpr const char* kKey = "SearchCap";
 
-    JsonLimits startTime;
-    JsonLimits endTime;
+    JsonTimeLimits startTime;
+    JsonTimeLimits endTime;
     Json::Value CountByTask;  ///< counting by task, as the device tells it
     Json::Value CountByTime;  ///< counting by time, as the device tells it
 

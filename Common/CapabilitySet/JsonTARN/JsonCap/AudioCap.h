@@ -22,7 +22,7 @@ struct CAPABILITYSET_API AudioDetectionSearchCapability : JsonTree<AudioDetectio
 /// What names the sounds to import.
 struct CAPABILITYSET_API AudioImportSourceCap : JsonPart<AudioImportSourceCap>
 {
-    JsonLimits UUID;
+    JsonTextLimits UUID;
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -54,7 +54,7 @@ struct AudioLibPlace
 
 /// What can be told of such a place.
 struct CAPABILITYSET_API AudioImportDestinationCap : JsonPart<AudioImportDestinationCap>,
-                                                     AudioLibPlace<JsonLimits>
+                                                     AudioLibPlace<JsonTextLimits>
 {
 };
 

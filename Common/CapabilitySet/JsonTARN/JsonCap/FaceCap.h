@@ -17,7 +17,7 @@ struct CAPABILITYSET_API ImagesComparisionCapbility : JsonRecord<ImagesComparisi
 {
     static constexpr const char* kKey = "imagesComparision";
 
-    JsonLimits dataType;  ///< how pictures can be handed over
+    JsonTextLimits dataType;  ///< how pictures can be handed over
 
     ImagesComparisionCapbility() = default;
     explicit ImagesComparisionCapbility(const std::string& text) { Parse(text); }

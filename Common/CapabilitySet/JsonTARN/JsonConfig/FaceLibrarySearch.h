@@ -67,7 +67,7 @@ struct CAPABILITYSET_API FDLibSearchDescription : JsonRecord<FDLibSearchDescript
 };
 
 /// Days on which a person came, or did not.
-struct CAPABILITYSET_API FDLibCheckIn : JsonPart<FDLibCheckIn>
+struct CAPABILITYSET_API FDLibCheckInDays
 {
     int checkInDay = 0;
     int nocheckInDay = 0;
@@ -78,6 +78,11 @@ struct CAPABILITYSET_API FDLibCheckIn : JsonPart<FDLibCheckIn>
         field("checkInDay", r.checkInDay, as::decimalText);
         field("nocheckInDay", r.nocheckInDay, as::decimalText);
     }
+};
+
+/// The same in an object of its own.
+struct CAPABILITYSET_API FDLibCheckIn : JsonPart<FDLibCheckIn>, FDLibCheckInDays
+{
 };
 
 /// How often a person came in time, late and so on.
@@ -100,8 +105,9 @@ struct CAPABILITYSET_API FDLibAttendStatus : JsonPart<FDLibAttendStatus>
     }
 };
 
-/// A person's attendance over the time searched.
-struct CAPABILITYSET_API FDLibAttendance : JsonPart<FDLibAttendance>
+/// A person's attendance over the time searched. Devices tell the days of check-in in `CheckIn` or
+/// beside it.
+struct CAPABILITYSET_API FDLibAttendance : JsonPart<FDLibAttendance>, FDLibCheckInDays
 {
     int totalNumbers = 0;   ///< days counted
     Json::Value dailyList;  ///< key "DaliyList": day by day, as the device tells it
@@ -117,6 +123,7 @@ struct CAPABILITYSET_API FDLibAttendance : JsonPart<FDLibAttendance>
         // Kept: devices misspell this key.
         field("DaliyList", r.dailyList);
         field("CheckIn", r.CheckIn);
+        FDLibCheckInDays::Fields(r, field);
         field("AttendStatus", r.AttendStatus);
         // Kept: devices send this key with a trailing blank.
         field("abnormalRate ", r.abnormalRate);
@@ -141,6 +148,7 @@ struct CAPABILITYSET_API FDLibHuman : JsonPart<FDLibHuman>
     std::string human_name;
     std::string FDID;  ///< the face library
     FDLibAttendance Attendance;
+    std::string abnormalRate;  ///< as that of `Attendance`, which some devices send here
     std::vector<FDLibFace> face_data;
 
     template <class Record, class Field>
@@ -149,6 +157,8 @@ struct CAPABILITYSET_API FDLibHuman : JsonPart<FDLibHuman>
         field("human_name", r.human_name);
         field("FDID", r.FDID);
         field("Attendance", r.Attendance);
+        // Kept: the trailing blank, as above.
+        field("abnormalRate ", r.abnormalRate);
         field("face_data", r.face_data);
     }
 };

@@ -13,12 +13,31 @@ template struct JsonPart<ChannelDetectorCap>;
 template struct JsonRecord<DetectorStates>;
 template struct JsonRecord<DetectorSilenceCap>;
 
-void DetectorSensor::Parse(const Json::Value& value)
+namespace
+{
+
+template <class Sensor>
+void ParseSensor(const Json::Value& value, Sensor& sensor)
 {
     if (value.isNull())
         return;
-    status = (value.isString() ? value : json::MemberOf(value, "status")).asString();
-    present = true;
+    if (value.isObject())
+        json::ReadFields(sensor, value);
+    else
+        sensor.status = value.asString();
+    sensor.present = true;
+}
+
+}  // namespace
+
+void DetectorSensor::Parse(const Json::Value& value)
+{
+    ParseSensor(value, *this);
+}
+
+void GasSensor::Parse(const Json::Value& value)
+{
+    ParseSensor(value, *this);
 }
 
 }  // namespace CapabilitySet

@@ -15,6 +15,7 @@ namespace CapabilitySet
 // Members bear the names of their keys.
 
 /// State of one sensor of a detector, sent as an object with "status" or as the bare word.
+/// Parse throws what JsonCpp throws for a value of the wrong kind.
 struct CAPABILITYSET_API DetectorSensor
 {
     bool present = false;
@@ -29,11 +30,31 @@ struct CAPABILITYSET_API DetectorSensor
     }
 };
 
+/// State of a gas sensor, which warms up before it measures and wears out: in its status, or told
+/// by flags beside it.
+struct CAPABILITYSET_API GasSensor : DetectorSensor
+{
+    bool preheating = false;
+    bool preheated = false;
+    bool expired = false;
+
+    void Parse(const Json::Value& value);
+
+    template <class Record, class Field>
+    static void Fields(Record& r, Field&& field)
+    {
+        DetectorSensor::Fields(r, field);
+        field("preheating", r.preheating);
+        field("preheated", r.preheated);
+        field("expired", r.expired);
+    }
+};
+
 /// State of one detector.
 struct CAPABILITYSET_API DetectorStatus : JsonPart<DetectorStatus>
 {
     std::string status;  ///< "normal" or "abnormal"
-    DetectorSensor Gas;  ///< "preheating", "preheated" or "expired"
+    GasSensor Gas;       ///< also "preheating", "preheated" or "expired"
     DetectorSensor Temperature;
     DetectorSensor Smoke;
     DetectorSensor Shelter;  ///< the detector is covered
@@ -74,7 +95,7 @@ struct CAPABILITYSET_API DetectorStates : JsonRecord<DetectorStates>
 struct CAPABILITYSET_API ChannelDetectorCap : JsonPart<ChannelDetectorCap>
 {
     JsonLimits id;
-    JsonLimits cmd;
+    JsonTextLimits cmd;
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -90,7 +111,7 @@ struct CAPABILITYSET_API DetectorSilenceCap : JsonRecord<DetectorSilenceCap>
     static constexpr const char* kKey = "DetectorAlarmCap";
 
     JsonLimits id;
-    JsonLimits cmd;
+    JsonTextLimits cmd;
     std::vector<ChannelDetectorCap> channels;
 
     DetectorSilenceCap() = default;
