@@ -1,8 +1,7 @@
-// A client that fetches documents with libcurl and nothing else.
+// A client of bare libcurl: what fetching a document costs without the library.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,73 +11,71 @@
 namespace Bench
 {
 
-/// What one side needed.
-struct Need
-{
-    double exchanges = 0;
-    double connections = 0;
-};
-
-/// Fetches one document again and again, and keeps its connection as long as it lives.
+/// Fetches documents over one connection, kept as long as it lives, with digest authentication.
 class PlainClient
 {
 public:
-    /// Appends what it fetches to `kept`, or counts it only when that is null.
-    PlainClient(const std::string& url, const char* user, const std::string& password,
-                std::string* kept = nullptr)
-        : kept_(kept)
+    PlainClient(std::string url, const char* user, const std::string& password,
+                const std::string& certificateFile = {})
+        : url_(std::move(url))
     {
         CURL* const curl = handle_.get();
-        curl_easy_setopt(curl, CURLOPT_URL, url.c_str());
         curl_easy_setopt(curl, CURLOPT_PROXY, "");
+        curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
         curl_easy_setopt(curl, CURLOPT_HTTPAUTH, CURLAUTH_DIGEST);
         curl_easy_setopt(curl, CURLOPT_USERNAME, user);
         curl_easy_setopt(curl, CURLOPT_PASSWORD, password.c_str());
         curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &PlainClient::OnBody);
-        curl_easy_setopt(curl, CURLOPT_WRITEDATA, this);
+        curl_easy_setopt(curl, CURLOPT_WRITEDATA, &body_);
         curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &PlainClient::OnHeader);
-        curl_easy_setopt(curl, CURLOPT_HEADERDATA, this);
+        curl_easy_setopt(curl, CURLOPT_HEADERDATA, &exchanges_);
+        if (!certificateFile.empty())
+            curl_easy_setopt(curl, CURLOPT_CAINFO, certificateFile.c_str());
     }
-    PlainClient(const PlainClient&) = delete;
-    PlainClient& operator=(const PlainClient&) = delete;
 
-    /// Bytes of the document; 0 when there was none.
-    std::uint64_t Get()
+    /// The document at a path, empty when there was none; a post sends an empty body.
+    const std::string& Fetch(const char* path, bool post = false)
     {
-        received_ = 0;
+        CURL* const curl = handle_.get();
+        body_.clear();
+        curl_easy_setopt(curl, CURLOPT_URL, (url_ + path).c_str());
+        curl_easy_setopt(curl, post ? CURLOPT_POST : CURLOPT_HTTPGET, 1L);
+        if (post)
+            curl_easy_setopt(curl, CURLOPT_COPYPOSTFIELDS, "");
+        const CURLcode result = curl_easy_perform(curl);
         long status = 0;
+        curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &status);
         long connections = 0;
-        const CURLcode result = curl_easy_perform(handle_.get());
-        curl_easy_getinfo(handle_.get(), CURLINFO_RESPONSE_CODE, &status);
-        curl_easy_getinfo(handle_.get(), CURLINFO_NUM_CONNECTS, &connections);
-        need_.connections += static_cast<double>(connections);
-        return result == CURLE_OK && status == 200 ? received_ : 0;
+        curl_easy_getinfo(curl, CURLINFO_NUM_CONNECTS, &connections);
+        connections_ += connections;
+        if (result != CURLE_OK || status != 200)
+            body_.clear();
+        return body_;
     }
 
-    [[nodiscard]] Need Needed() const { return need_; }
+    [[nodiscard]] long Exchanges() const { return exchanges_; }
+    [[nodiscard]] long Connections() const { return connections_; }
 
 private:
-    static std::size_t OnBody(const char* data, std::size_t size, std::size_t count, void* self)
+    static std::size_t OnBody(const char* data, std::size_t size, std::size_t count, void* into)
     {
-        auto& client = *static_cast<PlainClient*>(self);
-        client.received_ += size * count;
-        if (client.kept_ != nullptr)
-            client.kept_->append(data, size * count);
+        static_cast<std::string*>(into)->append(data, size * count);
         return size * count;
     }
 
-    static std::size_t OnHeader(const char* line, std::size_t size, std::size_t count, void* self)
+    static std::size_t OnHeader(const char* line, std::size_t size, std::size_t count, void* into)
     {
-        if (std::string_view(line, size * count).substr(0, 5) == "HTTP/")
-            static_cast<PlainClient*>(self)->need_.exchanges += 1;
+        if (std::string_view(line, size * count).starts_with("HTTP/"))
+            *static_cast<long*>(into) += 1;
         return size * count;
     }
 
     std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> handle_{curl_easy_init(),
                                                                 curl_easy_cleanup};
-    std::string* kept_;
-    std::uint64_t received_ = 0;
-    Need need_;
+    std::string url_;
+    std::string body_;
+    long exchanges_ = 0;
+    long connections_ = 0;
 };
 
 }  // namespace Bench

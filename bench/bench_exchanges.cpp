@@ -1,6 +1,8 @@
 // Exchanges with a device over HTTP, beside a client that keeps neither answers nor connections.
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdint>
+#include <cstdio>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -15,7 +17,6 @@
 namespace
 {
 
-using Bench::Need;
 using Bench::PlainClient;
 using CapabilitySet::DeviceCap;
 using Statistics = tagNET_ORB_STATISTICS;
@@ -25,6 +26,13 @@ constexpr char kUser[] = "admin";
 constexpr std::uint64_t kStep = 16384;
 constexpr std::uint64_t kGrowths = 20;
 constexpr int kQueries = 100;
+
+/// What one side needed.
+struct Need
+{
+    double exchanges = 0;
+    double connections = 0;
+};
 
 /// A device on the loopback, and a session with it.
 struct Site
@@ -88,15 +96,15 @@ bool AskLargeAnswer(Site& site, Need& plain, Need& ours)
     padding.kind = Device::FaultKind::Oversize;
     padding.pathPrefix = kPath;
     padding.bytes = kGrowths * kStep;
-    PlainClient client(site.server->Url() + kPath, kUser, site.password);
-    if (client.Get() == 0 || !site.server->SetFaults({padding}, site.error))
+    PlainClient client(site.server->Url(), kUser, site.password);
+    if (client.Fetch(kPath).empty() || !site.server->SetFaults({padding}, site.error))
         return false;
-    const double before = client.Needed().exchanges;
+    const long before = client.Exchanges();
     std::uint64_t size = kStep;
-    for (std::uint64_t bytes = client.Get(); bytes != 0 && bytes > size; bytes = client.Get())
+    while (client.Fetch(kPath).size() > size)
         size += kStep;
-    plain.exchanges = client.Needed().exchanges - before;
-    plain.connections = client.Needed().connections;
+    plain.exchanges = static_cast<double>(client.Exchanges() - before);
+    plain.connections = static_cast<double>(client.Connections());
     const bool answered = site.Ask(1, ours);
     return size == (kGrowths + 1) * kStep && answered && site.server->SetFaults({}, site.error);
 }
@@ -105,11 +113,11 @@ bool AskLargeAnswer(Site& site, Need& plain, Need& ours)
 bool AskOften(Site& site, Need& plain, Need& ours)
 {
     for (int i = 0; i < kQueries; ++i) {
-        PlainClient client(site.server->Url() + kPath, kUser, site.password);
-        if (client.Get() == 0)
+        PlainClient client(site.server->Url(), kUser, site.password);
+        if (client.Fetch(kPath).empty())
             return false;
-        plain.exchanges += client.Needed().exchanges;
-        plain.connections += client.Needed().connections;
+        plain.exchanges += static_cast<double>(client.Exchanges());
+        plain.connections += static_cast<double>(client.Connections());
     }
     return site.Ask(kQueries, ours);
 }

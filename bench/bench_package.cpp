@@ -5,31 +5,21 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Comparison.h"
-#include "Device/DeviceServer.h"
 #include "Device/Package.h"
+#include "DeviceProcess.h"
 #include "PelNetSDK/Login.h"
 #include "PlainClient.h"
 
 namespace
 {
 
+using Bench::DeviceProcess;
 using Bench::PlainClient;
-
-constexpr char kUser[] = "admin";
-
-/// Where a device listens, as a device's process tells it.
-struct Place
-{
-    char url[64];
-    char password[64];
-};
 
 /// What a client did, as its process tells it.
 struct Told
@@ -39,7 +29,6 @@ struct Told
 };
 
 /// A process that runs `body` and writes what it returns to a pipe.
-template <class Result>
 class Child
 {
 public:
@@ -51,10 +40,8 @@ public:
         process_ = fork();
         if (process_ == 0) {
             close(pipe_[0]);
-            body([this](const Result& result) {
-                return write(pipe_[1], &result, sizeof result) == sizeof result;
-            });
-            _exit(0);
+            const Told result = body();
+            _exit(write(pipe_[1], &result, sizeof result) == sizeof result ? 0 : 1);
         }
         close(pipe_[1]);
     }
@@ -67,7 +54,7 @@ public:
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;
 
-    bool Read(Result& result) const
+    bool Read(Told& result) const
     {
         return process_ > 0 && read(pipe_[0], &result, sizeof result) == sizeof result;
     }
@@ -87,31 +74,12 @@ private:
     pid_t process_ = -1;
 };
 
-/// Serves until the other end of `alive` is closed.
-template <class Tell>
-void Serve(int alive, Tell tell)
+Told DownloadPlainly(const DeviceProcess& device, const std::string& task)
 {
-    std::string error;
-    const auto model = Device::DeviceModel::Load("recorder", error);
-    const auto server = model ? Device::DeviceServer::Start(model, {}, error) : nullptr;
-    if (server == nullptr)
-        return;
-    Place place{};
-    server->Url().copy(place.url, sizeof place.url - 1);
-    model->PasswordOf(kUser)->copy(place.password, sizeof place.password - 1);
-    char end = 0;
-    if (tell(place))
-        static_cast<void>(read(alive, &end, 1) + 1);
-}
-
-Told DownloadPlainly(const Place& place, const std::string& task)
-{
-    std::string package;
-    PlainClient client(
-        std::string(place.url) + "/TARN/SDT/HFPD/search/dataPackage/" + task + "?format=json",
-        kUser, place.password, &package);
-    const bool got = client.Get() != 0;
-    return {got && Device::IsWholePackage(package), client.Needed().exchanges};
+    PlainClient client(device.Url(), DeviceProcess::kUser, device.Password());
+    const std::string path = "/TARN/SDT/HFPD/search/dataPackage/" + task + "?format=json";
+    return {Device::IsWholePackage(client.Fetch(path.c_str())),
+            static_cast<double>(client.Exchanges())};
 }
 
 unsigned long long Exchanges()
@@ -121,12 +89,12 @@ unsigned long long Exchanges()
     return now.exchanges;
 }
 
-Told Download(const Place& place, const std::string& task)
+Told Download(const DeviceProcess& device, const std::string& task)
 {
     tagNET_ORB_LOGIN_INFO info{};
-    info.address = place.url;
-    info.userName = kUser;
-    info.password = place.password;
+    info.address = device.Url().c_str();
+    info.userName = DeviceProcess::kUser;
+    info.password = device.Password().c_str();
     const int user = NET_ORB_Login(&info);
     const unsigned long long before = Exchanges();
     tagNET_ORB_XML_CONFIG_OUTPUT output{};
@@ -140,10 +108,10 @@ Told Download(const Place& place, const std::string& task)
 }
 
 /// Runs a client; false when it did not get the package.
-bool Measure(Told (*client)(const Place&, const std::string&), const Place& place,
+bool Measure(Told (*client)(const DeviceProcess&, const std::string&), const DeviceProcess& device,
              const std::string& task, double& memory, double& exchanges)
 {
-    Child<Told> child([&](auto tell) { tell(client(place, task)); });
+    Child child([&] { return client(device, task); });
     Told told{};
     const bool whole = child.Read(told) && told.whole;
     memory = child.Wait();
@@ -153,24 +121,13 @@ bool Measure(Told (*client)(const Place&, const std::string&), const Place& plac
 
 void Compare(benchmark::State& state, const std::string& task)
 {
-    int alive[2];
-    if (pipe(alive) != 0) {
-        state.SkipWithError("there is no pipe");
-        return;
-    }
-    const Child<Place> device([&](auto tell) {
-        close(alive[1]);
-        Serve(alive[0], tell);
-    });
-    close(alive[0]);
-    const std::unique_ptr<int, void (*)(int*)> ender(&alive[1], [](int* end) { close(*end); });
+    const auto device = DeviceProcess::Start("recorder", {});
     for (auto round : state) {
-        Place place{};
         double baseline = 0;
         double ours = 0;
         double exchanges = 0;
-        if (!device.Read(place) || !Measure(&DownloadPlainly, place, task, baseline, exchanges) ||
-            !Measure(&Download, place, task, ours, exchanges)) {
+        if (device == nullptr || !Measure(&DownloadPlainly, *device, task, baseline, exchanges) ||
+            !Measure(&Download, *device, task, ours, exchanges)) {
             state.SkipWithError("the package did not arrive whole");
             return;
         }

@@ -43,3 +43,14 @@ build() {
     cmake --build "$directory" --parallel "$(nproc)" ${1:+--target "$@"} ||
         die "the build in $directory failed; its messages are above"
 }
+
+# build_bench DIRECTORY TARGET...: sets up, and builds programs of bench/.
+build_bench() {
+    local directory=$1
+    shift
+    script/bootstrap
+    say "building $directory (a first build takes minutes)"
+    quietly "$directory/configure.log" cmake --preset bench -B "$directory" \
+        -DCAPABILITYSET_BUILD_TOOL=OFF -DCAPABILITYSET_INSTALL=OFF
+    quietly "$directory/build.log" cmake --build "$directory" --parallel "$(nproc)" --target "$@"
+}

@@ -1,0 +1,49 @@
+// A simulated device served over HTTP by a process of its own, so that a client is measured alone.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include <sys/types.h>
+
+#include "Device/DeviceServer.h"
+
+namespace Bench
+{
+
+/// Lives as long as the object. Made before the program starts threads, since it is a fork.
+class DeviceProcess
+{
+public:
+    /// Serves a profile on the loopback; null when it cannot be served.
+    static std::unique_ptr<DeviceProcess> Start(const std::string& profile,
+                                                Device::ServerOptions options);
+    ~DeviceProcess();
+    DeviceProcess(const DeviceProcess&) = delete;
+    DeviceProcess& operator=(const DeviceProcess&) = delete;
+
+    [[nodiscard]] const std::string& Url() const { return url_; }
+    [[nodiscard]] const std::string& Password() const { return password_; }
+    /// PEM file of the device's certificate; empty without TLS.
+    [[nodiscard]] const std::string& CertificateFile() const { return certificateFile_; }
+    [[nodiscard]] pid_t Pid() const { return pid_; }
+
+    static constexpr const char* kUser = "admin";
+
+private:
+    DeviceProcess() = default;
+    bool Hear(int from);
+
+    pid_t pid_ = -1;
+    int lifeline_ = -1;  ///< the device ends when this is closed
+    std::string url_;
+    std::string password_;
+    std::string certificateFile_;
+};
+
+/// Bytes of memory that a process holds now; 0 when it cannot be told.
+std::size_t ResidentBytes(pid_t process);
+
+}  // namespace Bench
