@@ -101,7 +101,7 @@ TEST(JsonSearchTest, AddsZoneAndAttendanceToAFaceLibrarySearchOnlyWhenItHasThem)
     search.Attendance.Schedules = Parsed(R"([{"from": "09:00"}])");
     EXPECT_EQ(search.Make(), expected(range + R"(, "searchType": "attendance",
         "Attendance": {"dayOfWeek": [1, 5], "FDID": "lib", "PID": "",
-                       "Schedules": [{"from": "09:00"}]})"));
+                       "Schedules": [{"from": "09:00"}], "MatchFace": {}})"));
     search.root["Attendance"]["minimum"] = 90;
     EXPECT_EQ(Parsed(search.Make())["FDLibSearchDescription"]["Attendance"]["minimum"], 90)
         << "what the client put beside the members stays";
@@ -164,6 +164,7 @@ TEST(JsonSearchTest, ReadsMembersInEachFormThatDevicesSend)
         {"id": "5", "channelId": 13, "currTemperature": 36}]}})");
     EXPECT_EQ(CaptureSearchResult(R"({"totalMatches": 3, "targets": [{}, {}]})").targets.size(), 2U)
         << "an answer without a key around it";
+    EXPECT_TRUE(ImportAudioLibCap(R"({"SourceData": {"UUID": {"@max": 64}}})").SourceData.present);
     EXPECT_EQ(AlarmHostDeviceLogResult(R"({"numOfMatches": 3})").numOfMatches, 0);
     ASSERT_EQ(captures.targets.size(), 2U);
     EXPECT_EQ(captures.targets[0].id, "4");

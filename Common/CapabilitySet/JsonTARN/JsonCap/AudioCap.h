@@ -61,7 +61,8 @@ struct CAPABILITYSET_API AudioImportDestinationCap : JsonPart<AudioImportDestina
 /// Importing sounds into a library.
 struct CAPABILITYSET_API ImportAudioLibCap : JsonRecord<ImportAudioLibCap>
 {
-    static constexpr const char* kKey = "";
+    static constexpr const char* kKey = "ImportAudioLibCap";
+    static constexpr bool kMayLackKey = true;
 
     AudioImportSourceCap SourceData;
     AudioImportDestinationCap DestinationData;

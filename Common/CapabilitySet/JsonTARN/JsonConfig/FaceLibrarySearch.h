@@ -20,8 +20,10 @@ struct CAPABILITYSET_API FDLibAttendanceSearch : JsonPart<FDLibAttendanceSearch>
     std::vector<int> dayOfWeek;  ///< days that count, 1 (Monday) to 7 (Sunday)
     std::string FDID;            ///< the face library
     std::string PID;             ///< the person in it
-    Json::Value Schedules;       ///< working hours, as the device's capability lists the form
-    Json::Value MatchFace;       ///< when two faces count as one, likewise
+    /// Working hours, as the device's capability lists the form.
+    Json::Value Schedules{Json::arrayValue};
+    /// When two faces count as one, likewise.
+    Json::Value MatchFace{Json::objectValue};
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
