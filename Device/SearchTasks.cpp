@@ -16,7 +16,8 @@ namespace Device
 namespace
 {
 
-constexpr int kStep = 25;  // percent that each look at a task's progress brings it on
+constexpr int kStep =
+    25;  // percent that a look at a task's progress brings it on, if none is given
 constexpr size_t kMostTasks = 1000;
 constexpr const char* kFetch = "/TARN/Intelligent/FDLib/FCSearch/dataPackage/file?taskID=";
 
@@ -37,12 +38,13 @@ struct Task
     State state = State::Running;
     int progress = 0;
     std::uint64_t packageSize = 0;
+    int step = kStep;
 
     [[nodiscard]] bool Done() const { return progress >= 100; }
     void Advance()
     {
         if (state == State::Running) {
-            progress = std::min(progress + kStep, 100);
+            progress = std::min(progress + step, 100);
         }
     }
 };
@@ -72,6 +74,7 @@ public:
             task.progress = JsonNumber(JsonMember(entry, "progress")).value_or(0);
             const Json::Value& size = JsonMember(entry, "packageSize");
             task.packageSize = size.isNull() ? packageSize_ : ReadSize(size);
+            task.step = JsonNumber(JsonMember(entry, "step")).value_or(kStep);
             tasks_[id] = task;
         }
     }
@@ -155,10 +158,12 @@ Response SearchTasks::Start(const Call& call)
     return Begin(call, "", packageSize_);
 }
 
-// There is one task that compares captures with libraries, started when it is first asked for.
+// There is one task that compares captures with libraries, started when it is first asked for and
+// again when it was cancelled.
 Response SearchTasks::StartCollision(const Call& call)
 {
-    if (tasks_.contains(collision_)) {
+    const auto former = tasks_.find(collision_);
+    if (former != tasks_.end() && former->second.state != Task::State::Cancelled) {
         Json::Value document;
         document["taskID"] = collision_;
         return Reply(document);

@@ -147,10 +147,10 @@ void Progress::Run()
     while (!ended_.wait_for(lock, pause, [this] { return isEnding_; })) {
         pause = 100ms;
         state_.time = std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - start_);
-        // The last column stays free: some terminals break the line when it is written.
-        constexpr std::size_t kTurnWidth = 3;
+        // Columns stay free at the end for the "^C" of a terminal that shows it.
+        constexpr std::size_t kReserved = 5;
         const std::string line = std::string(kTurns[turn++ % kTurns.size()]) + " " +
-                                 ProgressLine(state_, TerminalWidth(stderr) - kTurnWidth);
+                                 ProgressLine(state_, TerminalWidth(stderr) - kReserved);
         std::fprintf(stderr, "\r%s%s", line.c_str(), kClearToEnd);
         std::fflush(stderr);
     }

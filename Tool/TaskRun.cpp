@@ -87,13 +87,15 @@ void AddTaskOptions(CLI::App& command, TaskOptions& options)
 
 Report ReportTask(const std::string& task, const TaskState& state)
 {
-    RecordNode word = tree::Text("state", state.word);
-    word.announced = !state.word.empty();
-    return {{"Task",
-             RecordNode::Kind::Record,
-             {},
-             true,
-             {tree::Text("task", task), tree::Whole("progress", state.percent), word}}};
+    Report report{{"Task",
+                   RecordNode::Kind::Record,
+                   {},
+                   true,
+                   {tree::Text("task", task), tree::Whole("progress", state.percent)}}};
+    if (!state.word.empty()) {
+        report.values.children.push_back(tree::Text("state", state.word));
+    }
+    return report;
 }
 
 Report RunTask(Talk& talk, const TaskOptions& options, const TaskSteps& steps)
@@ -108,7 +110,7 @@ Report RunTask(Talk& talk, const TaskOptions& options, const TaskSteps& steps)
     if (isLasting) {
         farewell.emplace(
             AtInterruption::Kind::Say,
-            Harmless("capset: interrupted; task " + task + " goes on" + TaskHint(task)) + "\n");
+            Harmless("capset: interrupted; the device keeps task " + task + TaskHint(task)) + "\n");
     }
     try {
         return BeginAndFinish(talk, options, steps, task);

@@ -1,11 +1,15 @@
 // The bundled SDK against the simulated device's own server, over TLS and back.
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -109,6 +113,29 @@ TEST_F(SdkDevice, AGrownRepeatIsServedFromTheKeptAnswerAndAChangeCarriedOutOnce)
         Ask(device.UserID(), "PUT /TARN/a", "<a/>", {.answer = small.returnedSize});
     EXPECT_EQ(grown.answer, "PUT /TARN/a <a/>");
     EXPECT_EQ(model_->handled - before, 1);
+}
+
+TEST_F(SdkDevice, TheThreadThatAsksHearsHowMuchOfTheAnswerHasCome)
+{
+    Start({});
+    tagNET_ORB_LOGIN_INFO simulated{};
+    simulated.address = "sim:recorder";
+    for (const auto& [info, request, size] :
+         {std::tuple(info_, "PUT /TARN/a", 500'012ULL),
+          std::tuple(simulated, "GET /TARN/SDT/HFPD/search/dataPackage/pkg-1M", 1ULL << 20)}) {
+        const LoggedIn device(info);
+        std::vector<std::pair<unsigned long long, unsigned long long>> heard;
+        NET_ORB_SetReceiveProgress(
+            [](unsigned long long received, unsigned long long total, void* to) {
+                static_cast<decltype(heard)*>(to)->emplace_back(received, total);
+            },
+            &heard);
+        EXPECT_TRUE(Ask(device.UserID(), request, std::string(500'000, 'x'), {2U << 20}).success);
+        NET_ORB_SetReceiveProgress(nullptr, nullptr);
+        ASSERT_FALSE(heard.empty()) << request;
+        EXPECT_EQ(heard.back(), std::pair(size, size)) << request;
+        EXPECT_TRUE(std::ranges::is_sorted(heard)) << request;
+    }
 }
 
 TEST_F(SdkDevice, AWrongPasswordIsTriedOnceAndAStrangerNotAtAll)

@@ -141,7 +141,21 @@ INSTANTIATE_TEST_SUITE_P(
         Line{{"alarm", "disarm", "sim:alarmhost", "--subsystem", "1,99"}, 1, "did not follow", ""},
         Line{{"alarm", "silence", "sim:alarmhost", "--detector", "99,1"}, 1, "1  yes", ""},
         Line{{"alarm", "bypass", "sim:alarmhost", "--zone", "900"}, 1, "", "no zone 900"},
-        Line{{"alarm", "status", "sim:alarmhost", "zones"}, 0, "zones  64 entries", ""}));
+        Line{{"alarm", "status", "sim:alarmhost", "zones"}, 0, "zones  64 entries", ""},
+        Line{{"alarm", "zones", "sim:alarmhost"}, 0, "Archive door                      4", ""},
+        Line{{"alarm", "detectors", "sim:alarmhost"}, 0, "3/1      Temperature abnormal", ""},
+        Line{{"alarm", "siren", "sim:alarmhost", "--siren", "1,9", "--on"}, 1, "no siren 9", ""},
+        Line{{"alarm", "siren", "sim:alarmhost", "--siren", "9", "--off"}, 1, "", "no siren 9"},
+        Line{{"alarm", "siren", "sim:alarmhost", "--siren", "1"}, 2, "", "--on or --off"},
+        Line{
+            {"alarm", "siren", "sim:hostile:malformed", "--siren", "1", "--on"}, 1, "", "error 11"},
+        Line{{"search", "people", "sim:recorder", "--limit", "1"}, 0, "1 of 80 results", ""},
+        Line{{"search", "people", "sim:recorder", "--wait", "0"}, 0, "progress  25", ""},
+        Line{{"search", "people", "sim:recorder", "--task", "99"}, 1, "", "invalidID"},
+        Line{{"search", "faces", "sim:recorder", "--task", "99"}, 2, "", "--download"},
+        Line{{"search", "task", "sim:recorder", "12", "pause"}, 0, "paused", ""},
+        Line{{"search", "task", "sim:recorder", "12", "resume"}, 1, "", "wrongTaskState"},
+        Line{{"search", "task", "sim:recorder", "x", "delete"}, 2, "", "no number of a task"}));
 
 TEST(Tool, AnAddressWithAPasswordIsRefusedAndNeverRepeated)
 {
@@ -388,6 +402,42 @@ TEST(Tool, ADownloadThatIsInterruptedOrFailsLeavesNoFile)
     std::filesystem::remove_all(folder);
     EXPECT_THAT(RunTool({"search", "captures", "sim:dome", "--download", file}).err,
                 HasSubstr("No such file"));
+}
+
+TEST(Tool, ATaskThatIsInterruptedOrFailsTellsHowToTakeItUpAgain)
+{
+    const Environment password{{"CAPSET_PASSWORD", "recorder-1234"}};
+    const std::string file = testing::TempDir() + "capset-people.bin";
+    const Served recorder({{.kind = Device::FaultKind::Truncate,
+                            .pathPrefix = "/TARN/SDT/HFPD/search/",
+                            .times = 1,
+                            .bytes = 2000000}},
+                          false, "recorder");
+    const std::vector<std::string> search{"search", "people", recorder.Address(), "--download",
+                                          file};
+    const ToolResult broken = RunTool(search, password);
+    EXPECT_EQ(broken.exitCode, 1);
+    EXPECT_THAT(broken.err, HasSubstr("error 9"));
+    EXPECT_THAT(broken.err, HasSubstr("with --task 100\n"));
+    EXPECT_FALSE(std::filesystem::exists(file));
+
+    std::vector<std::string> again = search;
+    again.insert(again.end(), {"--task", "100"});
+    EXPECT_THAT(RunTool(again, password).out, HasSubstr("bytes  3145728"));
+    std::filesystem::remove(file);
+
+    const int before = recorder.Requests();
+    again.back() = "15";
+    ToolProcess slow(again, password);
+    for (int i = 0; i < 1000 && recorder.Requests() < before + 4; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    slow.Signal(SIGINT);
+    const ToolResult interrupted = slow.Wait();
+    EXPECT_EQ(interrupted.exitCode, 128 + SIGINT);
+    EXPECT_EQ(interrupted.err,
+              "capset: interrupted; the device keeps task 15; take it up again with --task 15\n");
+    EXPECT_FALSE(std::filesystem::exists(file));
 }
 
 TEST(Tool, PagesOfASearchAddUpToItsTotal)

@@ -1,5 +1,6 @@
 // How the command-line tool sets texts, tables, values and arguments.
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@
 #include "FaultArgument.h"
 #include "Grid.h"
 #include "JsonOutput.h"
+#include "Progress.h"
 #include "Records.h"
 #include "Table.h"
 #include "Text.h"
@@ -251,6 +253,22 @@ TEST_F(ToolText, StatusDocumentsAreReadInBothForms)
               (Members{{"statusCode", "4"}, {"errorMsg", "no"}}));
     EXPECT_TRUE(ReadStatus("<html>").empty());
     EXPECT_TRUE(ReadStatus("[1]").empty());
+}
+
+TEST_F(ToolText, ALineOfProgressTellsWhatMattersInAnyWidth)
+{
+    const ProgressState searching{.what = "search at sim:a", .step = "searching", .percent = 56};
+    EXPECT_EQ(ProgressLine(searching, 60), "search at sim:a: searching  ━━━━━━╸┄┄┄┄┄  56 %  0 s");
+    EXPECT_EQ(ProgressLine(searching, 40), "searching  ━━━━━━╸┄┄┄┄┄  56 %  0 s");
+    EXPECT_EQ(ProgressLine({.what = "a", .received = 3u << 20, .total = 6u << 20}, 24),
+              "a  3.0 of 6.0 MiB  0 s");
+    for (std::size_t width = 1; width < 120; ++width) {
+        for (const int percent : {-1, 0, 100, 2000000000}) {
+            EXPECT_LE(
+                Width(ProgressLine({.what = "what", .step = "step", .percent = percent}, width)),
+                std::max<std::size_t>(width, 6));
+        }
+    }
 }
 
 TEST_F(ToolText, Base64PadsWhatIsLeftOver)
