@@ -18,10 +18,16 @@ struct UrlCloser
 };
 using Url = std::unique_ptr<CURLU, UrlCloser>;
 
+/// Whether libcurl could do it; throws std::bad_alloc when there was no memory.
+bool Done(CURLUcode code)
+{
+    return code != CURLUE_OUT_OF_MEMORY ? code == CURLUE_OK : throw std::bad_alloc();
+}
+
 std::optional<std::string> UrlPart(const Url& url, CURLUPart part)
 {
     char* text = nullptr;
-    if (curl_url_get(url.get(), part, &text, 0) != CURLUE_OK) {
+    if (!Done(curl_url_get(url.get(), part, &text, 0))) {
         return std::nullopt;
     }
     const std::unique_ptr<char, decltype(&curl_free)> owner(text, &curl_free);
@@ -41,7 +47,7 @@ std::optional<HttpSettings> ReadHttpSettings(const tagNET_ORB_LOGIN_INFO& info)
     if (!url) {
         throw std::bad_alloc();
     }
-    if (curl_url_set(url.get(), CURLUPART_URL, info.address, 0) != CURLUE_OK) {
+    if (!Done(curl_url_set(url.get(), CURLUPART_URL, info.address, 0))) {
         return std::nullopt;
     }
     const std::string scheme = UrlPart(url, CURLUPART_SCHEME).value_or("");

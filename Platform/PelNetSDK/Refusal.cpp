@@ -8,6 +8,7 @@
 #include <charconv>
 #include <exception>
 #include <memory>
+#include <new>
 #include <string_view>
 
 #include "PelNetSDK/Login.h"
@@ -48,17 +49,47 @@ std::string_view View(const xmlChar* text)
     return text == nullptr ? std::string_view() : reinterpret_cast<const char*>(text);
 }
 
+/// Keeps what libxml2 reports on this thread from the client's handlers and stderr while it lives.
+class ErrorWatch
+{
+public:
+    ErrorWatch() { xmlSetStructuredErrorFunc(this, &ErrorWatch::Note); }
+    ~ErrorWatch() { xmlSetStructuredErrorFunc(clientsContext_, clients_); }
+    ErrorWatch(const ErrorWatch&) = delete;
+    ErrorWatch& operator=(const ErrorWatch&) = delete;
+
+    [[nodiscard]] bool RanOutOfMemory() const { return ranOutOfMemory_; }
+
+private:
+    // Each one, for any later error takes the place of the last.
+    static void Note(void* self, xmlErrorPtr error)
+    {
+        static_cast<ErrorWatch*>(self)->ranOutOfMemory_ |= error->code == XML_ERR_NO_MEMORY;
+    }
+
+    const xmlStructuredErrorFunc clients_ = xmlStructuredError;
+    void* const clientsContext_ = xmlStructuredErrorContext;
+    bool ranOutOfMemory_ = false;
+};
+
 std::optional<StatusDocument> ReadXml(const std::string& text)
 {
     // A document type could declare entities; no status document has one.
-    if (text.find("<!DOCTYPE") != std::string::npos || text.find('\0') != std::string::npos) {
+    if (!text.starts_with('<') || text.find("<!DOCTYPE") != std::string::npos ||
+        text.find('\0') != std::string::npos) {
         return std::nullopt;
     }
-    // The encoding is fixed, so that a declared one cannot hide a document type.
+    // Text that begins so is read as UTF-8, whatever it declares: another encoding could hide a
+    // document type. Asked for by name, libxml2 would convert, and read through a null pointer when
+    // memory runs out meanwhile.
+    constexpr int kOptions = XML_PARSE_IGNORE_ENC | XML_PARSE_NONET;
+    const ErrorWatch errors;
     const std::unique_ptr<xmlDoc, decltype(&xmlFreeDoc)> tree(
-        xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, "UTF-8",
-                      XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
+        xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, kOptions),
         &xmlFreeDoc);
+    if (errors.RanOutOfMemory()) {  // a tree may lack what there was no memory for
+        throw std::bad_alloc();
+    }
     const xmlNode* const root = tree ? xmlDocGetRootElement(tree.get()) : nullptr;
     if (root == nullptr || View(root->name) != "ResponseStatus") {
         return std::nullopt;
@@ -111,7 +142,8 @@ std::optional<StatusDocument> ReadStatusDocument(const std::string& text)
     if (begin == std::string::npos || text.size() > kLongestStatusDocument) {
         return std::nullopt;
     }
-    return text[begin] == '{' ? ReadJson(text.substr(begin)) : ReadXml(text);
+    const std::string document = text.substr(begin);
+    return document.starts_with('{') ? ReadJson(document) : ReadXml(document);
 }
 
 Failure JudgeRefusal(int httpStatus, RequestKind kind,

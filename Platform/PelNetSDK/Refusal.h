@@ -30,7 +30,7 @@ struct StatusDocument
 };
 
 /// Reads an XML "ResponseStatus" document or a JSON object with the same members; nothing when
-/// the text is neither, or longer than any status document.
+/// the text is neither, or longer than any status document. Throws std::bad_alloc.
 [[nodiscard]] std::optional<StatusDocument> ReadStatusDocument(const std::string& text);
 
 /// The failure that an HTTP status other than 2xx and its status document amount to.

@@ -23,32 +23,19 @@ thread_local struct
     std::size_t left;
 } fault;
 
-bool Fails(AllocationFault::Of which)
-{
-    if (!fault.isSet || fault.isPaused || fault.which != which || fault.left == 0)
-        return false;
-    if (fault.left > 1) {
-        --fault.left;
-        return false;
-    }
-    fault.left = fault.andLater ? 1 : 0;
-    fault.struck = true;
-    return true;
-}
-
 void* XmlAllocate(std::size_t size)
 {
-    return Fails(AllocationFault::Xml) ? nullptr : std::malloc(size);
+    return AllocationFault::Strikes(AllocationFault::Xml) ? nullptr : std::malloc(size);
 }
 
 void* XmlReallocate(void* block, std::size_t size)
 {
-    return Fails(AllocationFault::Xml) ? nullptr : std::realloc(block, size);
+    return AllocationFault::Strikes(AllocationFault::Xml) ? nullptr : std::realloc(block, size);
 }
 
 char* XmlDuplicate(const char* text)
 {
-    return Fails(AllocationFault::Xml) ? nullptr : strdup(text);
+    return AllocationFault::Strikes(AllocationFault::Xml) ? nullptr : strdup(text);
 }
 
 }  // namespace
@@ -61,6 +48,19 @@ AllocationFault::AllocationFault(Of which, std::size_t ordinal, bool andLater)
 AllocationFault::~AllocationFault()
 {
     fault.isSet = false;
+}
+
+bool AllocationFault::Strikes(Of which)
+{
+    if (!fault.isSet || fault.isPaused || fault.which != which || fault.left == 0)
+        return false;
+    if (fault.left > 1) {
+        --fault.left;
+        return false;
+    }
+    fault.left = fault.andLater ? 1 : 0;
+    fault.struck = true;
+    return true;
 }
 
 bool AllocationFault::Struck()
@@ -85,10 +85,15 @@ void HookXmlAllocations()
 
 }  // namespace TestSupport
 
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
+{
+    using TestSupport::AllocationFault;
+    return AllocationFault::Strikes(AllocationFault::New) ? nullptr : std::malloc(size);
+}
+
 void* operator new(std::size_t size)
 {
-    void* const block =
-        TestSupport::Fails(TestSupport::AllocationFault::New) ? nullptr : std::malloc(size);
+    void* const block = operator new(size, std::nothrow);
     if (block == nullptr)
         throw std::bad_alloc();
     return block;

@@ -1,4 +1,4 @@
-// Makes allocations fail on demand: operator new, and the allocations of libxml2.
+// Makes allocations fail on demand: operator new, and the allocations of C libraries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,7 +15,8 @@ public:
     enum Of
     {
         New,
-        Xml
+        Xml,
+        Curl  ///< of a test that hands libcurl allocators which ask Strikes
     };
     AllocationFault(Of which, std::size_t ordinal, bool andLater = false);
     ~AllocationFault();
@@ -24,6 +25,9 @@ public:
 
     /// Whether an allocation was made to fail.
     [[nodiscard]] static bool Struck();
+
+    /// Whether the allocation that the caller is about to make fails.
+    static bool Strikes(Of which);
 };
 
 /// Allocations succeed, uncounted, while one lives: for what is not under test.

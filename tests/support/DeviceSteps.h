@@ -72,15 +72,17 @@ public:
     {
         if (road == Road::Http)
             Serve(profile);
-        tagNET_ORB_LOGIN_INFO info{};
-        info.address = address_.c_str();
-        info.userName = password_.empty() ? nullptr : "admin";
-        info.password = password_.empty() ? nullptr : password_.c_str();
-        login_ = std::make_unique<LoggedIn>(info);
+        info_.address = address_.c_str();
+        info_.userName = password_.empty() ? nullptr : "admin";
+        info_.password = password_.empty() ? nullptr : password_.c_str();
+        login_ = std::make_unique<LoggedIn>(info_);
     }
     Asked(const Asked&) = delete;
     Asked& operator=(const Asked&) = delete;
     operator int() const { return login_->UserID(); }
+
+    /// For another login to it; in this process each login has a device of its own.
+    [[nodiscard]] const tagNET_ORB_LOGIN_INFO& Info() const { return info_; }
 
     void SetFaults(std::vector<Device::Fault> faults)
     {
@@ -110,6 +112,7 @@ private:
 
     std::string address_;
     std::string password_;
+    tagNET_ORB_LOGIN_INFO info_{};
     std::vector<Device::ServedRequest> served_;  // written by the server's threads until it ends
     std::unique_ptr<Device::DeviceServer> server_;
     std::unique_ptr<LoggedIn> login_;
