@@ -118,7 +118,8 @@ std::string Read(Device::BodySource& source, size_t block)
 
 TEST(SearchTask, PackagesAreWholeHoweverTheyAreReadAndShowEveryChange)
 {
-    for (const std::uint64_t size : {0, 39, 40, 41, 47, 48, 70000, 1 << 20}) {
+    for (const std::uint64_t size :
+         std::vector<std::uint64_t>{0, 39, 40, 41, 47, 48, 70000, 1 << 20}) {
         const std::string text = Read(*Device::MakePackage(size, "a"), 1 << 16);
         EXPECT_EQ(text.size(), std::max<std::uint64_t>(size, 40));
         EXPECT_TRUE(Device::IsWholePackage(text)) << size;
