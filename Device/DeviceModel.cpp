@@ -129,15 +129,23 @@ std::shared_ptr<DeviceModel> DeviceModel::Load(const std::string& profile, std::
         }
         files = FilesOf(**found);
     }
+    auto model = Load(files, error);
+    if (!model) {
+        error = "profile \"" + profile + "\": " + error;
+    }
+    return model;
+}
+
+std::shared_ptr<DeviceModel> DeviceModel::Load(const ProfileFiles& files, std::string& error)
+{
     Profile read;
     if (!ReadProfile(files, read, error)) {
-        error = "profile \"" + profile + "\": " + error;
         return nullptr;
     }
     try {
         return std::make_shared<ProfileModel>(std::move(read));
     } catch (const StateFault& fault) {
-        error = "profile \"" + profile + "\": " + fault.what();
+        error = fault.what();
         return nullptr;
     }
 }

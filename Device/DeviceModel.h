@@ -3,8 +3,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,6 +47,9 @@ struct Response
         nullptr;  ///< the body instead of `body`, when there is one
 };
 
+/// Reads one file of a profile by its name; nothing when there is none.
+using ProfileFiles = std::function<std::optional<std::string>(const std::string& name)>;
+
 /// A device of one profile. All members may be called from any thread.
 class DeviceModel
 {
@@ -52,6 +57,9 @@ public:
     /// Loads an embedded profile by name ("dome"), or a profile folder by path (anything with '/').
     /// Returns null and a sentence in `error` when there is no such profile or it is malformed.
     static std::shared_ptr<DeviceModel> Load(const std::string& profile, std::string& error);
+
+    /// Likewise a profile whose files are wherever `files` has them.
+    static std::shared_ptr<DeviceModel> Load(const ProfileFiles& files, std::string& error);
 
     /// Names of the embedded profiles, sorted.
     static std::vector<std::string> ProfileNames();

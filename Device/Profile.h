@@ -11,6 +11,7 @@
 
 #include <json/value.h>
 
+#include "Device/DeviceModel.h"
 #include "Device/JsonSearch.h"
 #include "Device/ParsedRequest.h"
 #include "Device/Recordings.h"
@@ -65,9 +66,6 @@ struct Profile
 
     [[nodiscard]] bool HasProtocolChannel(int channel) const;
 };
-
-/// Reads one file of a profile by its name; nothing when there is none.
-using ProfileFiles = std::function<std::optional<std::string>(const std::string& name)>;
 
 /// Reads a profile. On failure false and a sentence in `error` that names the manifest's faulty
 /// entry.

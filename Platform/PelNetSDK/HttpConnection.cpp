@@ -71,6 +71,7 @@ void HttpConnection::Set(CURLoption option, Value value)
 
 HttpConnection::HttpConnection(const HttpSettings& settings, const std::atomic<bool>& cancelled)
     : base_(settings.base),
+      openSocket_(settings.openSocket),
       cancelled_(cancelled),
       hasCredentials_(!settings.user.empty() || !settings.password.Empty()),
       basicAllowed_(settings.secure || settings.allowBasic),
@@ -80,6 +81,7 @@ HttpConnection::HttpConnection(const HttpSettings& settings, const std::atomic<b
         throw std::bad_alloc();
     }
     SetTransport(settings);
+    SetSocket();
     SetCredentials(settings);
     SetCallbacks();
 }
@@ -103,6 +105,22 @@ void HttpConnection::SetTransport(const HttpSettings& settings)
         Set(CURLOPT_CAINFO, settings.certificateFile.c_str());
         Set(CURLOPT_CAPATH, static_cast<char*>(nullptr));  // the file alone is trusted
     }
+}
+
+void HttpConnection::SetSocket()
+{
+    if (!openSocket_) {
+        return;
+    }
+    const curl_opensocket_callback open = [](void* self, curlsocktype, curl_sockaddr*) {
+        return static_cast<curl_socket_t>(static_cast<HttpConnection*>(self)->openSocket_());
+    };
+    const curl_sockopt_callback isConnected = [](void*, curl_socket_t, curlsocktype) {
+        return static_cast<int>(CURL_SOCKOPT_ALREADY_CONNECTED);
+    };
+    Set(CURLOPT_OPENSOCKETFUNCTION, open);
+    Set(CURLOPT_OPENSOCKETDATA, this);
+    Set(CURLOPT_SOCKOPTFUNCTION, isConnected);
 }
 
 void HttpConnection::SetCredentials(const HttpSettings& settings)

@@ -7,6 +7,7 @@
 #include <array>
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -28,6 +29,8 @@ struct HttpSettings
     bool allowBasic = false;
     std::chrono::milliseconds connectTimeout{5000};
     std::chrono::milliseconds receiveTimeout{15000};
+    /// Opens a socket that is connected already, -1 when it cannot; empty: to `base` by TCP.
+    std::function<int()> openSocket;
 };
 
 /// Used by one thread at a time. The handle is never reset: it keeps the connection and what the
@@ -57,6 +60,7 @@ private:
     template <class Value>
     void Set(CURLoption option, Value value);
     void SetTransport(const HttpSettings& settings);
+    void SetSocket();
     void SetCredentials(const HttpSettings& settings);
     void SetCallbacks();
 
@@ -77,6 +81,7 @@ private:
 
     std::array<char, CURL_ERROR_SIZE> detail_{};
     const std::string base_;
+    const std::function<int()> openSocket_;
     const std::atomic<bool>& cancelled_;
     const bool hasCredentials_;
     const bool basicAllowed_;

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <random>
@@ -9,6 +13,8 @@
 #include <vector>
 
 #include "CapabilitySet/RecordTree.h"
+#include "CapabilitySet/private/FieldTags.h"
+#include "CapabilitySet/private/JsonReading.h"
 
 namespace TestSupport
 {
@@ -20,7 +26,16 @@ class RecordGenerator
 {
 public:
     explicit RecordGenerator(unsigned seed, bool withForbidden = false)
-        : random_(seed), withForbidden_(withForbidden)
+        : next_(
+              [random = std::mt19937(seed)]() mutable { return static_cast<unsigned>(random()); }),
+          withForbidden_(withForbidden)
+    {
+    }
+
+    /// Makes records of the numbers that `next` gives, each 0 to 255 or more; with any bytes in
+    /// their texts, and any numbers, when asked for.
+    explicit RecordGenerator(std::function<unsigned()> next, bool anyBytes)
+        : next_(std::move(next)), anyBytes_(anyBytes)
     {
     }
 
@@ -33,7 +48,16 @@ public:
     }
 
 private:
-    unsigned Below(unsigned bound) { return static_cast<unsigned>(random_()) % bound; }
+    unsigned Below(unsigned bound) { return next_() % bound; }
+
+    template <class Number>
+    Number Any()
+    {
+        std::uint64_t bits = 0;
+        for (int byte = 0; byte < 8; ++byte)
+            bits = bits << 8U | Below(256);
+        return std::bit_cast<Number>(bits);
+    }
 
     template <class Value, std::size_t kSize>
     Value OneOf(const Value (&values)[kSize])
@@ -49,7 +73,16 @@ private:
         value = OneOf({0, 1, -1, 1234567, Limits::max(), Limits::min()});
     }
 
-    void Fill(double& value) { value = OneOf({0.0, 0.1, -36.6, 1e300, 5e-324, 123456789.125}); }
+    void Fill(unsigned& value) { value = OneOf({0U, 1U, 1234567U, ~0U}); }
+
+    void Fill(double& value)
+    {
+        value = OneOf({0.0, 0.1, -36.6, 1e300, 5e-324, 123456789.125});
+        if (anyBytes_)
+            value = Any<double>();
+        if (!std::isfinite(value))  // no document can hold it
+            value = 0;
+    }
 
     void Fill(std::string& value)
     {
@@ -84,6 +117,8 @@ private:
             const char* const forbidden = OneOf(kForbidden);
             if (Below(3) == 0 && withForbidden_)
                 value += forbidden;
+            if (anyBytes_)
+                value += static_cast<char>(Below(256));
         }
     }
 
@@ -101,16 +136,45 @@ private:
             Fill(item);
     }
 
+    void Fill(Json::Value& value)
+    {
+        std::string text;
+        Fill(text);
+        value = Below(2) == 0 ? Json::Value(text) : Json::Value(Below(100));
+    }
+
+    void Fill(CapabilitySet::OptJsonElement& element)
+    {
+        Fill(element.opt);
+        element.capable = true;
+    }
+
+    void Fill(CapabilitySet::MisinfoMinMaxElement& element)
+    {
+        Fill(element.min);
+        Fill(element.max);
+    }
+
     template <CapabilitySet::tree::HasFields Record>
     void Fill(Record& record)
     {
-        Record::Fields(record, [this](const char* /*name*/, auto& member, auto... /*how*/) {
-            this->Fill(member);
-        });
+        if constexpr (requires { record.present = true; })
+            record.present = true;
+        Record::Fields(
+            record, [this]<class... How>(const char* /*name*/, auto& member, How... /*how*/) {
+                if constexpr ((std::is_same_v<How, CapabilitySet::as::StyledText> || ...)) {
+                    Json::Value value;
+                    this->Fill(value);
+                    member = CapabilitySet::json::StyledText(value);
+                } else {
+                    this->Fill(member);
+                }
+            });
     }
 
-    std::mt19937 random_;
-    bool withForbidden_;
+    std::function<unsigned()> next_;
+    bool withForbidden_ = false;
+    bool anyBytes_ = false;
 };
 
 }  // namespace TestSupport

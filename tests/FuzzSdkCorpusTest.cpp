@@ -1,0 +1,13 @@
+// The properties of the bundled SDK that are fuzzed.
+// SPDX-License-Identifier: Apache-2.0
+#include "support/FuzzCorpus.h"
+
+namespace TestSupport
+{
+
+INSTANTIATE_TEST_SUITE_P(Targets, FuzzCorpusTest,
+                         testing::Values(FuzzTarget{"Refusal", Fuzz::Refusal},
+                                         FuzzTarget{"HttpAnswer", Fuzz::HttpAnswer}),
+                         NameOf);
+
+}  // namespace TestSupport
