@@ -60,6 +60,8 @@ void CheckRoundTrip(const std::string& text)
     Require(Describe({}, record) == Describe({}, expected), "differs from the plain reading",
             about);
     const std::string written = record.Make();
+    if (written.empty())
+        return;  // whoever has nothing to switch sends nothing
     Record again;
     again.Parse(written);
     Require(SameFields(record, again) || !IsAscii(text), "reads back what it wrote", about);

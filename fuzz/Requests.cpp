@@ -1,5 +1,7 @@
 // Any bytes as the values of a record that is sent to a device.
 // SPDX-License-Identifier: Apache-2.0
+#include <type_traits>
+
 #include "CapabilitySet/RecordTree.h"
 #include "CapabilitySet/private/JsonReading.h"
 #include "CapabilitySet/private/XmlDocument.h"
@@ -49,6 +51,10 @@ void CheckBody(RecordGenerator& generator, bool anyBytes)
     const auto record = generator.Make<Record>();
     const std::string body = Body(record);
     const std::string& about = body;
+    if constexpr (std::is_same_v<Record, AlarmHostOutputCfg>) {
+        if (record.ids.empty())
+            return Require(body.empty(), "without outputs nothing is switched", about);
+    }
     Require(kIsXml ? IsXml(body) : IsJson(body), "a body is a document", about);
     Record back;
     back.Parse(body);
@@ -56,11 +62,12 @@ void CheckBody(RecordGenerator& generator, bool anyBytes)
     Require(Body(back) == body, "what was read back makes the same body", about);
 }
 
+/// Left out is the record that holds one member twice: filled, it contradicts itself.
 template <class Record>
 concept IsSent = requires(Record record, std::string text) {
     record.CreateXmlNodePtr();
     record.Parse(text);
-} || requires(Record record) { record.Make(); };
+} || (requires(Record record) { record.Make(); } && !std::is_same_v<Record, PortPoeInfoListCap>);
 
 }  // namespace
 

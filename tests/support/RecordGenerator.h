@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
+#include <json/value.h>
+
 #include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/FieldTags.h"
-#include "CapabilitySet/private/JsonReading.h"
 
 namespace TestSupport
 {
@@ -160,16 +160,9 @@ private:
     {
         if constexpr (requires { record.present = true; })
             record.present = true;
-        Record::Fields(
-            record, [this]<class... How>(const char* /*name*/, auto& member, How... /*how*/) {
-                if constexpr ((std::is_same_v<How, CapabilitySet::as::StyledText> || ...)) {
-                    Json::Value value;
-                    this->Fill(value);
-                    member = CapabilitySet::json::StyledText(value);
-                } else {
-                    this->Fill(member);
-                }
-            });
+        Record::Fields(record, [this](const char* /*name*/, auto& member, auto... /*how*/) {
+            this->Fill(member);
+        });
     }
 
     std::function<unsigned()> next_;

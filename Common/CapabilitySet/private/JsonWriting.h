@@ -10,6 +10,7 @@
 #include <json/value.h>
 
 #include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
 #include "CapabilitySet/private/FieldTags.h"
 #include "CapabilitySet/private/JsonReading.h"
 
@@ -21,6 +22,10 @@ namespace CapabilitySet::json
 
 template <class Member>
 concept Scalar = std::is_arithmetic_v<Member> || std::is_same_v<Member, std::string>;
+
+/// Whether a record has no members of its own, but all that the device said.
+template <class Record>
+inline constexpr bool kIsTree = std::is_base_of_v<JsonTree<Record>, Record>;
 
 /// Whether the value, or the lack of one, reads as this member.
 template <Scalar Member>
@@ -187,6 +192,9 @@ public:
         if constexpr (std::is_same_v<Member, Json::Value>) {
             if (member.isNull() && !object_.isMember(name))
                 return;
+        } else if constexpr (kIsTree<Member>) {
+            if (member.root.isNull() && !object_.isMember(name))
+                return;
         }
         if constexpr (std::is_same_v<How, as::StyledText>)
             WriteStyled(name, member);
@@ -214,7 +222,9 @@ private:
 template <class Record>
 void WriteFields(Json::Value& target, const Record& record)
 {
-    Record::Fields(record, FieldWriter(ObjectOf(target)));
+    // What lists no members is the device's own value, of whatever kind.
+    if (!kIsTree<Record> || target.isNull())
+        Record::Fields(record, FieldWriter(ObjectOf(target)));
 }
 
 /// A record under its own key, over what the device said.
