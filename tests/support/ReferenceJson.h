@@ -16,6 +16,7 @@
 #include "CapabilitySet/JsonTARN/JsonCap/AlarmHostCap.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/FireControl.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/HumanFeatureSearch.h"
+#include "CapabilitySet/JsonTARN/JsonRecord.h"
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/private/FieldTags.h"
 
@@ -44,6 +45,9 @@ void ReadMember(const Json::Value& value, Part& part);
 
 template <class Record>
 void ReadMembers(const Json::Value& object, Record& record);
+
+template <class Record>
+void ReadText(const std::string& text, Record& record);
 
 inline void ReadMember(const Json::Value& value, bool& member)
 {
@@ -155,6 +159,14 @@ inline void ReadMember(const Json::Value& value, CapabilitySet::SubSysOperateCap
 {
     part.root = value;
     part.present = !value.isNull();
+}
+
+/// A part without members of its own is all that stands there.
+template <class Tree>
+    requires std::derived_from<Tree, CapabilitySet::JsonTree<Tree>>
+void ReadMember(const Json::Value& value, Tree& tree)
+{
+    ReadText(value.toStyledString(), tree);
 }
 
 template <class Part>
