@@ -56,19 +56,24 @@ ssize_t ReadAnswer(void* data, std::uint64_t position, char* buffer, size_t size
                      : static_cast<ssize_t>(count);
 }
 
-// Resets the connection: the client sees an error instead of an orderly end.
-MHD_Result ResetConnection(MHD_Connection* connection)
+int SocketOf(MHD_Connection* connection)
 {
     const MHD_ConnectionInfo* info =
         MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD);
-    if (info != nullptr) {
+    return info == nullptr ? -1 : info->connect_fd;
+}
+
+// Resets the connection: the client sees an error instead of an orderly end.
+MHD_Result ResetConnection(MHD_Connection* connection)
+{
+    if (const int socket = SocketOf(connection); socket >= 0) {
         const linger atOnce{1, 0};
-        setsockopt(info->connect_fd, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+        setsockopt(socket, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
         // Dissolving the association sends the reset now; the library's own orderly shutdown,
         // which would come first, then finds nothing to shut down.
         sockaddr nowhere{};
         nowhere.sa_family = AF_UNSPEC;
-        static_cast<void>(connect(info->connect_fd, &nowhere, sizeof nowhere));
+        static_cast<void>(connect(socket, &nowhere, sizeof nowhere));
     }
     return MHD_NO;
 }
@@ -97,6 +102,10 @@ public:
     }
 
     bool SetFaults(std::vector<Fault> faults, std::string& error) override;
+    [[nodiscard]] std::vector<std::uint64_t> FaultCounts() const override
+    {
+        return faults_.Counts();
+    }
     void Stop() override { StopDaemon(); }
 
 private:
@@ -111,9 +120,9 @@ private:
     void Authenticate(MHD_Connection* connection, Exchange& exchange);
     MHD_Result Receive(Exchange& exchange, const char* data, size_t* size) const;
     MHD_Result Answer(MHD_Connection* connection, Exchange& exchange);
-    Response Decide(const FaultPlan& plan, Exchange& exchange);
+    Response Decide(FaultPlan& plan, Exchange& exchange);
     MHD_Result Send(MHD_Connection* connection, Exchange& exchange, Response response,
-                    const FaultPlan& plan);
+                    FaultPlan plan);
 
     const std::shared_ptr<DeviceModel> model_;
     ServerOptions options_;
@@ -290,43 +299,53 @@ MHD_Result HttpServer::Receive(Exchange& exchange, const char* data, size_t* siz
 
 MHD_Result HttpServer::Answer(MHD_Connection* connection, Exchange& exchange)
 {
-    const FaultPlan plan = faults_.Plan(DecodeTarget(exchange.uri), exchange.authorized);
-    if (plan.delay.count() > 0 && !stop_.Wait(plan.delay)) {
-        return MHD_NO;
+    FaultPlan plan = faults_.Plan(DecodeTarget(exchange.uri), exchange.authorized);
+    if (plan.delay.count() > 0) {
+        plan.Strike(FaultKind::Delay);
+        if (!stop_.Wait(plan.delay)) {
+            return MHD_NO;
+        }
     }
     if (plan.reset) {
+        plan.Strike(FaultKind::Reset);
         return ResetConnection(connection);
     }
-    return Send(connection, exchange, Decide(plan, exchange), plan);
+    Response response = Decide(plan, exchange);
+    return Send(connection, exchange, std::move(response), std::move(plan));
 }
 
-Response HttpServer::Decide(const FaultPlan& plan, Exchange& exchange)
+Response HttpServer::Decide(FaultPlan& plan, Exchange& exchange)
 {
-    if (plan.unauthorized || !exchange.authorized) {
+    if (plan.unauthorized || plan.staleNonce || !exchange.authorized) {
+        plan.Strike(plan.unauthorized ? FaultKind::Unauthorized : FaultKind::StaleNonce);
+        exchange.stale = exchange.stale || (plan.staleNonce && !plan.unauthorized);
         return MakeStatus(Outcome::kUnauthorized, exchange.uri);
     }
     if (exchange.tooLarge) {
         return MakeStatus(Outcome::kTooLarge, exchange.uri);
     }
     if (plan.serverError) {
+        plan.Strike(FaultKind::ServerError);
         return {*plan.serverError, "text/html",
                 "<html><body><h1>" + std::to_string(*plan.serverError) +
                     " Server Error</h1></body></html>\n"};
     }
     if (plan.refusal) {
+        plan.Strike(FaultKind::Refuse);
         return MakeStatus(*FindOutcome(*plan.refusal), exchange.uri);
     }
     return model_->Handle({exchange.method, DecodeTarget(exchange.uri), exchange.body});
 }
 
 MHD_Result HttpServer::Send(MHD_Connection* connection, Exchange& exchange, Response response,
-                            const FaultPlan& plan)
+                            FaultPlan plan)
 {
     constexpr size_t kBlock = 32768;
     exchange.body = {};
     exchange.status = response.status;
     const std::string contentType = response.contentType;
-    exchange.answer = std::make_unique<AnswerBody>(std::move(response), plan, stop_);
+    exchange.answer = std::make_unique<AnswerBody>(std::move(response), std::move(plan), stop_,
+                                                   SocketOf(connection));
     const ResponsePtr answer(
         MHD_create_response_from_callback(exchange.answer->AnnouncedSize(), kBlock, &ReadAnswer,
                                           exchange.answer.get(), nullptr),

@@ -67,6 +67,10 @@ public:
     /// makes no sense; the former faults then stay.
     virtual bool SetFaults(std::vector<Fault> faults, std::string& error) = 0;
 
+    /// How often each of the faults struck since they were set, in their order. Where faults get in
+    /// each other's way, only those count that the client noticed.
+    [[nodiscard]] virtual std::vector<std::uint64_t> FaultCounts() const = 0;
+
     /// Ends all connections, answers in progress included, and returns when no thread is left;
     /// within a second unless the model or the log takes longer.
     virtual void Stop() = 0;

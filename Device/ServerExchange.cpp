@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/ServerExchange.h"
 
+#include <poll.h>
+
 #include <algorithm>
 #include <cstring>
 #include <utility>
@@ -28,33 +30,67 @@ bool StopSignal::Wait(std::chrono::milliseconds time)
     return !changed_.wait_for(lock, std::min(time, kLongest), [this] { return stopped_.load(); });
 }
 
-AnswerBody::AnswerBody(Response response, const FaultPlan& plan, StopSignal& stop)
+AnswerBody::AnswerBody(Response response, FaultPlan plan, StopSignal& stop, int socket)
     : body_(std::move(response.body)),
       source_(std::move(response.source)),
       size_(source_ ? source_->Size() : body_.size()),
-      plan_(plan),
-      stop_(stop)
+      plan_(std::move(plan)),
+      stop_(stop),
+      socket_(socket)
 {
 }
 
-std::int64_t AnswerBody::Read(std::uint64_t position, char* buffer, size_t size)
+// A stalled answer that outlived its client would keep the connection's thread.
+void AnswerBody::Stall() const
 {
-    if (stop_.Stopped()) {
-        return -1;
+    constexpr std::chrono::milliseconds kLook{100};
+    const auto start = std::chrono::steady_clock::now();
+    pollfd client{socket_, POLLRDHUP, 0};
+    while (plan_.stallTime.count() == 0 ||
+           std::chrono::steady_clock::now() - start < plan_.stallTime) {
+        if (!stop_.Wait(kLook) || poll(&client, 1, 0) > 0) {
+            return;
+        }
     }
+}
+
+std::int64_t AnswerBody::Allowed(std::uint64_t position, size_t size)
+{
     std::uint64_t count = std::min<std::uint64_t>(size, AnnouncedSize() - position);
     if (plan_.dripBytes > 0) {
-        if (position > 0 && !stop_.Wait(plan_.dripInterval)) {
-            return -1;
+        if (position > 0) {
+            plan_.Strike(FaultKind::Drip);
+            if (!stop_.Wait(plan_.dripInterval)) {
+                return -1;
+            }
         }
         count = std::min(count, plan_.dripBytes);
     }
     if (plan_.truncateAt) {
         if (position >= *plan_.truncateAt) {
+            plan_.Strike(FaultKind::Truncate);
             return -1;
         }
         count = std::min(count, *plan_.truncateAt - position);
     }
+    if (plan_.stallAt) {
+        if (position >= *plan_.stallAt) {
+            plan_.Strike(FaultKind::Stall);
+            Stall();
+            return -1;
+        }
+        count = std::min(count, *plan_.stallAt - position);
+    }
+    return static_cast<std::int64_t>(count);
+}
+
+std::int64_t AnswerBody::Read(std::uint64_t position, char* buffer, size_t size)
+{
+    const std::int64_t allowed = stop_.Stopped() ? -1 : Allowed(position, size);
+    if (allowed < 0) {
+        return -1;
+    }
+    auto count = static_cast<std::uint64_t>(allowed);
     if (position < size_) {
         // The server asks for each byte once, in order, as a source gives them.
         count = std::min<std::uint64_t>(count, size_ - position);
@@ -64,6 +100,7 @@ std::int64_t AnswerBody::Read(std::uint64_t position, char* buffer, size_t size)
             std::memcpy(buffer, body_.data() + position, count);
         }
     } else {
+        plan_.Strike(FaultKind::Oversize);
         std::memset(buffer, ' ', count);
     }
     sent_ = position + count;

@@ -37,7 +37,8 @@ private:
 class AnswerBody
 {
 public:
-    AnswerBody(Response response, const FaultPlan& plan, StopSignal& stop);
+    /// `socket` tells whether the client is still there.
+    AnswerBody(Response response, FaultPlan plan, StopSignal& stop, int socket);
 
     [[nodiscard]] std::uint64_t AnnouncedSize() const { return size_ + plan_.padding; }
     [[nodiscard]] std::uint64_t Sent() const { return sent_; }
@@ -47,11 +48,16 @@ public:
     std::int64_t Read(std::uint64_t position, char* buffer, size_t size);
 
 private:
+    void Stall() const;
+    /// How many bytes may come next; -1: none ever.
+    std::int64_t Allowed(std::uint64_t position, size_t size);
+
     const std::string body_;
     const std::shared_ptr<BodySource> source_;
     const std::uint64_t size_;  ///< without padding
-    const FaultPlan plan_;
+    FaultPlan plan_;
     StopSignal& stop_;
+    const int socket_;
     std::uint64_t sent_ = 0;
 };
 

@@ -24,11 +24,18 @@ void Add(const Fault& fault, FaultPlan& plan)
         case FaultKind::Truncate:
             plan.truncateAt = fault.bytes;
             break;
+        case FaultKind::Stall:
+            plan.stallAt = fault.bytes;
+            plan.stallTime = fault.interval;
+            break;
         case FaultKind::Reset:
             plan.reset = true;
             break;
         case FaultKind::Unauthorized:
             plan.unauthorized = true;
+            break;
+        case FaultKind::StaleNonce:
+            plan.staleNonce = true;
             break;
         case FaultKind::ServerError:
             plan.serverError = fault.httpStatus;
@@ -43,6 +50,15 @@ void Add(const Fault& fault, FaultPlan& plan)
 }
 
 }  // namespace
+
+void FaultPlan::Strike(FaultKind kind)
+{
+    std::erase_if(uncounted, [kind](const auto& each) {
+        const bool strikes = each.first == kind;
+        *each.second += strikes ? 1 : 0;
+        return strikes;
+    });
+}
 
 void FaultPlanner::Set(std::vector<Fault> faults)
 {
@@ -63,12 +79,24 @@ FaultPlan FaultPlanner::Plan(std::string_view path, bool authorized)
         const Fault& fault = active.fault;
         if ((authorized || fault.kind == FaultKind::Unauthorized) &&
             path.starts_with(fault.pathPrefix) &&
-            (fault.times == 0 || active.struck < fault.times)) {
-            ++active.struck;
+            (fault.times == 0 || active.planned < fault.times)) {
+            ++active.planned;
             Add(fault, plan);
+            plan.uncounted.emplace_back(fault.kind, active.struck);
         }
     }
     return plan;
+}
+
+std::vector<std::uint64_t> FaultPlanner::Counts() const
+{
+    std::vector<std::uint64_t> counts;
+    const std::lock_guard lock(mutex_);
+    counts.reserve(active_.size());
+    for (const Active& active : active_) {
+        counts.push_back(*active.struck);
+    }
+    return counts;
 }
 
 std::string CheckFault(const Fault& fault)

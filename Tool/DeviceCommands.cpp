@@ -170,6 +170,18 @@ std::string Introduction(const Device::DeviceModel& model, const Device::DeviceS
            grid.Render(2, TerminalWidth(stdout), paint) + "\n";
 }
 
+/// What became of the faults that were asked for.
+std::string FaultReport(const Device::DeviceServer& server, const ServeOptions& options,
+                        const Paint& paint)
+{
+    const std::vector<std::uint64_t> counts = server.FaultCounts();
+    Grid grid({"fault", "requests struck"});
+    for (std::size_t i = 0; i < counts.size(); ++i) {
+        grid.Add({{Harmless(options.faults[i])}, {std::to_string(counts[i])}});
+    }
+    return counts.empty() ? std::string() : "\n" + grid.Render(0, TerminalWidth(stdout), paint);
+}
+
 int Serve(const ServeOptions& options, const CommonOptions& common)
 {
     Device::ServerOptions serverOptions = ToServerOptions(options);
@@ -196,6 +208,7 @@ int Serve(const ServeOptions& options, const CommonOptions& common)
     int signal = 0;
     sigwait(&ends, &signal);
     server->Stop();
+    Print(FaultReport(*server, options, common.PaintFor(stdout)));
     return kAnswered;
 }
 
@@ -229,7 +242,8 @@ void AddServeOptions(CLI::App& command, ServeOptions& options)
     command
         .add_option("--fault", options.faults,
                     "commit a fault: KIND[=VALUE][*TIMES][@PATH], where KIND is delay, drip, "
-                    "truncate, reset, storm, 5xx, oversize or refuse; can be repeated")
+                    "truncate, stall, reset, storm, stale, 5xx, oversize or refuse; can be "
+                    "repeated")
         ->type_name("FAULT")
         ->expected(1)
         ->allow_extra_args(false)

@@ -69,6 +69,14 @@ bool SetDrip(Fault& fault, std::string_view value)
     return timed && SetBytes(fault, value.substr(0, slash));
 }
 
+bool SetStall(Fault& fault, std::string_view value)
+{
+    const std::size_t slash = value.find('/');
+    const bool timed =
+        slash == std::string_view::npos || SetInterval(fault, value.substr(slash + 1));
+    return timed && SetBytes(fault, value.substr(0, slash));
+}
+
 bool SetHttpStatus(Fault& fault, std::string_view value)
 {
     const auto read = std::from_chars(value.data(), value.data() + value.size(), fault.httpStatus);
@@ -94,8 +102,10 @@ constexpr std::array kKinds{
     Kind{"delay", FaultKind::Delay, SetInterval, true, "delay=2s"},
     Kind{"drip", FaultKind::Drip, SetDrip, true, "drip=10/100ms (bytes and pause)"},
     Kind{"truncate", FaultKind::Truncate, SetBytes, true, "truncate=200 (bytes)"},
+    Kind{"stall", FaultKind::Stall, SetStall, true, "stall=200/10s (bytes, and for how long)"},
     Kind{"reset", FaultKind::Reset, nullptr, false, "reset"},
     Kind{"storm", FaultKind::Unauthorized, nullptr, false, "storm"},
+    Kind{"stale", FaultKind::StaleNonce, nullptr, false, "stale"},
     Kind{"5xx", FaultKind::ServerError, SetHttpStatus, false, "5xx=503"},
     Kind{"oversize", FaultKind::Oversize, SetBytes, true, "oversize=1M"},
     Kind{"refuse", FaultKind::Refuse, SetWord, false, "refuse=deviceBusy"},

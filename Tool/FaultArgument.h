@@ -9,9 +9,9 @@
 namespace Tool
 {
 
-/// Reads KIND[=VALUE][*TIMES][@PATH]: "delay=2s", "drip=10/100ms", "truncate=200", "reset",
-/// "storm", "5xx=503", "oversize=1M", "refuse=deviceBusy*3@/TARN/System". Throws a usage failure
-/// that says what is wrong with it.
+/// Reads KIND[=VALUE][*TIMES][@PATH]: "delay=2s", "drip=10/100ms", "truncate=200",
+/// "stall=200/10s", "reset", "storm", "stale*1", "5xx=503", "oversize=1M",
+/// "refuse=deviceBusy*3@/TARN/System". Throws a usage failure that says what is wrong with it.
 Device::Fault ParseFault(const std::string& text);
 
 }  // namespace Tool

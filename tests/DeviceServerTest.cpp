@@ -303,6 +303,7 @@ struct FaultCase
     CURLcode code;
     long status;
     const char* body;  // a part of it
+    std::uint64_t counts = 1;
 };
 
 class DeviceServerFault : public testing::TestWithParam<FaultCase>
@@ -318,6 +319,7 @@ TEST_P(DeviceServerFault, StrikesOnceUnderItsPrefixAndNowhereElse)
     const auto server = StartServer(WithFault(fault));
     Client client(*server);
     EXPECT_EQ(client.Get("/spared").body, "GET /spared ");
+    EXPECT_EQ(server->FaultCounts(), std::vector<std::uint64_t>{0});
     // On a connection that was used before, curl would ask again after a reset.
     client.Set(CURLOPT_FRESH_CONNECT, 1L);
     const auto start = std::chrono::steady_clock::now();
@@ -329,6 +331,7 @@ TEST_P(DeviceServerFault, StrikesOnceUnderItsPrefixAndNowhereElse)
         EXPECT_GE(std::chrono::steady_clock::now() - start, fault.interval);
     }
     EXPECT_EQ(client.Get("/struck/by/it").body, "GET /struck/by/it ");
+    EXPECT_EQ(server->FaultCounts(), std::vector<std::uint64_t>{tried.counts});
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -349,6 +352,18 @@ INSTANTIATE_TEST_SUITE_P(
                   CURLE_PARTIAL_FILE,
                   200,
                   "GET /"},
+        FaultCase{"TruncateBehindTheEnd",
+                  {.kind = FaultKind::Truncate, .bytes = 1000},
+                  CURLE_OK,
+                  200,
+                  "GET /struck/by/it ",
+                  0},
+        FaultCase{"Stall",
+                  {.kind = FaultKind::Stall, .interval = 150ms, .bytes = 5},
+                  CURLE_PARTIAL_FILE,
+                  200,
+                  "GET /"},
+        FaultCase{"StaleNonce", {.kind = FaultKind::StaleNonce}, CURLE_OK, 200, "GET /struck/by"},
         FaultCase{"TruncateAtOnce", {.kind = FaultKind::Truncate}, CURLE_PARTIAL_FILE, 200, ""},
         FaultCase{"Reset", {.kind = FaultKind::Reset}, CURLE_RECV_ERROR, 0, ""},
         // curl takes a second challenge without stale=true for a wrong password.
@@ -377,14 +392,15 @@ TEST(DeviceServer, StopsWithinASecondWhileConnectionsDripAndWait)
     ServerOptions options;
     options.authentication = false;
     options.faults = {{.kind = FaultKind::Drip, .pathPrefix = "/drip", .interval = 1h, .bytes = 1},
-                      {.kind = FaultKind::Delay, .pathPrefix = "/delay", .interval = 1h}};
+                      {.kind = FaultKind::Delay, .pathPrefix = "/delay", .interval = 1h},
+                      {.kind = FaultKind::Stall, .pathPrefix = "/stall", .bytes = 2}};
     options.log = [&](const Device::ServedRequest& served) {
         const std::lock_guard lock(mutex);
         log.push_back(served);
     };
     const auto server = StartServer(std::move(options));
     std::vector<std::thread> threads;
-    for (const char* target : {"/drip", "/delay", "/drip", "/delay"}) {
+    for (const char* target : {"/drip", "/delay", "/stall", "/delay"}) {
         threads.emplace_back([&server, target] {
             Client client(*server);
             EXPECT_NE(client.Get(target).code, CURLE_OK) << target;
@@ -399,6 +415,7 @@ TEST(DeviceServer, StopsWithinASecondWhileConnectionsDripAndWait)
     for (std::thread& thread : threads) {
         thread.join();
     }
+    EXPECT_EQ(server->FaultCounts(), (std::vector<std::uint64_t>{1, 2, 1}));
     EXPECT_EQ(log.size(), 5u);
     EXPECT_EQ(log.front().method + log.front().target, "GET/kept/alive");
     EXPECT_EQ(log.front().bytes, std::string("GET /kept/alive ").size());

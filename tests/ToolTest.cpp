@@ -25,6 +25,7 @@ namespace
 {
 
 using namespace TestSupport;
+using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -314,7 +315,8 @@ TEST(Tool, ASettingIsSentFromAFileOrTheStandardInput)
 TEST(Tool, AServedDeviceTellsWhereItIsLogsRequestsAndEndsCleanly)
 {
     const std::string certificate = testing::TempDir() + "capset-served.pem";
-    ToolProcess server({"device", "serve", "dome", "--tls", "--write-certificate", certificate});
+    ToolProcess server({"device", "serve", "dome", "--tls", "--write-certificate", certificate,
+                        "--fault", "stale*1@/TARN/System/time", "--fault", "reset@/none"});
     const std::string out = server.OutputWith("password dome-1234\n");
     const std::size_t at = out.find("https://");
     ASSERT_NE(at, std::string::npos) << out;
@@ -327,6 +329,7 @@ TEST(Tool, AServedDeviceTellsWhereItIsLogsRequestsAndEndsCleanly)
     const ToolResult ended = server.Wait();
     EXPECT_EQ(ended.exitCode, 0) << ended.err;
     EXPECT_THAT(ended.out, HasSubstr("/TARN/System/time "));
+    EXPECT_THAT(ended.out, ContainsRegex("\nstale[*]1@/TARN/System/time +1\nreset@/none +0\n"));
     EXPECT_EQ(ended.err, "");
     std::filesystem::remove(certificate);
 }

@@ -220,6 +220,7 @@ TEST_F(ToolText, FaultsAreReadWithTheirUnitsCountsAndPaths)
     EXPECT_EQ(drip.times, 3u);
     EXPECT_EQ(drip.pathPrefix, "/TARN/a=b*c@d");
     EXPECT_EQ(ParseFault("oversize=2M").bytes, 2u << 20);
+    EXPECT_EQ(ParseFault("stall=3/2s").interval, std::chrono::seconds(2));
     EXPECT_EQ(ParseFault("5xx").httpStatus, 503);
     EXPECT_EQ(ParseFault("refuse=deviceError").subStatusCode, "deviceError");
     for (const char* text : {"", "dely=1", "delay", "delay=", "delay=1h", "delay=-1", "reset=1",
