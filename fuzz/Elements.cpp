@@ -27,7 +27,7 @@ std::string NextText(const xmlNode*& cursor, const char* name)
 {
     if (!Find(cursor, name))
         return {};
-    const std::string text = ContentOf(cursor);
+    std::string text = ContentOf(cursor);
     cursor = cursor->next;
     return text;
 }
