@@ -15,36 +15,6 @@
 #include "support/JsonOperations.h"
 #include "support/LogCapture.h"
 
-namespace TestSupport
-{
-
-const std::vector<JsonOperationRow>& JsonOperations()
-{
-    static const std::vector<JsonOperationRow> all = [] {
-        std::vector<JsonOperationRow> rows;
-        for (auto& table : {JsonCapabilityRows(), AlarmHostRows(), JsonConfigRows()})
-            rows.insert(rows.end(), table.begin(), table.end());
-        return rows;
-    }();
-    return all;
-}
-
-JsonOperationRow JsonRow(const char* name, std::function<JsonAnswered(const char*)> ask,
-                         std::string request, const char* answer, const std::string& body)
-{
-    Json::Value tree;
-    const bool hasBody = Json::Reader().parse(body, tree);
-    const bool converts = request.find("/channels/35/") != std::string::npos;
-    return {.name = name,
-            .request = std::move(request),
-            .answer = answer,
-            .ask = std::move(ask),
-            .body = hasBody ? tree.toStyledString() : body,
-            .convertsChannel = converts};
-}
-
-}  // namespace TestSupport
-
 namespace
 {
 
@@ -182,26 +152,6 @@ TEST(JsonOperationTest, SucceedsWithDefaultsWhateverTheDeviceAnswers)
             EXPECT_FALSE(answered.isFilled && !row.keepsRecord) << answer;
         });
     }
-}
-
-TEST(JsonOperationTest, EndsAsError23WhenMemoryRunsOutAnywhere)
-{
-    ForEachOperation({}, [](const JsonOperationRow& row, ScriptedSdk& sdk) {
-        sdk.steps = {{.answer = row.answer}};
-        row.ask(row.answer);  // what is made once for the process is made now
-        bool struck = true;
-        for (std::size_t ordinal = 1; struck; ++ordinal) {
-            const AllocationFault fault(AllocationFault::New, ordinal);
-            const JsonAnswered answered = row.ask(row.answer);
-            struck = AllocationFault::Struck();
-            ASSERT_TRUE(answered.result || struck);
-            ASSERT_EQ(answered.err, !row.tellsError ? 77 : answered.result ? 0 : 23);
-            ASSERT_EQ(answered.isAtDefaults, !answered.result && !row.keepsRecord)
-                << "allocation " << ordinal;
-            ASSERT_TRUE(!answered.result || row.keepsRecord || answered.isFilled)
-                << "half an answer at allocation " << ordinal;
-        }
-    });
 }
 
 TEST(JsonOperationTest, SendsLinesAndBodiesOfAnyLengthWhole)

@@ -14,8 +14,8 @@
 #include "CapabilitySet/RecordTree.h"
 #include "CapabilitySet/private/FieldTags.h"
 #include "CapabilitySet/private/JsonReading.h"
-#include "support/AllocationFaults.h"
 #include "support/JsonRecords.h"
+#include "support/JsonSamples.h"
 
 namespace
 {
@@ -24,92 +24,6 @@ using namespace CapabilitySet;
 using namespace TestSupport;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// Makes what a device would send for each member, another value each time, and beside the members
-/// of every object one that no record knows.
-class Sampler
-{
-public:
-    template <class Record>
-    Json::Value Object()
-    {
-        Json::Value object;
-        object["unknown"] = ++count_;
-        Record record;
-        Record::Fields(record, [&](const char* name, auto& member, auto... how) {
-            object[name] = Value(member, how...);
-        });
-        return object;
-    }
-
-private:
-    template <class Member>
-    Json::Value Value(const Member& /*member*/)
-    {
-        ++count_;
-        if constexpr (std::is_same_v<Member, bool>) {
-            return true;
-        } else if constexpr (std::is_floating_point_v<Member>) {
-            return count_ + 0.5;
-        } else if constexpr (std::is_arithmetic_v<Member>) {
-            return count_;
-        } else if constexpr (std::is_same_v<Member, std::string>) {
-            return "text " + std::to_string(count_);
-        } else if constexpr (std::is_same_v<Member, OptJsonElement> ||
-                             std::is_same_v<Member, Json::Value>) {
-            Json::Value options;
-            options["@opt"].append("option " + std::to_string(count_));
-            return options;
-        } else {
-            return Object<Member>();
-        }
-    }
-
-    template <class Item>
-    Json::Value Value(const std::vector<Item>& /*items*/)
-    {
-        Json::Value array;
-        for (int i = 0; i < 2; ++i)
-            array.append(Value(Item()));
-        return array;
-    }
-
-    template <class Item>
-    Json::Value Value(const std::vector<Item>& items, as::Wrapped how)
-    {
-        Json::Value array = Value(items);
-        for (Json::Value& entry : array) {
-            Json::Value wrapped;
-            wrapped["beside"] = ++count_;
-            wrapped[how.key] = entry;
-            entry = wrapped;
-        }
-        return array;
-    }
-
-    Json::Value Value(bool /*member*/, as::TextFlag /*how*/) { return "true"; }
-    Json::Value Value(int /*member*/, as::DecimalText /*how*/) { return std::to_string(++count_); }
-    // The record that is read from the same key follows and says what stands there.
-    Json::Value Value(const std::string& /*member*/, as::StyledText /*how*/) { return "styled"; }
-
-    int count_ = 0;
-};
-
-template <class Record>
-std::string TextOf(const Json::Value& members)
-{
-    if (Record::kKey[0] == '\0')
-        return members.toStyledString();
-    Json::Value document;
-    document[Record::kKey] = members;
-    return document.toStyledString();
-}
-
-template <class Record>
-std::string SampleText()
-{
-    return TextOf<Record>(Sampler().Object<Record>());
-}
 
 Json::Value Parsed(const std::string& text)
 {
@@ -407,30 +321,6 @@ TEST(JsonRecordTest, MakesTheBodiesThatArmAndDisarmOfTheArgument)
         Parsed(
             R"({"SubSysList": [{"SubSys": {"id": 4, "devIndex": "d"}}, {"SubSys": {"id": 0, "devIndex": ""}}]})"));
     EXPECT_EQ(Parsed(info.CreatArmJsonParser({})), Parsed(R"({"SubSysList": []})"));
-}
-
-TEST(JsonRecordTest, EndsQuietlyWhenMemoryRunsOutAnywhere)
-{
-    JsonRecords::ForEach([]<class Record>() {
-        const std::string text = SampleText<Record>();
-        const std::string made = Record(text).Make();
-        bool struck = true;
-        for (std::size_t ordinal = 1; struck; ++ordinal) {
-            Record record;
-            std::string body;
-            {
-                const AllocationFault fault(AllocationFault::New, ordinal);
-                record.Parse(text);
-                struck = AllocationFault::Struck();
-            }
-            const Record whole(text);
-            const AllocationFault fault(AllocationFault::New, ordinal);
-            body = whole.Make();
-            struck = struck || AllocationFault::Struck();
-            const NoAllocationFaults pause;
-            ASSERT_TRUE(body == made || (AllocationFault::Struck() && body.empty())) << body;
-        }
-    });
 }
 
 TEST(JsonRecordTest, TellsOperationsThatMemoryRanOutWhateverIsThrownForIt)

@@ -12,7 +12,6 @@
 
 #include "CapabilitySet/BasicCapability.h"
 #include "CommonMethod/SDKErrorCode/SDKErrorCode.h"
-#include "support/AllocationFaults.h"
 #include "support/LogCapture.h"
 #include "support/Operations.h"
 
@@ -170,23 +169,6 @@ TEST(QueryFrameTest, BoundsAnAnswerThatFillsTheWholeBuffer)
     ForEachOperation({}, [](const OperationRow& row, ScriptedSdk& sdk) {
         sdk.steps = {{.error = 43}, {.answer = row.document, .fills = true}};
         EXPECT_EQ(row.ask().result, !row.needsFlag) << "trailing text makes it no document";
-    });
-}
-
-TEST(QueryFrameTest, EndsAsError23WhenMemoryRunsOutAnywhere)
-{
-    ForEachOperation({}, [](const OperationRow& row, ScriptedSdk& sdk) {
-        sdk.steps = {{.answer = row.document}};
-        row.ask();  // what is made once for the process is made now
-        bool struck = true;
-        for (std::size_t ordinal = 1; struck; ++ordinal) {
-            const AllocationFault fault(AllocationFault::New, ordinal);
-            const Answered answered = row.ask();
-            struck = AllocationFault::Struck();
-            ASSERT_EQ(answered.result, !struck) << "allocation " << ordinal;
-            ASSERT_EQ(answered.err, Reported(row, struck ? 23 : 0));
-            ASSERT_EQ(answered.isAtDefaults, struck);
-        }
     });
 }
 

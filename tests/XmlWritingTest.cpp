@@ -12,7 +12,6 @@
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
 #include "CapabilitySet/private/XmlReading.h"
-#include "support/AllocationFaults.h"
 #include "support/LogCapture.h"
 #include "support/RecordGenerator.h"
 #include "support/XmlTree.h"
@@ -21,7 +20,6 @@ namespace
 {
 
 using namespace CapabilitySet;
-using TestSupport::AllocationFault;
 using TestSupport::RecordGenerator;
 using TestSupport::XmlTree;
 
@@ -58,25 +56,6 @@ TYPED_TEST(XmlWritingTest, ReadsBackWhatWasWrittenWithoutWhatNoDocumentCanHold)
     }
     std::setlocale(LC_CTYPE, "C");
     EXPECT_TRUE(log.Messages().empty()) << log.Messages()[0];
-}
-
-TYPED_TEST(XmlWritingTest, GivesTheWholeBodyOrNoneWhereverMemoryRunsOut)
-{
-    const auto record = RecordGenerator(7).Make<TypeParam>();
-    const std::string whole = Body(record);
-    for (const AllocationFault::Of which : {AllocationFault::New, AllocationFault::Xml}) {
-        bool struck = true;
-        for (std::size_t ordinal = 1; struck; ++ordinal) {
-            std::string body;
-            {
-                TypeParam copy = record;
-                const AllocationFault fault(which, ordinal);
-                body = xml::DumpDocument(copy.CreateXmlNodePtr(), "");
-                struck = AllocationFault::Struck();
-            }
-            ASSERT_EQ(body, struck ? "" : whole) << ordinal;
-        }
-    }
 }
 
 /// "root(child,list(item))" of a document.

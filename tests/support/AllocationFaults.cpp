@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/AllocationFaults.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -36,6 +37,13 @@ void* XmlReallocate(void* block, std::size_t size)
 char* XmlDuplicate(const char* text)
 {
     return AllocationFault::Strikes(AllocationFault::Xml) ? nullptr : strdup(text);
+}
+
+/// As malloc and its kin tell that there is no memory.
+void* NoMemory()
+{
+    errno = ENOMEM;
+    return nullptr;
 }
 
 }  // namespace
@@ -84,6 +92,42 @@ void HookXmlAllocations()
 }
 
 }  // namespace TestSupport
+
+// NOLINTBEGIN(readability-identifier-naming,bugprone-reserved-identifier): the C library's names
+extern "C"
+{
+    // A sanitizer's own, where there is one, so that it goes on seeing every block.
+    __attribute__((weak)) void* __interceptor_malloc(std::size_t size);
+    __attribute__((weak)) void* __interceptor_calloc(std::size_t count, std::size_t size);
+    __attribute__((weak)) void* __interceptor_realloc(void* block, std::size_t size);
+    void* __libc_malloc(std::size_t size);
+    void* __libc_calloc(std::size_t count, std::size_t size);
+    void* __libc_realloc(void* block, std::size_t size);
+
+    void* malloc(std::size_t size)
+    {
+        if (TestSupport::AllocationFault::Strikes(TestSupport::AllocationFault::Any))
+            return TestSupport::NoMemory();
+        return __interceptor_malloc != nullptr ? __interceptor_malloc(size) : __libc_malloc(size);
+    }
+
+    void* calloc(std::size_t count, std::size_t size)
+    {
+        if (TestSupport::AllocationFault::Strikes(TestSupport::AllocationFault::Any))
+            return TestSupport::NoMemory();
+        return __interceptor_calloc != nullptr ? __interceptor_calloc(count, size)
+                                               : __libc_calloc(count, size);
+    }
+
+    void* realloc(void* block, std::size_t size)
+    {
+        if (TestSupport::AllocationFault::Strikes(TestSupport::AllocationFault::Any))
+            return TestSupport::NoMemory();
+        return __interceptor_realloc != nullptr ? __interceptor_realloc(block, size)
+                                                : __libc_realloc(block, size);
+    }
+}
+// NOLINTEND(readability-identifier-naming,bugprone-reserved-identifier)
 
 void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
 {

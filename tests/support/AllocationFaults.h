@@ -1,8 +1,11 @@
-// Makes allocations fail on demand: operator new, and the allocations of C libraries.
+// Makes allocations fail on demand: operator new, those of C libraries, or any.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 #include <cstddef>
+#include <string>
+
+#include <gtest/gtest.h>
 
 namespace TestSupport
 {
@@ -16,7 +19,8 @@ public:
     {
         New,
         Xml,
-        Curl  ///< of a test that hands libcurl allocators which ask Strikes
+        Curl,  ///< of a test that hands libcurl allocators which ask Strikes
+        Any    ///< whatever asks for memory: these two, JsonCpp's texts, the logger's pools
     };
     AllocationFault(Of which, std::size_t ordinal, bool andLater = false);
     ~AllocationFault();
@@ -45,5 +49,27 @@ private:
 
 /// Hooks libxml2's allocations; before anything else is done with it.
 void HookXmlAllocations();
+
+/// Makes each allocation of `act` fail in turn, alone and with all that follow, and hands what
+/// `act` gives to `check`, with whether an allocation failed. Gives the number of allocations.
+template <class Act, class Check>
+std::size_t FailEachAllocation(Act act, Check check)
+{
+    std::size_t points = 0;
+    for (const bool andLater : {false, true}) {
+        bool struck = true;
+        for (std::size_t ordinal = 1; struck && !testing::Test::HasFailure(); ++ordinal) {
+            SCOPED_TRACE("allocation " + std::to_string(ordinal) + (andLater ? " and later" : ""));
+            const auto outcome = [&] {
+                const AllocationFault fault(AllocationFault::Any, ordinal, andLater);
+                return act();
+            }();
+            struck = AllocationFault::Struck();
+            points = ordinal - 1;
+            check(outcome, struck);
+        }
+    }
+    return points;
+}
 
 }  // namespace TestSupport

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "CapabilitySet/RecordTree.h"
 #include "support/AllocationFaults.h"
 #include "support/Operations.h"
+#include "support/SameRecord.h"
 
 namespace TestSupport
 {
@@ -36,16 +36,6 @@ struct JsonOperationRow
     bool keepsRecord = false;        ///< neither reset nor cleared: answers are appended
     const char* onlyLine = nullptr;  ///< the only line of a failure, which sets no last error
 };
-
-template <class Record>
-bool IsSame(const Record& a, const Record& b)
-{
-    if constexpr (requires { a.root; }) {
-        if (a.root != b.root)
-            return false;
-    }
-    return CapabilitySet::SameFields(a, b);
-}
 
 template <class Record, class Query>
 JsonAnswered AskJsonInto(const char* before, Query query)

@@ -172,6 +172,9 @@ void ReadMember(const Json::Value& value, Tree& tree)
 template <class Part>
 void ReadMember(const Json::Value& value, Part& part)
 {
+    // A record that can stand alone reads a text of its own.
+    if constexpr (requires { Part::kKey; })
+        return ReadText(value.toStyledString(), part);
     if constexpr (requires { part.present; }) {
         if (value.isNull())
             return;

@@ -6,7 +6,6 @@
 
 #include "CapabilitySet/private/JsonReading.h"
 #include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/QuietLibxml.h"
 #include "CapabilitySet/private/XmlFields.h"
 
 namespace CapabilitySet
@@ -112,7 +111,7 @@ bool HasEmptyItem(const std::string& text)
         xml::Problem problem;
         const xml::Document document = xml::ParseText(text, xml::Form::BlankFree, problem);
         if (document == nullptr)
-            return xml::QuietLibxml::RanOutOfMemory();
+            return false;
         xmlNode* const root = xmlDocGetRootElement(document.get());
         return HoldsEmptyItem(root, kPresets) || HoldsEmptyItem(root, kPatterns) ||
                HoldsEmptyItem(root, kPatrols);

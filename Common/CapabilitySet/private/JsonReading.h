@@ -22,8 +22,9 @@ inline bool ParseText(std::string_view text, Json::Value& root)
     return reader.parse(text.data(), text.data() + text.size(), root, true);
 }
 
-/// While one lives, what its thread reads and writes belongs to an exported operation, which fails
-/// as a whole when memory runs out; otherwise a failed allocation ends a reading as any fault does.
+/// While one lives, what its thread reads and writes belongs to an exported operation or to a
+/// larger document, which fails as a whole when memory runs out; otherwise a failed allocation ends
+/// a reading as any fault does.
 class OperationScope
 {
 public:
@@ -71,8 +72,11 @@ void WithRoot(const std::string& text, Read&& read)
         Json::Value root;
         // Where memory fails JsonCpp takes a decimal number for a malformed one: asked again, it
         // reads the text or runs out of memory for good.
-        if (ParseText(text, root) || (OperationScope::Runs() && ParseText(text, root)))
+        if (ParseText(text, root) || (OperationScope::Runs() && ParseText(text, root))) {
+            // A part that reads a text of its own ends the whole reading when memory runs out.
+            const OperationScope parts;
             read(root);
+        }
     } catch (const std::bad_alloc&) {
         if (OperationScope::Runs())
             throw;

@@ -163,16 +163,21 @@ xmlParserInput* InputOfCopy(xmlParserCtxt* context, std::string_view text)
         text.data(), static_cast<int>(text.size()), XML_CHAR_ENCODING_NONE);
     if (buffer == nullptr)
         return nullptr;
-    xmlParserInput* const input = xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
+    // More room than the parser asks for: it does not notice when it cannot get it.
+    constexpr int kRoom = 16 * 1024;
+    xmlParserInput* const input =
+        xmlParserInputBufferGrow(buffer, kRoom) < 0
+            ? nullptr
+            : xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
     if (input == nullptr)
         xmlFreeParserInputBuffer(buffer);
     return input;
 }
 
-/// Puts the text, which ends in a NUL, before the context as its only input.
+/// Puts the text, which ends in a NUL, before the context as its only input. False: no memory.
 bool Feed(xmlParserCtxt* context, std::string_view text, Form form)
 {
-    const bool inPlace = form == Form::Plain && IsPlainUtf8(text);
+    const bool inPlace = IsPlainUtf8(text);
     xmlParserInput* const input =
         inPlace ? InputInPlace(context, text) : InputOfCopy(context, text);
     if (input == nullptr)
@@ -181,9 +186,11 @@ bool Feed(xmlParserCtxt* context, std::string_view text, Form form)
         xmlFreeInputStream(input);
         return false;
     }
-    if (form == Form::BlankFree)
-        xmlSwitchToEncoding(context, xmlFindCharEncodingHandler("UTF-8"));
-    return true;
+    if (form == Form::Plain || inPlace)
+        return true;
+    // Where memory fails the input is left without a buffer, which the parser does not check.
+    xmlSwitchToEncoding(context, xmlFindCharEncodingHandler("UTF-8"));
+    return !QuietLibxml::RanOutOfMemory();
 }
 
 }  // namespace
@@ -205,16 +212,22 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
     else
         xmlCtxtReset(context.get());
 
-    if (length == 0 || length > static_cast<std::size_t>(INT_MAX) ||
-        !Feed(context.get(), {text.c_str(), length}, form)) {
+    if (length == 0 || length > static_cast<std::size_t>(INT_MAX)) {
         problem = LastProblem();
         return nullptr;
     }
+    if (!Feed(context.get(), {text.c_str(), length}, form))
+        throw std::bad_alloc();
     xmlParseDocument(context.get());
     Document document(context->myDoc);
     context->myDoc = nullptr;
-    // A tree that was built while memory ran out is wrong in places, well-formed or not.
-    if (context->wellFormed == 0 || document == nullptr || QuietLibxml::RanOutOfMemory()) {
+    // A tree that was built while memory ran out is wrong in places, well-formed or not, and says
+    // nothing of the text.
+    const bool ranOut = QuietLibxml::RanOutOfMemory();
+    // A dictionary at its limit tells the same.
+    if (ranOut && xmlDictGetUsage(context->dict) <= kMostDictionaryBytes)
+        throw std::bad_alloc();
+    if (ranOut || context->wellFormed == 0 || document == nullptr) {
         problem = LastProblem();
         return nullptr;
     }

@@ -35,7 +35,8 @@ struct Problem
 
 /// Parses a text up to its first NUL. Silent; touches and obeys none of the client's libxml2
 /// defaults and handlers; loads nothing from elsewhere; refuses declared entities and elements of
-/// more than 1,000 attributes. Null and a filled `problem` when the text is no document.
+/// more than 1,000 attributes. Null and a filled `problem` when the text is no document. Throws
+/// std::bad_alloc.
 Document ParseText(const std::string& text, Form form, Problem& problem);
 
 /// How the failures of a root record are told.
