@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include <json/reader.h>
 #include <json/value.h>
@@ -19,9 +20,9 @@ using CapabilitySet::CMacCompanyHelper;
 std::size_t BareParses()
 {
     std::size_t members = 0;
-    for (const std::string& text : CapabilitySet::MacCompanyTexts()) {
+    for (const std::string_view text : CapabilitySet::MacCompanyTexts()) {
         Json::Value root;
-        Json::Reader().parse(text, root);
+        Json::Reader().parse(text.data(), text.data() + text.size(), root);
         members += root.size();
     }
     return members;
@@ -30,9 +31,9 @@ std::size_t BareParses()
 std::map<std::string, std::string> PlainMap()
 {
     std::map<std::string, std::string> companies;
-    for (const std::string& text : CapabilitySet::MacCompanyTexts()) {
+    for (const std::string_view text : CapabilitySet::MacCompanyTexts()) {
         Json::Value root;
-        Json::Reader().parse(text, root);
+        Json::Reader().parse(text.data(), text.data() + text.size(), root);
         for (const std::string& prefix : root.getMemberNames())
             companies.emplace(prefix, root[prefix].asString());
     }

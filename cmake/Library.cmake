@@ -20,6 +20,9 @@ function(capabilityset_library target)
   cmake_parse_arguments(arg "" "NAMESPACE;EXPORT;INCLUDE" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(${target}Objects OBJECT ${arg_SOURCES})
   target_include_directories(${target}Objects PUBLIC ${arg_INCLUDE})
+  # A shared library that holds one symbol of that kind is never unloaded.
+  target_compile_options(${target}Objects
+                         PRIVATE $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fno-gnu-unique>)
   target_link_libraries(${target}Objects PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE}
                                                                      capabilityset_options)
   foreach(kind IN ITEMS STATIC SHARED)

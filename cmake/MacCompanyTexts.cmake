@@ -88,18 +88,11 @@ file(
 namespace CapabilitySet
 {
 
-const std::array<std::string, 3>& MacCompanyTexts()
+std::array<std::string_view, 3> MacCompanyTexts()
 {
-    static const auto* const texts = new std::array<std::string, 3>{
+    return {
 ${literals}    };
-    return *texts;
 }
-
-namespace
-{
-// Makes the texts when the library loads.
-[[maybe_unused]] const auto& loadedWithTheLibrary = MacCompanyTexts();
-}  // namespace
 
 }  // namespace CapabilitySet
 ")

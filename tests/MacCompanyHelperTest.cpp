@@ -106,9 +106,9 @@ TEST(MacCompanyTextsTest, HoldTheRowsAsMembersWithBlanksBetween)
 {
     std::vector<std::size_t> sizes;
     std::size_t characters = 0;
-    for (const std::string& text : CapabilitySet::MacCompanyTexts()) {
+    for (const std::string_view text : CapabilitySet::MacCompanyTexts()) {
         Json::Value root;
-        ASSERT_TRUE(Json::Reader().parse(text, root));
+        ASSERT_TRUE(Json::Reader().parse(std::string(text), root));
         sizes.push_back(root.size());
         characters += text.size();
     }

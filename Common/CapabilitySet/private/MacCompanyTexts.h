@@ -3,14 +3,14 @@
 #pragma once
 
 #include <array>
-#include <string>
+#include <string_view>
 
 namespace CapabilitySet
 {
 
 /// Three JSON objects whose members are prefix to label, in the order in which they are loaded.
-/// Made when the library loads, or before that by the first who asks, and never destroyed: static
-/// objects of a client may use them. Generated from data/mac/ by cmake/MacCompanyTexts.cmake.
-const std::array<std::string, 3>& MacCompanyTexts();
+/// Literals: there before anything is constructed and after everything is destroyed. Generated from
+/// data/mac/ by cmake/MacCompanyTexts.cmake.
+std::array<std::string_view, 3> MacCompanyTexts();
 
 }  // namespace CapabilitySet

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonCap/MacCompanyHelper.h"
 
+#include <atomic>
+#include <memory>
 #include <utility>
 
 #include "CapabilitySet/private/JsonReading.h"
@@ -10,6 +12,26 @@
 
 namespace CapabilitySet
 {
+namespace
+{
+
+// Outlives the table, whose destruction it tells.
+constinit std::atomic<bool> sharedIsGone{false};
+
+/// The table that objects share, as long as the library is loaded. A client's static objects may
+/// outlive it: they hold what they use, and those made later load a table of their own.
+template <class Companies>
+struct Shared
+{
+    explicit Shared(std::shared_ptr<const Companies> table) : companies(std::move(table)) {}
+    ~Shared() { sharedIsGone = true; }
+    Shared(const Shared&) = delete;
+    Shared& operator=(const Shared&) = delete;
+
+    std::shared_ptr<const Companies> companies;
+};
+
+}  // namespace
 
 CMacCompanyHelper::CMacCompanyHelper()
 {
@@ -20,28 +42,29 @@ void CMacCompanyHelper::initialTable()
 {
     if (shared_ != nullptr)
         return;
-    const auto loadTexts = [this] {
-        for (const std::string& text : MacCompanyTexts())
-            convertStringToMap(text);
-    };
     try {
-        if (!own_.empty()) {
-            loadTexts();
+        if (!own_.empty() || sharedIsGone) {
+            LoadTexts();
             return;
         }
-        // The first object loads what all share; when that fails, the next one tries. It is never
-        // destroyed: a client's static objects may be the last to use it.
-        static const Companies* const table = [&] {
-            loadTexts();
-            return new Companies(std::move(own_));
-        }();
-        shared_ = table;
+        // The first object loads what all share; when that fails, the next one tries.
+        static const Shared<Companies> table([&] {
+            LoadTexts();
+            return std::make_shared<Companies>(std::move(own_));
+        }());
+        shared_ = table.companies;
     } catch (...)  // out of memory: what is loaded stays
     {
     }
 }
 
-void CMacCompanyHelper::convertStringToMap(const std::string& text)
+void CMacCompanyHelper::LoadTexts()
+{
+    for (const std::string_view text : MacCompanyTexts())
+        convertStringToMap(text);
+}
+
+void CMacCompanyHelper::convertStringToMap(std::string_view text)
 {
     Json::Value root;
     if (!json::ParseText(text, root) || !root.isObject())

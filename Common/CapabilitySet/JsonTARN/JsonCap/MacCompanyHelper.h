@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "CapabilitySet/Export.h"
@@ -15,8 +17,8 @@ namespace CapabilitySet
 /// nothing is fetched.
 ///
 /// The first object of a process parses the table, which takes some milliseconds and stays in half
-/// a megabyte until the process ends; later objects find it there and cost next to nothing. What
-/// one object adds to the table is seen by no other. Copies take along what was added.
+/// a megabyte until the library is unloaded; later objects find it there and cost next to nothing.
+/// What one object adds to the table is seen by no other. Copies take along what was added.
 ///
 /// Nothing throws but copying. When memory runs out, what is loaded stays.
 ///
@@ -48,12 +50,13 @@ private:
 
     /// Adds the members of a JSON object to what the object added; a text that is none adds
     /// nothing.
-    void convertStringToMap(const std::string& text);
+    void convertStringToMap(std::string_view text);
     const std::string& LabelOf(std::string&& prefix);
+    void LoadTexts();
 
     // An object's table is the one that all objects share, which nobody changes, and what the
     // object added. No prefix is in both.
-    const Companies* shared_ = nullptr;
+    std::shared_ptr<const Companies> shared_;
     Companies own_;
 };
 
