@@ -34,6 +34,12 @@ if(CAPABILITYSET_SANITIZE)
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${CAPABILITYSET_SANITIZE})
 endif()
+if(CAPABILITYSET_COVERAGE)
+  # What is tested counts what it runs; the tests themselves do not.
+  add_compile_options(
+    "$<$<NOT:$<STREQUAL:$<TARGET_PROPERTY:SOURCE_DIR>,${PROJECT_SOURCE_DIR}/tests>>:-O0;--coverage;-fprofile-update=atomic>")
+  add_link_options(--coverage)
+endif()
 if(CAPABILITYSET_BUILD_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link) # the fuzzers are led by what the library runs
 endif()
