@@ -14,7 +14,6 @@
 #include "CapabilitySet/RecordTree.h"
 #include "CapabilitySet/private/XmlDocument.h"
 #include "support/LogCapture.h"
-#include "support/Operations.h"
 #include "support/XmlRecords.h"
 #include "support/XmlSamples.h"
 
@@ -26,7 +25,6 @@ using Device::HostileCase;
 using Device::HostileCases;
 using TestSupport::LogCapture;
 using TestSupport::RootOf;
-using TestSupport::ScriptedSdk;
 
 /// Takes a second and more to make and to read: for one record of each kind only.
 bool IsLarge(const HostileCase& hostile)
@@ -143,27 +141,6 @@ TEST(HostileDocumentsTest, FillARecordWholeOrNotAtAllWithOneLine)
             Check(row, hostile, MakeHostileXml(hostile, row.root, row.sample));
             if (testing::Test::HasFailure())
                 return;
-        }
-    }
-}
-
-TEST(HostileDocumentsTest, AQueryThatFailsLeavesNoHalfFilledRecord)
-{
-    ScriptedSdk& sdk = ScriptedSdk::Fresh();
-    sdk.keepsCalls = false;
-    for (const HostileCase& hostile : HostileCases()) {
-        if (IsLarge(hostile))
-            continue;
-        for (const TestSupport::OperationRow& operation : TestSupport::Operations()) {
-            const std::string sample = operation.document;
-            const std::size_t nameEnd = sample.find_first_of(" />");
-            SCOPED_TRACE(std::string(hostile.name) + " " + operation.name);
-            sdk.steps = {
-                {.answer = MakeHostileXml(hostile, sample.substr(1, nameEnd - 1), sample)}};
-            const TestSupport::Answered answered = operation.ask();
-            EXPECT_TRUE(answered.result || answered.isAtDefaults);
-            EXPECT_TRUE(answered.result || answered.err == 23 || operation.errByValue);
-            EXPECT_TRUE(answered.isRead || !answered.result || !operation.needsFlag);
         }
     }
 }

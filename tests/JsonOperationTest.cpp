@@ -1,17 +1,14 @@
-// Every operation of the JSON flavour over a scripted SDK: lines, bodies, errors, log lines.
+// Every operation of the JSON flavour over a scripted SDK: lines, bodies, threads.
 // SPDX-License-Identifier: Apache-2.0
-#include <cstring>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <json/reader.h>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "CapabilitySet/private/JsonOperation.h"
-#include "CommonMethod/SDKErrorCode/SDKErrorCode.h"
 #include "support/JsonOperations.h"
 #include "support/LogCapture.h"
 
@@ -20,7 +17,6 @@ namespace
 
 using namespace CapabilitySet;
 using namespace TestSupport;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 /// Runs a check on every operation, each with a fresh SDK that answers `steps`.
@@ -28,14 +24,6 @@ template <class Check>
 void ForEachOperation(const std::vector<SdkStep>& steps, Check check)
 {
     ForEachRow(JsonOperations(), steps, check);
-}
-
-void ExpectFailure(const JsonOperationRow& row, const JsonAnswered& answered, unsigned err)
-{
-    EXPECT_FALSE(answered.result);
-    EXPECT_EQ(answered.err, row.tellsError ? err : 77);
-    EXPECT_EQ(answered.isAtDefaults, !row.keepsRecord);
-    EXPECT_EQ(answered.isFilled, row.keepsRecord);
 }
 
 std::string Padded(std::string body)
@@ -67,91 +55,6 @@ TEST(JsonOperationTest, SendsTheLineAndBodyOfEachOperationAndReadsTheAnswerToIts
         EXPECT_EQ(LastError(), kUntouched);
     });
     EXPECT_THAT(log.Messages(), IsEmpty());
-}
-
-TEST(JsonOperationTest, GivesUpSilentlyAfterAThousandBuffersThatWereTooSmall)
-{
-    LogCapture log;
-    ForEachOperation({{.error = 43, .answer = "{\"dirt\":"}},
-                     [](const JsonOperationRow& row, ScriptedSdk& sdk) {
-                         ExpectFailure(row, row.ask(row.answer), 43);
-                         EXPECT_EQ(LastError(), kUntouched);
-                         const std::size_t first = row.convertsChannel ? 1 : 0;
-                         ASSERT_EQ(sdk.calls.size(), first + 1000);
-                         for (std::size_t i = 0; i < 1000; ++i) {
-                             ASSERT_EQ(sdk.calls[first + i].size, (i + 1) * 16384);
-                             ASSERT_TRUE(sdk.calls[first + i].isZeroed) << "attempt " << i;
-                         }
-                     });
-    EXPECT_THAT(log.Messages(), IsEmpty());
-    EXPECT_THAT(log.Messages("Vsk"), IsEmpty());
-}
-
-TEST(JsonOperationTest, GrowsOn43AloneAndHandsEveryOtherErrorOnUnchanged)
-{
-    for (const unsigned error : {1001U, 1000U, 7U, 4000000000U}) {
-        ForEachOperation({{.error = 43}, {.error = error}},
-                         [&](const JsonOperationRow& row, ScriptedSdk& sdk) {
-                             ExpectFailure(row, row.ask(row.answer), error);
-                             EXPECT_EQ(sdk.calls.back().size, 32768U);
-                             EXPECT_EQ(sdk.calls.size(), row.convertsChannel ? 3U : 2U);
-                         });
-    }
-}
-
-TEST(JsonOperationTest, TellsAFailureWithItsPlaceAndTheLastError)
-{
-    LogCapture log;
-    ForEachOperation({{.error = 7}}, [&](const JsonOperationRow& row, ScriptedSdk& sdk) {
-        sdk.modelCode = 0x700005;
-        log.Clear();
-        ExpectFailure(row, row.ask(row.answer), 7);
-        if (row.onlyLine != nullptr) {
-            EXPECT_THAT(log.Messages(), ElementsAre(row.onlyLine));
-            EXPECT_EQ(LastError(), kUntouched);
-        } else {
-            EXPECT_THAT(log.Messages(),
-                        ElementsAre("NET_ORB_GetLastError: [7]",
-                                    "NET_ORB_GetLastErrorModelCode, ErrModelCode:[0x700005], "
-                                    "MErrDevSelfEx:[0x7].",
-                                    "NET_ORB_STDXMLConfig failed, [72]-[7340037]."));
-            EXPECT_EQ(LastError(), std::pair(72, 0x700005));
-        }
-        const LogLine line = log.Lines().back();
-        EXPECT_EQ(line.level, "ERROR");
-        const std::string app(row.name, std::strchr(row.name, ':'));
-        EXPECT_EQ(line.file, "Common/CapabilitySet/JsonTARN/" + app.substr(0, app.size() - 3) +
-                                 "/" + app + ".cpp");
-        EXPECT_EQ(line.function, std::string("CapabilitySet::") + row.name);
-        EXPECT_GT(line.line, 0);
-    });
-}
-
-TEST(JsonOperationTest, SendsNothingForAChannelThatCannotBeConverted)
-{
-    LogCapture log;
-    ForEachOperation({}, [](const JsonOperationRow& row, ScriptedSdk& sdk) {
-        if (!row.convertsChannel)
-            return;
-        sdk.channelError = 1000;
-        ExpectFailure(row, row.ask(row.answer), 0);
-        ASSERT_EQ(sdk.calls.size(), 1U);
-        EXPECT_EQ(sdk.calls.front().code, 3U);
-        EXPECT_EQ(LastError(), kUntouched);
-    });
-    EXPECT_THAT(log.Messages(), IsEmpty());
-}
-
-TEST(JsonOperationTest, SucceedsWithDefaultsWhateverTheDeviceAnswers)
-{
-    for (const char* answer : {"", "null", "[]", "5", "{}", "<Status/>", "{\"List\": [", "\xff"}) {
-        ForEachOperation({{.answer = answer}}, [&](const JsonOperationRow& row, ScriptedSdk&) {
-            const JsonAnswered answered = row.ask(row.answer);
-            EXPECT_TRUE(answered.result) << answer;
-            EXPECT_EQ(answered.err, row.tellsError ? 0 : 77);
-            EXPECT_FALSE(answered.isFilled && !row.keepsRecord) << answer;
-        });
-    }
 }
 
 TEST(JsonOperationTest, SendsLinesAndBodiesOfAnyLengthWhole)

@@ -189,8 +189,6 @@ TEST(JsonSearchTest, SendsNothingForAnUnknownAction)
     }
 }
 
-constexpr unsigned kMiB = 1048576;
-
 /// A caller's output structure that something stands in already.
 struct Package
 {
@@ -247,59 +245,8 @@ TEST(JsonSearchTest, AsksForPackagesWithTwoMinutesOfPatienceAndTellsWhichFailed)
     }
 }
 
-TEST(JsonSearchTest, HandsOverPackagesOfExactlyTheReturnedSizeWithinTheBuffer)
+TEST(JsonSearchTest, LeavesTheCallersStructureAloneWhenMemoryRunsOut)
 {
-    const std::string bytes("P\0K", 3);
-    struct Case
-    {
-        SdkStep answer;
-        unsigned size;
-    };
-    const std::vector<Case> cases{
-        {{.answer = bytes, .returnedSize = 3}, 3},
-        {{.answer = bytes, .returnedSize = 2}, 2},
-        {{.answer = bytes, .returnedSize = 0}, 0},
-        {{.answer = bytes, .fills = true, .returnedSize = kMiB}, kMiB},
-        {{.answer = bytes, .fills = true, .returnedSize = 4000000000U}, kMiB},
-    };
-    for (const Case& each : cases) {
-        ScriptedSdk::Fresh().steps = {each.answer};
-        Package package;
-        ASSERT_TRUE(package.Get());
-        EXPECT_EQ(package.error, 0U);
-        ASSERT_EQ(package.out.returnedSize, each.size);
-        const std::string held(static_cast<char*>(package.out.outBuffer), each.size);
-        EXPECT_EQ(held.substr(0, 3), bytes.substr(0, each.size));
-    }
-}
-
-TEST(JsonSearchTest, GrowsPackagesByOneMiBUpToAThousand)
-{
-    for (const unsigned refusals : {999U, 1000U}) {
-        ScriptedSdk& sdk = ScriptedSdk::Fresh();
-        sdk.steps.assign(refusals, {.error = 43});
-        sdk.steps.push_back({.answer = "end", .returnedSize = 3});
-        Package package;
-        EXPECT_EQ(package.Get(), refusals == 999);
-        EXPECT_EQ(package.error, refusals == 999 ? 0U : 43U);
-        EXPECT_EQ(package.IsUntouched(), refusals == 1000);
-        ASSERT_EQ(sdk.calls.size(), 1000U);
-        for (unsigned i = 0; i < 1000; ++i) {
-            ASSERT_EQ(sdk.calls[i].size, (i + 1) * kMiB);
-            ASSERT_TRUE(sdk.calls[i].isZeroed);
-        }
-    }
-}
-
-TEST(JsonSearchTest, LeavesTheCallersStructureAloneWhenAPackageFails)
-{
-    for (const unsigned error : {7U, 1000U, 1001U}) {
-        ScriptedSdk::Fresh().steps = {{.error = error}};
-        Package package;
-        EXPECT_FALSE(package.Get());
-        EXPECT_EQ(package.error, error);
-        EXPECT_TRUE(package.IsUntouched());
-    }
     CaptureSearchDescription description;
     bool struck = true;
     for (std::size_t ordinal = 1; struck; ++ordinal) {

@@ -1,4 +1,4 @@
-// Every query operation over a scripted SDK: requests, growing buffers, errors, log lines.
+// Every query operation over a scripted SDK: requests, model codes, traces, threads.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/QueryFrame.h"
 
@@ -21,21 +21,6 @@ namespace
 using namespace TestSupport;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-std::string CallOf(SdkCall::Kind kind)
-{
-    switch (kind) {
-        case SdkCall::DeviceAbility:
-            return "NET_ORB_GetDeviceAbility";
-        case SdkCall::StandardAbility:
-            return "NET_ORB_GetSTDAbility";
-        case SdkCall::Transparent:
-            return "NET_ORB_STDXMLConfig";
-        case SdkCall::Channel:
-            return "NET_ORB_SDKChannelToTARN";
-    }
-    return {};
-}
 
 /// Runs a check on every operation, each with a fresh SDK that answers `steps`.
 template <class Check>
@@ -80,98 +65,6 @@ TEST(QueryFrameTest, SendsExactlyTheRequestOfEachOperation)
     });
 }
 
-TEST(QueryFrameTest, GrowsTheBufferByThePolicyOfEachOperationAndGivesUpAtItsLimit)
-{
-    LogCapture log;
-    // Each attempt dirties the buffer: the next one must find it clean.
-    ForEachOperation(
-        {{.error = 43, .answer = "<dirt/>"}}, [&](const OperationRow& row, ScriptedSdk& sdk) {
-            log.Clear();
-            const Answered answered = row.ask();
-            EXPECT_FALSE(answered.result);
-            EXPECT_EQ(answered.err, Reported(row, 43));
-            EXPECT_TRUE(answered.isAtDefaults);
-            EXPECT_EQ(LastError(), kUntouched) << "a reached limit leaves the last error alone";
-            const std::vector<SdkCall> requests = Requests(sdk);
-            ASSERT_EQ(requests.size(), (row.policy.limit - row.policy.start) / row.policy.step + 1);
-            for (std::size_t i = 0; i < requests.size(); ++i) {
-                ASSERT_EQ(requests[i].size, row.policy.start + i * row.policy.step);
-                ASSERT_TRUE(requests[i].isZeroed) << "attempt " << i;
-            }
-            const std::string trace = row.limitTrace;
-            const std::size_t name = trace.find(']') + 1;
-            ASSERT_FALSE(log.Messages("Vsk").empty());
-            EXPECT_EQ(log.Messages("Vsk").back(),
-                      trace.substr(0, name) + "failure to CCapabilityApp::" + trace.substr(name) +
-                          ", userID = [5], error code = [43]");
-            EXPECT_EQ(log.Messages(), row.limitLine == nullptr
-                                          ? std::vector<std::string>()
-                                          : std::vector<std::string>{row.limitLine});
-        });
-}
-
-TEST(QueryFrameTest, GrowsOn1001AndTurns1000Into23OnlyWhereTheOperationDoes)
-{
-    ForEachOperation(
-        {{.error = 1001}, {.error = 1000}}, [](const OperationRow& row, ScriptedSdk& sdk) {
-            const Answered answered = row.ask();
-            EXPECT_FALSE(answered.result);
-            EXPECT_TRUE(answered.isAtDefaults);
-            EXPECT_EQ(Requests(sdk).size(), row.policy.growsOn1001 ? 2U : 1U);
-            const unsigned last = row.policy.maps1000 ? 23 : 1000;
-            EXPECT_EQ(answered.err, Reported(row, row.policy.growsOn1001 ? last : 1001));
-        });
-    ForEachOperation({{.error = 1000}}, [](const OperationRow& row, ScriptedSdk& sdk) {
-        EXPECT_EQ(row.ask().err, Reported(row, row.policy.maps1000 ? 23 : 1000));
-        EXPECT_EQ(Requests(sdk).size(), 1U);
-        EXPECT_EQ(LastError(), std::pair(50, 1000));
-    });
-}
-
-TEST(QueryFrameTest, TellsAnyOtherErrorUnchangedWithItsLinesAndTheirPlace)
-{
-    LogCapture log;
-    ForEachOperation({{.error = 7}}, [&](const OperationRow& row, ScriptedSdk& sdk) {
-        sdk.modelCode = 0x700005;
-        log.Clear();
-        const Answered answered = row.ask();
-        EXPECT_FALSE(answered.result);
-        EXPECT_TRUE(answered.isAtDefaults);
-        EXPECT_EQ(answered.err, Reported(row, 7));
-        EXPECT_EQ(LastError(), std::pair(72, 0x700005));
-        const std::string call = row.failedCall == nullptr ? CallOf(row.kind) : row.failedCall;
-        EXPECT_THAT(log.Messages(),
-                    ElementsAre("NET_ORB_GetLastError: [7]",
-                                "NET_ORB_GetLastErrorModelCode, ErrModelCode:[0x700005], "
-                                "MErrDevSelfEx:[0x7].",
-                                call + " failed, [72]-[7340037]."));
-        const LogLine line = log.Lines().back();
-        EXPECT_EQ(line.level, "ERROR");
-        EXPECT_EQ(line.file, std::string("Common/CapabilitySet/") + row.file);
-        EXPECT_EQ(line.function, std::string("CapabilitySet::") + row.name);
-        EXPECT_GT(line.line, 0);
-        EXPECT_EQ(log.Lines().front().function, "comm_method::getLastSDKError");
-    });
-}
-
-TEST(QueryFrameTest, ChecksTheRecordsFlagOnlyWhereTheOperationDoes)
-{
-    ForEachOperation({{.answer = "<foreign/>"}}, [](const OperationRow& row, ScriptedSdk&) {
-        const Answered answered = row.ask();
-        EXPECT_EQ(answered.result, !row.needsFlag);
-        EXPECT_EQ(answered.err, Reported(row, row.needsFlag ? 23 : 0));
-        EXPECT_TRUE(answered.isAtDefaults);
-    });
-}
-
-TEST(QueryFrameTest, BoundsAnAnswerThatFillsTheWholeBuffer)
-{
-    ForEachOperation({}, [](const OperationRow& row, ScriptedSdk& sdk) {
-        sdk.steps = {{.error = 43}, {.answer = row.document, .fills = true}};
-        EXPECT_EQ(row.ask().result, !row.needsFlag) << "trailing text makes it no document";
-    });
-}
-
 TEST(QueryFrameTest, TracesStartAndFinishOfTheBasicCapabilityAlone)
 {
     LogCapture log;
@@ -187,23 +80,6 @@ TEST(QueryFrameTest, TracesStartAndFinishOfTheBasicCapabilityAlone)
                                                      "[AbilityTime]Start to get BasicCapability",
                                                      "[AbilityTime]Finish to get BasicCapability"));
         EXPECT_EQ(log.Lines("Vsk").front().level, "DEBUG");
-    });
-}
-
-TEST(QueryFrameTest, SendsNothingForAChannelThatCannotBeConverted)
-{
-    LogCapture log;
-    ForEachOperation({}, [&](const OperationRow& row, ScriptedSdk& sdk) {
-        if (row.name != std::string("AlarmAbility::GetAlarmAbility"))
-            return;
-        sdk.channelError = 1000;
-        const Answered answered = row.ask();
-        EXPECT_FALSE(answered.result);
-        EXPECT_EQ(answered.err, 23U);
-        EXPECT_TRUE(answered.isAtDefaults);
-        EXPECT_THAT(Requests(sdk), IsEmpty());
-        EXPECT_EQ(log.Messages().back(), "NET_ORB_SDKChannelToTARN failed, [50]-[1000].");
-        EXPECT_EQ(LastError(), std::pair(50, 1000));
     });
 }
 
@@ -238,11 +114,6 @@ TEST(QueryFrameTest, TellsKnownModelCodesFromTheGapsBetweenThem)
         EXPECT_EQ(LastError(), each.isKnown ? std::pair(72, each.model) : std::pair(50, 9))
             << std::hex << each.model;
     }
-    sdk.modelCode.reset();
-    int module = 0;
-    int code = 0;
-    comm_method::getLastSDKError(module, code);
-    EXPECT_EQ(std::pair(module, code), std::pair(50, 9)) << "the SDK left its outputs alone";
 }
 
 TEST(QueryFrameTest, ServesManyThreadsAtOnce)

@@ -14,7 +14,7 @@ namespace
 {
 
 std::mutex guard;
-std::size_t made = 0;
+std::size_t played = 0;
 thread_local unsigned lastError = 0;
 
 template <class Bytes>
@@ -43,30 +43,78 @@ void Write(void* buffer, unsigned size, const std::string& text)
         std::memcpy(buffer, text.data(), std::min<std::size_t>(text.size(), size));
 }
 
+/// Where a call takes its answer from, and where it goes.
+struct Buffers
+{
+    void* answer;
+    unsigned size;
+    unsigned* returnedSize;
+    void* status = nullptr;
+    unsigned statusSize = 0;
+};
+
+/// Whether all that the step says went to the caller, so that a fault of it has struck.
+bool Reaches(const SdkStep& step, const Buffers& to)
+{
+    return (step.error != 0 || step.answer.size() <= to.size) &&
+           (step.status.empty() || step.status.size() <= to.statusSize) &&
+           (step.returnedSize == 0 || step.error != 0 || to.answer != nullptr);
+}
+
+void Write(const SdkStep& step, const Buffers& to)
+{
+    if (step.fills)
+        std::memset(to.answer, 'x', to.size);
+    Write(to.answer, to.size, step.answer);
+    Write(to.status, to.statusSize, step.status);
+    if (to.returnedSize != nullptr)
+        *to.returnedSize = step.returnedSize;
+}
+
+/// What answers the call.
+const SdkStep& StepFor(ScriptedSdk& sdk, const SdkCall& call, unsigned size, SdkStep& made)
+{
+    made = {};
+    if (const auto text = sdk.texts.find(call.code); text != sdk.texts.end()) {
+        made.answer = text->second;
+    } else if (!sdk.steps.empty()) {
+        const SdkStep& step = sdk.steps[std::min(played, sdk.steps.size() - 1)];
+        if (!step.needsRoom || step.answer.size() <= size) {
+            ++played;
+            return step;
+        }
+        made = {.error = 43, .returnedSize = static_cast<unsigned>(step.answer.size())};
+    }
+    return made;
+}
+
 /// Notes the call and plays the next step into the buffers.
-int Play(SdkCall call, void* buffer, unsigned size, unsigned* returnedSize, void* status = nullptr)
+int Play(SdkCall call, const Buffers& to)
 {
     ScriptedSdk& sdk = ScriptedSdk::Instance();
-    const std::lock_guard lock(guard);
-    call.size = size;
-    call.isZeroed = LooksZeroed(static_cast<char*>(buffer), size) &&
-                    AllZero(static_cast<char*>(status), call.statusSize);
-    const unsigned statusSize = call.statusSize;
-    SdkStep step;
-    if (const auto text = sdk.texts.find(call.code); text != sdk.texts.end())
-        step.answer = text->second;
-    else if (!sdk.steps.empty())
-        step = sdk.steps[std::min(made++, sdk.steps.size() - 1)];
-    if (sdk.keepsCalls)
-        sdk.calls.push_back(std::move(call));
-    lastError = step.error;
-    if (step.fills)
-        std::memset(buffer, 'x', size);
-    Write(buffer, size, step.answer);
-    Write(status, statusSize, step.status);
-    if (returnedSize != nullptr)
-        *returnedSize = step.returnedSize;
-    return step.error == 0 ? 1 : 0;
+    std::function<void()> onCall;
+    {
+        const std::lock_guard lock(guard);
+        if (const auto error = sdk.userErrors.find(call.userID); error != sdk.userErrors.end()) {
+            lastError = error->second;
+            return 0;
+        }
+        call.size = to.size;
+        call.isZeroed = LooksZeroed(static_cast<char*>(to.answer), to.size) &&
+                        AllZero(static_cast<char*>(to.status), to.statusSize);
+        SdkStep made;
+        const SdkStep& step = StepFor(sdk, call, to.size, made);
+        if (sdk.keepsCalls)
+            sdk.calls.push_back(std::move(call));
+        lastError = step.error;
+        Write(step, to);
+        sdk.struck += step.isFault && Reaches(step, to) ? 1 : 0;
+        onCall = sdk.onCall;
+    }
+    const unsigned error = lastError;
+    if (onCall)
+        onCall();
+    return error == 0 ? 1 : 0;
 }
 
 }  // namespace
@@ -80,7 +128,7 @@ ScriptedSdk& ScriptedSdk::Instance()
 ScriptedSdk& ScriptedSdk::Fresh()
 {
     const std::lock_guard lock(guard);
-    made = 0;
+    played = 0;
     lastError = 0;
     return Instance() = ScriptedSdk();
 }
@@ -98,7 +146,7 @@ int NET_ORB_GetDeviceAbility(int userID, unsigned int abilityType, char* inBuffe
     call.hasInput = inBuffer != nullptr;
     call.input = TestSupport::Copy(inBuffer, inLength);
     call.isWellFilled = call.hasInput == (inLength > 0);
-    return TestSupport::Play(std::move(call), outBuffer, outLength, nullptr);
+    return TestSupport::Play(std::move(call), {outBuffer, outLength, nullptr});
 }
 
 int NET_ORB_GetSTDAbility(int userID, unsigned int abilityCode, tagNET_ORB_STD_ABILITY* ability)
@@ -110,8 +158,8 @@ int NET_ORB_GetSTDAbility(int userID, unsigned int abilityCode, tagNET_ORB_STD_A
     call.isWellFilled = ability->statusBuffer == nullptr && ability->statusSize == 0 &&
                         ability->returnedSize == 0 &&
                         TestSupport::AllZero(ability->reserved, sizeof ability->reserved);
-    return TestSupport::Play(std::move(call), ability->outBuffer, ability->outSize,
-                             &ability->returnedSize);
+    return TestSupport::Play(std::move(call),
+                             {ability->outBuffer, ability->outSize, &ability->returnedSize});
 }
 
 int NET_ORB_STDXMLConfig(int userID, tagNET_ORB_XML_CONFIG_INPUT* input,
@@ -131,8 +179,9 @@ int NET_ORB_STDXMLConfig(int userID, tagNET_ORB_XML_CONFIG_INPUT* input,
                         (output->statusBuffer != nullptr) == (output->statusSize > 0) &&
                         TestSupport::AllZero(input->reserved, sizeof input->reserved) &&
                         TestSupport::AllZero(output->reserved, sizeof output->reserved);
-    return TestSupport::Play(std::move(call), output->outBuffer, output->outBufferSize,
-                             &output->returnedSize, output->statusBuffer);
+    return TestSupport::Play(std::move(call),
+                             {output->outBuffer, output->outBufferSize, &output->returnedSize,
+                              output->statusBuffer, output->statusSize});
 }
 
 unsigned int NET_ORB_GetLastError(void)
@@ -142,7 +191,9 @@ unsigned int NET_ORB_GetLastError(void)
 
 int NET_ORB_GetLastErrorModelCode(int* errModelCode, int* errDevSelfEx)
 {
-    const auto& sdk = TestSupport::ScriptedSdk::Instance();
+    auto& sdk = TestSupport::ScriptedSdk::Instance();
+    const std::lock_guard lock(TestSupport::guard);
+    sdk.struck += sdk.countsModelCodes ? 1 : 0;
     if (!sdk.modelCode)
         return 0;
     *errModelCode = *sdk.modelCode;
@@ -159,5 +210,6 @@ int NET_ORB_SDKChannelToTARN(int userID, int channel, int /*mode*/)
         sdk.calls.push_back(
             {.kind = SdkCall::Channel, .userID = userID, .code = static_cast<unsigned>(channel)});
     TestSupport::lastError = sdk.channelError;
+    sdk.struck += sdk.channelError != 0 ? 1 : 0;
     return sdk.channelError != 0 ? -1 : channel + sdk.channelStep;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -44,6 +45,8 @@ struct SdkStep
     std::string status{};       ///< goes to the status buffer, if there is one
     bool fills = false;         ///< fills the buffer to its last byte, without a NUL
     unsigned returnedSize = 0;  ///< what the SDK says of the answer's size
+    bool needsRoom = false;     ///< answers 43 and its size, without a step, until the answer fits
+    bool isFault = false;       ///< counted in `struck` when it reached the caller
 };
 
 /// The script. Set it before calls are made; calls may come from many threads.
@@ -51,12 +54,16 @@ struct ScriptedSdk
 {
     std::vector<SdkStep> steps;             ///< one a call; the last one answers all further calls
     std::map<unsigned, std::string> texts;  ///< answers by ability code, before any step
+    std::map<int, unsigned> userErrors;     ///< these users' calls fail so, before any step
+    std::function<void()> onCall;           ///< runs at the end of each call that took a step
     std::optional<int> modelCode;           ///< none: the outputs of the model code are left alone
     int deviceCode = 7;
     int channelStep = 32;        ///< added by the channel conversion
     unsigned channelError = 0;   ///< the conversion fails with this
     std::vector<SdkCall> calls;  ///< kept only while `keepsCalls`
     bool keepsCalls = true;
+    bool countsModelCodes = false;  ///< a question for the model code counts as a fault
+    unsigned struck = 0;            ///< faults so far, of steps and of the channel conversion
 
     static ScriptedSdk& Instance();
     /// Back to an SDK without a script.

@@ -1,0 +1,101 @@
+// The operations that faults are tried on, whatever road to the device they take.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/JsonOperations.h"
+#include "support/Operations.h"
+
+namespace TestSupport
+{
+
+/// How an operation reaches the device; roads can be put together.
+enum Road : unsigned
+{
+    kDeviceAbility = 1,
+    kStandardAbility = 2,
+    kTransparent = 4,
+    kJson = 8,
+    kAlarmHost = 16,
+    kPackage = 32,
+    kManager = 64,
+    kXmlRoads = kDeviceAbility | kStandardAbility | kTransparent,
+    kJsonRoads = kJson | kAlarmHost,
+    kRawRoads = kPackage | kManager,  ///< the answer is handed over, not read
+    kAllRoads = kXmlRoads | kJsonRoads | kRawRoads
+};
+
+/// What the caller's record or text holds after a call.
+enum class Held
+{
+    Defaults,  ///< or what the caller had there, where a failure leaves it alone
+    Whole,     ///< all of the sound answer
+    Other,
+    Unknown  ///< the answer is not read, or appended to what was there
+};
+
+struct Given
+{
+    bool success = false;
+    unsigned err = 0;
+    Held held = Held::Unknown;
+    std::string bytes{};  ///< of a raw road
+};
+
+struct Subject
+{
+    std::string name;
+    Road road = kTransparent;
+    Policy policy{16384, 16384, 16384000, false, false};
+    std::string sound;   ///< an answer that is read whole
+    std::string root{};  ///< its root element, or the only member of its object
+    std::function<Given()> ask{};
+    bool needsFlag = false;
+    bool tellsError = true;
+    bool setsLastError = true;
+    bool convertsChannel = false;
+    const OperationRow* xml = nullptr;
+    const JsonOperationRow* json = nullptr;
+
+    [[nodiscard]] bool Is(unsigned roads) const { return (road & roads) != 0; }
+    /// Whether the error number makes the buffer grow.
+    [[nodiscard]] bool GrowsOn(unsigned error) const
+    {
+        return error == 43 || (error == 1001 && policy.growsOn1001);
+    }
+};
+
+/// Every operation over the SDK.
+std::vector<Subject> AllOperations();
+
+/// One or two of every family, with documents that fill their records.
+std::vector<Subject> FamilyModels();
+
+/// What the manager of transparent requests told of its last request.
+struct ManagerReport
+{
+    int type = 0;
+    int code = 0;
+    std::string status = "before";
+    std::vector<int> sdkErrors{};
+    std::vector<int> xmlErrors{};
+    std::vector<std::pair<int, std::string>> translated{};
+};
+extern ManagerReport managerReport;
+
+enum class CallBack
+{
+    None,
+    SdkError,
+    XmlError,
+    XmlErrorTrans
+};
+/// The call-back of the manager that throws, and how often it did.
+extern CallBack throwingCallBack;
+extern unsigned callBacksThrown;
+
+}  // namespace TestSupport
