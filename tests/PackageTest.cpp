@@ -106,27 +106,6 @@ TEST(PackageHttpTest, OneRequestReachesTheDevice)
     EXPECT_EQ(requests, 1);
 }
 
-TEST(PackageHttpTest, AFaultOfTheDeviceIsAnErrorAndTheNextDownloadSucceeds)
-{
-    Asked recorder(Road::Http, "recorder");
-    for (const Device::Fault& fault : {Device::Fault{.kind = FaultKind::Truncate, .bytes = 0},
-                                       {.kind = FaultKind::Truncate, .bytes = 1 << 20},
-                                       {.kind = FaultKind::Truncate, .bytes = (3 << 20) - 1},
-                                       {.kind = FaultKind::Reset},
-                                       {.kind = FaultKind::ServerError},
-                                       {.kind = FaultKind::Refuse}}) {
-        for (const auto fetch : {FetchTask, FetchSearch}) {
-            recorder.SetFaults({fault});
-            const Fetched broken = fetch(recorder, "pkg-3M");
-            EXPECT_TRUE(!broken.success && broken.isUntouched)
-                << int(fault.kind) << " at " << fault.bytes;
-            EXPECT_NE(broken.error, 0U);
-            recorder.SetFaults({});
-            EXPECT_TRUE(Device::IsWholePackage(fetch(recorder, "pkg-3M").bytes));
-        }
-    }
-}
-
 TEST(PackageHttpTest, ADownloadThatStallsEndsWithTheLogout)
 {
     Asked recorder(Road::Http, "recorder");

@@ -68,8 +68,10 @@ enum class Road
 class Asked
 {
 public:
-    Asked(Road road, const std::string& profile) : address_("sim:" + profile)
+    Asked(Road road, const std::string& profile, unsigned receiveTimeout = 0)
+        : address_("sim:" + profile)
     {
+        info_.receiveTimeout = receiveTimeout;
         if (road == Road::Http)
             Serve(profile);
         info_.address = address_.c_str();
@@ -90,6 +92,7 @@ public:
         if (!server_->SetFaults(std::move(faults), error))
             throw std::runtime_error(error);
     }
+    [[nodiscard]] std::vector<std::uint64_t> FaultCounts() const { return server_->FaultCounts(); }
     /// Ends the serving; what was asked of it until then, the login's questions too.
     std::vector<Device::ServedRequest> EndServing()
     {
