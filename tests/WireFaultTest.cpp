@@ -14,28 +14,16 @@
 #include "CapabilitySet/SystemAbility.h"
 #include "CapabilitySet/XMLParamInterface/SDKInterfaceManager.h"
 #include "support/DeviceSteps.h"
+#include "support/OperationFamily.h"
 
 namespace
 {
 
 using namespace CapabilitySet;
 using namespace std::chrono_literals;
+using namespace TestSupport;
 using Device::Fault;
 using Device::FaultKind;
-using TestSupport::Asked;
-
-enum Family : unsigned
-{
-    kDeviceAbility = 1,
-    kStandardAbility = 2,
-    kTransparent = 4,
-    kJson = 8,
-    kAlarmHost = 16,
-    kPackage = 32,
-    kManager = 64,
-    kRead = 31,  ///< those whose answers are read
-    kAll = 127
-};
 
 struct Given
 {
@@ -105,16 +93,16 @@ struct Row
 {
     const char* name;
     Fault fault;
-    unsigned error = 0;       ///< of those that fail
-    unsigned fails = kAll;    ///< the others do not notice
-    std::uint64_t least = 1;  ///< strikes
+    unsigned error = 0;          ///< of those that fail
+    unsigned fails = kAllRoads;  ///< the others do not notice
+    std::uint64_t least = 1;     ///< strikes
     std::uint64_t most = 1;
-    unsigned families = kAll;
+    unsigned families = kAllRoads;
     bool hasPage = false;  ///< a refusal's text, which the manager takes for one of the device
 };
 
 // A package waits two minutes for its answer: it takes no part in what ends by time.
-const unsigned kInTime = kAll & ~kPackage;
+const unsigned kInTime = kAllRoads & ~kPackage;
 
 const Row kRows[] = {
     {"Delay", {.kind = FaultKind::Delay, .interval = 30ms}, 0, 0},
@@ -122,7 +110,7 @@ const Row kRows[] = {
     {"DripTooSlow",
      {.kind = FaultKind::Drip, .interval = 300ms, .bytes = 1},
      NET_ORB_NETWORK_RECV_TIMEOUT,
-     kAll,
+     kAllRoads,
      1,
      1,
      kInTime},
@@ -132,14 +120,14 @@ const Row kRows[] = {
     {"StallForEver",
      {.kind = FaultKind::Stall, .bytes = 5},
      NET_ORB_NETWORK_RECV_TIMEOUT,
-     kAll,
+     kAllRoads,
      1,
      1,
      kInTime},
     {"Truncate", {.kind = FaultKind::Truncate, .bytes = 30}, NET_ORB_NETWORK_RECV_ERROR},
     {"TruncateAtOnce", {.kind = FaultKind::Truncate}, NET_ORB_NETWORK_RECV_ERROR},
     // On a kept connection a question is asked again, once; nothing else is.
-    {"Reset", {.kind = FaultKind::Reset}, NET_ORB_NETWORK_RECV_ERROR, kAll, 1, 2},
+    {"Reset", {.kind = FaultKind::Reset}, NET_ORB_NETWORK_RECV_ERROR, kAllRoads, 1, 2},
     {"ResetOnce",
      {.kind = FaultKind::Reset, .times = 1},
      NET_ORB_NETWORK_RECV_ERROR,
@@ -148,34 +136,34 @@ const Row kRows[] = {
     {"UnauthorizedForEver",
      {.kind = FaultKind::Unauthorized},
      NET_ORB_PASSWORD_ERROR,
-     kAll,
+     kAllRoads,
      1,
      3,
-     kAll,
+     kAllRoads,
      true},
     {"StaleNonceOnce", {.kind = FaultKind::StaleNonce, .times = 1}, 0, 0},
-    {"StaleNonceForEver", {.kind = FaultKind::StaleNonce}, NET_ORB_PASSWORD_ERROR, kAll, 1, 6},
+    {"StaleNonceForEver", {.kind = FaultKind::StaleNonce}, NET_ORB_PASSWORD_ERROR, kAllRoads, 1, 6},
     {"ServerError",
      {.kind = FaultKind::ServerError, .httpStatus = 500},
      NET_ORB_DEVICE_REFUSED,
-     kAll,
+     kAllRoads,
      1,
      1,
-     kAll,
+     kAllRoads,
      true},
     {"Refuse",
      {.kind = FaultKind::Refuse, .subStatusCode = "deviceBusy"},
      NET_ORB_DEVICE_BUSY,
-     kAll,
+     kAllRoads,
      1,
      1,
-     kAll,
+     kAllRoads,
      true},
     {"Oversize", {.kind = FaultKind::Oversize, .bytes = 20'000}, 0, 0},
     {"OversizeBeyondEveryBuffer",
      {.kind = FaultKind::Oversize, .bytes = 17 << 20},
      NET_ORB_BUFFER_TOO_SMALL,
-     kRead},
+     kXmlRoads | kJsonRoads},
 };
 
 void PrintTo(const Row& row, std::ostream* out)
@@ -194,7 +182,7 @@ TEST_P(WireFaultTest, StrikesComesOutAsItShouldAndPasses)
         if ((subject.family & row.families) == 0)
             continue;
         SCOPED_TRACE(subject.name);
-        Asked device(TestSupport::Road::Http, subject.profile, 700);
+        Asked device(Road::Http, subject.profile, 700);
         device.SetFaults({row.fault});
         const Given given = subject.ask(device);
         const std::uint64_t struck = device.FaultCounts().front();

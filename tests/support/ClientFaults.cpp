@@ -201,11 +201,12 @@ std::vector<Steps> PlaySound(const Subject& subject)
     return {Steps{Sound(subject)}};
 }
 
+/// Twice: what a library keeps for its next document was made anew after the first.
 std::vector<Steps> PlayBroken(const Subject& subject)
 {
     SdkStep broken = Sound(subject);
     broken.answer.back() = '!';
-    return {Steps{broken}};
+    return {Steps{broken}, Steps{broken}};
 }
 
 std::vector<Steps> PlayFailure(const Subject&)

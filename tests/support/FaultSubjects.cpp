@@ -32,9 +32,9 @@ Subject Of(const OperationRow& row)
     const std::string sound = row.document;
     Subject subject{.name = row.name, .policy = row.policy, .sound = sound};
     subject.root = sound.substr(1, sound.find_first_of(" />") - 1);
-    subject.road = row.kind == SdkCall::DeviceAbility     ? kDeviceAbility
-                   : row.kind == SdkCall::StandardAbility ? kStandardAbility
-                                                          : kTransparent;
+    subject.family = row.kind == SdkCall::DeviceAbility     ? kDeviceAbility
+                     : row.kind == SdkCall::StandardAbility ? kStandardAbility
+                                                            : kTransparent;
     subject.ask = [&row] {
         const Answered answered = row.ask();
         return Given{answered.result, answered.err,
@@ -49,9 +49,9 @@ Subject Of(const OperationRow& row)
     return subject;
 }
 
-Subject Of(const JsonOperationRow& row, Road road)
+Subject Of(const JsonOperationRow& row, Family family)
 {
-    Subject subject{.name = row.name, .road = road, .sound = row.answer};
+    Subject subject{.name = row.name, .family = family, .sound = row.answer};
     const std::size_t name = subject.sound.find('"') + 1;
     subject.root = subject.sound.substr(name, subject.sound.find('"', name) - name);
     subject.ask = [&row] {
@@ -74,7 +74,7 @@ Subject Of(const JsonOperationRow& row, Road road)
 
 Subject Package(const char* name, bool (*get)(tagNET_ORB_XML_CONFIG_OUTPUT&, unsigned&))
 {
-    Subject subject{.name = name, .road = kPackage, .sound = std::string("P\0K and more", 12)};
+    Subject subject{.name = name, .family = kPackage, .sound = std::string("P\0K and more", 12)};
     subject.policy = {1048576, 1048576, 1048576000, false, false};
     subject.ask = [get] {
         char mark = 0;
@@ -104,7 +104,7 @@ void ThrowIf(CallBack which)
 
 Subject Manager()
 {
-    Subject subject{.name = "TransparentRequsetGET", .road = kManager, .sound = "hello world"};
+    Subject subject{.name = "TransparentRequsetGET", .family = kManager, .sound = "hello world"};
     subject.policy = {2048, 0, 0, true, true};
     subject.setsLastError = false;
     subject.ask = [] {

@@ -8,26 +8,11 @@
 #include <vector>
 
 #include "support/JsonOperations.h"
+#include "support/OperationFamily.h"
 #include "support/Operations.h"
 
 namespace TestSupport
 {
-
-/// How an operation reaches the device; roads can be put together.
-enum Road : unsigned
-{
-    kDeviceAbility = 1,
-    kStandardAbility = 2,
-    kTransparent = 4,
-    kJson = 8,
-    kAlarmHost = 16,
-    kPackage = 32,
-    kManager = 64,
-    kXmlRoads = kDeviceAbility | kStandardAbility | kTransparent,
-    kJsonRoads = kJson | kAlarmHost,
-    kRawRoads = kPackage | kManager,  ///< the answer is handed over, not read
-    kAllRoads = kXmlRoads | kJsonRoads | kRawRoads
-};
 
 /// What the caller's record or text holds after a call.
 enum class Held
@@ -49,7 +34,7 @@ struct Given
 struct Subject
 {
     std::string name;
-    Road road = kTransparent;
+    Family family = kTransparent;
     Policy policy{16384, 16384, 16384000, false, false};
     std::string sound;   ///< an answer that is read whole
     std::string root{};  ///< its root element, or the only member of its object
@@ -61,7 +46,7 @@ struct Subject
     const OperationRow* xml = nullptr;
     const JsonOperationRow* json = nullptr;
 
-    [[nodiscard]] bool Is(unsigned roads) const { return (road & roads) != 0; }
+    [[nodiscard]] bool Is(unsigned families) const { return (family & families) != 0; }
     /// Whether the error number makes the buffer grow.
     [[nodiscard]] bool GrowsOn(unsigned error) const
     {
