@@ -274,34 +274,12 @@ TEST(DeviceProfiles, EveryEmbeddedProfileAnswersWithReadableDocuments)
 }
 
 // Cases that a reader must be able to take, so that a test over them tests more than refusals.
-const std::set<std::string_view> kReadable = {"outOfOrder",
-                                              "wrongRoot",
-                                              "rootWrongCase",
-                                              "defaultNamespace",
-                                              "prefixedRoot",
-                                              "duplicateElements",
-                                              "emptyElements",
-                                              "unknownElements",
-                                              "wrongKinds",
-                                              "oversized",
-                                              "declaredGbk",
-                                              "byteOrderMark",
-                                              "utf16",
-                                              "externalFile",
-                                              "externalHttp",
-                                              "attributeDefaults",
-                                              "nested256",
-                                              "hugeNumbers",
-                                              "negativeNumbers",
-                                              "hexNumbers",
-                                              "lettersInNumbers",
-                                              "exponents",
-                                              "longText",
-                                              "comments",
-                                              "processingInstructions",
-                                              "cdata",
-                                              "cutTexts",
-                                              "mixedContent"};
+constexpr std::string_view kReadable =
+    " outOfOrder wrongRoot rootWrongCase defaultNamespace prefixedRoot"
+    " duplicateElements emptyElements unknownElements wrongKinds oversized"
+    " declaredGbk byteOrderMark utf16 externalFile externalHttp attributeDefaults"
+    " nested256 hugeNumbers negativeNumbers hexNumbers lettersInNumbers exponents"
+    " longText comments processingInstructions cdata cutTexts mixedContent ";
 
 TEST(HostileDocuments, AreAsBrokenAsTheyClaimAndNoMore)
 {
@@ -318,7 +296,8 @@ TEST(HostileDocuments, AreAsBrokenAsTheyClaimAndNoMore)
         EXPECT_TRUE(distinct.insert(text.substr(0, 100000)).second) << hostile.name;
         EXPECT_EQ(Device::FindHostileCase(hostile.name), &hostile);
         if (!dangerous.contains(hostile.name)) {
-            EXPECT_EQ(WellFormed(text), kReadable.contains(hostile.name)) << hostile.name;
+            const std::string name = " " + std::string(hostile.name) + " ";
+            EXPECT_EQ(WellFormed(text), kReadable.find(name) != std::string_view::npos) << name;
         }
     }
     const auto make = [&](const char* name) {

@@ -334,19 +334,14 @@ TEST_P(DeviceServerFault, StrikesOnceUnderItsPrefixAndNowhereElse)
     EXPECT_EQ(server->FaultCounts(), std::vector<std::uint64_t>{tried.counts});
 }
 
+constexpr const char* kEcho = "GET /struck/by/it ";
+
 INSTANTIATE_TEST_SUITE_P(
     Each, DeviceServerFault,
     testing::Values(
-        FaultCase{"Delay",
-                  {.kind = FaultKind::Delay, .interval = 80ms},
-                  CURLE_OK,
-                  200,
-                  "GET /struck/by/it "},
-        FaultCase{"Drip",
-                  {.kind = FaultKind::Drip, .interval = 20ms, .bytes = 4},
-                  CURLE_OK,
-                  200,
-                  "GET /struck/by/it "},
+        FaultCase{"Delay", {.kind = FaultKind::Delay, .interval = 80ms}, CURLE_OK, 200, kEcho},
+        FaultCase{
+            "Drip", {.kind = FaultKind::Drip, .interval = 20ms, .bytes = 4}, CURLE_OK, 200, kEcho},
         FaultCase{"Truncate",
                   {.kind = FaultKind::Truncate, .bytes = 5},
                   CURLE_PARTIAL_FILE,
@@ -356,7 +351,7 @@ INSTANTIATE_TEST_SUITE_P(
                   {.kind = FaultKind::Truncate, .bytes = 1000},
                   CURLE_OK,
                   200,
-                  "GET /struck/by/it ",
+                  kEcho,
                   0},
         FaultCase{"Stall",
                   {.kind = FaultKind::Stall, .interval = 150ms, .bytes = 5},

@@ -1,8 +1,11 @@
 // Data packages on their way through the library: whole, in one exchange, or not at all.
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <chrono>
 #include <cstring>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Device/Package.h"
@@ -90,6 +93,23 @@ TEST_P(PackageTest, ArrivesWholeInOneExchangeWhateverItsSize)
         const Fetched refused = FetchTask(recorder, task);
         EXPECT_TRUE(!refused.success && refused.isUntouched && refused.error != 0) << task;
     }
+}
+
+TEST_P(PackageTest, TheThreadThatAsksHearsHowMuchHasCome)
+{
+    using Parts = std::vector<std::pair<unsigned long long, unsigned long long>>;
+    const Asked recorder = Login("recorder");
+    Parts heard;
+    NET_ORB_SetReceiveProgress(
+        [](unsigned long long received, unsigned long long total, void* to) {
+            static_cast<Parts*>(to)->emplace_back(received, total);
+        },
+        &heard);
+    EXPECT_TRUE(FetchTask(recorder, "pkg-1M").success);
+    NET_ORB_SetReceiveProgress(nullptr, nullptr);
+    ASSERT_FALSE(heard.empty());
+    EXPECT_EQ(heard.back(), std::pair(1ULL << 20, 1ULL << 20));
+    EXPECT_TRUE(std::ranges::is_sorted(heard));
 }
 
 TEST(PackageHttpTest, OneRequestReachesTheDevice)

@@ -1,8 +1,6 @@
 // The field lists of all XML records: each name fills its own member, and no member is left out.
 // SPDX-License-Identifier: Apache-2.0
-#include <iterator>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -164,90 +162,6 @@ TEST(RecordFieldsTest, EveryMemberIsListedOnceInItsOrder)
         }
         EXPECT_EQ(alignUp(end, row.alignment), row.size) << "members behind the last field";
     }
-}
-
-// The basic capability's elements as devices send them, in their order, with their kinds.
-
-/// Writes "name:kind" for each field, but the name alone for a flag.
-struct KindWriter
-{
-    std::vector<std::string> words{};
-
-    void operator()(const char* name, auto& member, auto... how)
-    {
-        words.push_back(name);
-        Add(member, how...);
-    }
-
-    void Add(bool&) {}
-    void Add(bool&, as::Presence) { words.back() += ":presence"; }
-    void Add(bool&, as::Marker) { words.back() += ":marker"; }
-    void Add(int&) { words.back() += ":int"; }
-    void Add(unsigned&) { words.back() += ":uint"; }
-    void Add(std::string&) { words.back() += ":text"; }
-    void Add(MinMaxElement&, as::Attributes) { words.back() += ":range"; }
-    void Add(OptElement<std::string>&) { words.back() += ":options"; }
-    template <xml::IsRecord Record>
-    void Add(Record& record)
-    {
-        words.emplace_back("{");
-        Record::Fields(record, *this);
-        words.emplace_back("}");
-    }
-};
-
-constexpr const char* kHardware = R"(
-HardwareVersion:int AlarmInPortNum:int AlarmOutPortNum:int RS232Num:int RS485Num:int
-NetworkPortNum:int USBNum:int FlashSize:int RamSize:int USBVersion:uint SDNum:int HardDiskNum:int
-SATANum:int eSATANum:int miniSASNum:int VideoInNum:int AudioInNum:int VideoOutNum:int
-AudioOutNum:int AudioTalkNum:int SDSupport WiFiSupport POESupport IRSupport VideoOutSupport
-ResetSupport AnalogChannelNum:int IPChannelNum:int MultiNetworkCard NetworkCardNumber:int
-BondingSupport VGANumber:int HDMINumber:int CVBSNumber:int AuxoutNumber:int RAIDType:uint RS485 {
-localRs485No:range expandRS485No:range fullDuplexRS485No:range semiDuplexRS485No:range
-485SlotNo:range } ZoneNum { localZoneNo:range extendZoneNo:range } sirenNo:range
-electroLockNo:range mobileGateNo:range TriggerNum { localTriggerNo:range extendTriggerNo:range }
-Sensor { totalSensorNum:int localSensorNo:range expandSensorNo:range }
-)";
-
-constexpr const char* kSoftware = R"(
-NewHdNo MaxNetworkHDNum:int NasSupport NasNumber:int ShowStringNumber:int MotionDetectAlarmSupport
-VILostAlarmSupport HideAlarmSupport ShelterSupport RtspSupport RtpoverRtspSupport
-RtspoverHttpSupport NtpSupport EptzSupport PtzSupport DDNSSupport DDNSHostType:text SNMPSupport
-SNMPVersion:text UPNPSupport iSCSISupport iSCSINum:int Ipv6Support VCASupport MultipleStreamSupport
-SubStreamSupport EmailSupport SADPVersion:text ZeroChanNumber:int BackupSupport
-FindFileByEventSupport SmartSearchSupport ATMSupport FileLockSupport BitrateLimitSupport
-MaxLoginNum:int MaxPreviewNum:int MaxPlayBackNum:int MaxChanLinkNum:int ShutDownSupport
-FrameFreezeSupport HDgroupConfig RS232Config PPPoEConfig RedundancyRecord VideoOutScaleConfig
-GuestUser UploadFTP NotSupportDiskQuota QuotaRatio LocalVout { mainVoutType:options }
-SingleStorageMaxCap:int IPCPlug DrawFrameRecord DelInvalidDisk MountOrUnmountDisk
-MaxDvcsSubDevNumNum:int NotSupportInputOutputConfigFile NotSupportLogSearch NeedReboot {
-ImportConfigurationFileReboot:int EsataUseageChange:int AlarmInTypeChange:int
-AnalogChanEnableChange:int RestoreConfig:int RS232workModeChange:int NetPortChange:int
-RtspPortChange:int DhcpEnableChange:int HttpPortChange:int PPPoEChange:int NetMultiCastIPChange:int
-HardDiskParamChange:int RecordTimeChange:int VideoEncodeTypeChange:int AudioEncodeTypeChange:int
-StandardTypeChange:int DehazeEnableChange:int LineCodingEnableChange:int
-LocalOutputEnableChange:int LocalMainVoutTypeChange:int } DecoderAbility:marker
-isSupportLoginTiming isNotSupportSummerTime heatMap:presence PDC:presence Support3DPTZ
-isSupportGetThumbnails:presence isSupportOnLineUser isSupportDownloadVehicleInfo
-isSupportClientProxyWEB WEBLocation:text deviceId:text isSupportClientProxyWEBInsert
-isSupportClientIntelligentConfiguration
-)";
-
-std::vector<std::string> WordsOf(const char* text)
-{
-    std::istringstream words(text);
-    return {std::istream_iterator<std::string>(words), {}};
-}
-
-TEST(RecordFieldsTest, BasicCapabilityReadsWhatDevicesSend)
-{
-    BasicCapability record;
-    KindWriter hardware;
-    HardwareCapability::Fields(record.hardware, hardware);
-    EXPECT_EQ(hardware.words, WordsOf(kHardware));
-    KindWriter software;
-    SoftwareCapability::Fields(record.software, software);
-    EXPECT_EQ(software.words, WordsOf(kSoftware));
 }
 
 }  // namespace

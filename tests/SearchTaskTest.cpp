@@ -5,6 +5,7 @@
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Device/Package.h"
+#include "Keel/StringUtil.h"
 #include "support/DeviceSteps.h"
 
 using namespace CapabilitySet;
@@ -164,26 +165,12 @@ TEST_P(AskedTaskTest, FacesArePackedThenFetchedFromTheirUrl)
 // Requests made of pieces of real ones, at random but the same on every run, from several threads.
 TEST(SearchTask, NoRequestStopsADevice)
 {
-    const std::vector<std::string> kPieces = {"{\"SearchDescription\": {",
-                                              "}",
-                                              "\"maxResults\": ",
-                                              "\"30\"",
-                                              "99999999999",
-                                              "-1",
-                                              "\"timeSpanList\": [",
-                                              "]",
-                                              "{\"timeSpan\": {\"endTIme\": \"2026\"}}",
-                                              ",",
-                                              "null",
-                                              "\"zone\": \"1-9999999\"",
-                                              "{\"OutputsCtrl\": ",
-                                              "\"List\": [{\"id\": 1e300}]",
-                                              "\"\\ud800\"",
-                                              std::string(3, '\0'),
-                                              "\"searchID\": \"pkg-1M\"",
-                                              "[[[[",
-                                              "<a>",
-                                              "{"};
+    std::vector<std::string> pieces = Keel::StringUtil::SplitString(
+        "{\"SearchDescription\": {|}|\"maxResults\": |\"30\"|99999999999|-1|\"timeSpanList\": [|]|"
+        "{\"timeSpan\": {\"endTIme\": \"2026\"}}|,|null|\"zone\": \"1-9999999\"|{\"OutputsCtrl\": |"
+        "\"List\": [{\"id\": 1e300}]|\"\\ud800\"|\"searchID\": \"pkg-1M\"|[[[[|<a>|{",
+        "|");
+    pieces.emplace_back(3, '\0');
     constexpr const char* kTargets[] = {
         "SecurityCP/capabilities",
         "SecurityCP/control/outputs",
@@ -220,7 +207,7 @@ TEST(SearchTask, NoRequestStopsADevice)
                 }
                 std::string body;
                 for (unsigned k = random() % 8; k > 0; --k) {
-                    body += kPieces[random() % kPieces.size()];
+                    body += pieces[random() % pieces.size()];
                 }
                 const int status =
                     device->Handle({kMethods[random() % 4], TestSupport::Target(target), body})
