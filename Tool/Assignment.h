@@ -99,12 +99,12 @@ void Assign(Record& record, const Assignment& assignment, std::size_t depth)
             return;
         }
         members.emplace_back(field);
-        if (isFound || !SameIgnoringCase(field, name)) {
+        if (isFound || !SameIgnoringCase(field, name)) {  // GCOV_EXCL_BR_LINE
             return;
         }
         isFound = true;
         if constexpr (requires { AssignValue(member, assignment); }) {
-            if (depth + 1 < assignment.path.size()) {
+            if (depth + 1 < assignment.path.size()) {  // GCOV_EXCL_BR_LINE
                 RefuseName(assignment, assignment.path[depth + 1], {});
             }
             AssignValue(member, assignment);

@@ -64,7 +64,7 @@ RecordEntry PtzRow(const char* list, const char* description)
         const InterfaceRet result =
             channel < 0
                 ? InterfaceRet{false, 0, 0}
-                : SDKInterfaceManager::instance().TransparentRequsetGET(
+                : SDKInterfaceManager::instance().TransparentRequsetGET(  // GCOV_EXCL_BR_LINE
                       userID, "GET " + PtzListPath(channel, list) + "\r\n", text, status, 0, false);
         answer.answered = result.success;
         answer.error = result.success ? 0 : ErrorOf(result);

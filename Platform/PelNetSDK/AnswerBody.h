@@ -19,7 +19,7 @@ public:
 
     explicit AnswerBody(std::size_t limit = kDefaultLimit) : limit_(limit) {}
     AnswerBody(AnswerBody&& other) noexcept;
-    AnswerBody& operator=(AnswerBody&& other) noexcept;
+    AnswerBody& operator=(AnswerBody&&) = delete;
     AnswerBody(const AnswerBody&) = delete;
     AnswerBody& operator=(const AnswerBody&) = delete;
     ~AnswerBody() = default;
