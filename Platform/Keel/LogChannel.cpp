@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Keel/LogChannel.h"
 
+#if defined(__unix__)
+#include <dlfcn.h>
+#endif
+
 #include <memory>
 
 #include <log4cxx/helpers/class.h>
@@ -55,10 +59,23 @@ public:
     void removeAppenderEvent(const log4cxx::Logger*, const log4cxx::Appender*) override {}
 };
 
+/// Keeps the module that holds this code in the process, even if a client unloads it.
+void StayLoaded()
+{
+#if defined(__unix__)
+    Dl_info here{};
+    if (dladdr(&anyAppender, &here) != 0) {
+        dlopen(here.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
+    }
+#endif
+}
+
 /// False while no line can reach anyone: nothing is configured yet, or the process ends.
 bool IsAnyoneListening()
 {
     static const bool isWatching = [] {
+        // log4cxx calls the watch until the process ends, and has no way to take it back.
+        StayLoaded();
         const auto repository = log4cxx::LogManager::getLoggerRepository();
         repository->addHierarchyEventListener(std::make_shared<AppenderWatch>());
         if (repository->isConfigured()) {
