@@ -3,7 +3,7 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include <json/reader.h>
 #include <json/value.h>
@@ -17,12 +17,19 @@ namespace
 
 using CapabilitySet::CMacCompanyHelper;
 
+const std::vector<std::string>& Texts()
+{
+    static const auto texts = CapabilitySet::MacCompanyTexts();
+    static const std::vector<std::string> asStrings(texts.begin(), texts.end());
+    return asStrings;
+}
+
 std::size_t BareParses()
 {
     std::size_t members = 0;
-    for (const std::string_view text : CapabilitySet::MacCompanyTexts()) {
+    for (const std::string& text : Texts()) {
         Json::Value root;
-        Json::Reader().parse(text.data(), text.data() + text.size(), root);
+        Json::Reader().parse(text, root);
         members += root.size();
     }
     return members;
@@ -31,9 +38,9 @@ std::size_t BareParses()
 std::map<std::string, std::string> PlainMap()
 {
     std::map<std::string, std::string> companies;
-    for (const std::string_view text : CapabilitySet::MacCompanyTexts()) {
+    for (const std::string& text : Texts()) {
         Json::Value root;
-        Json::Reader().parse(text.data(), text.data() + text.size(), root);
+        Json::Reader().parse(text, root);
         for (const std::string& prefix : root.getMemberNames())
             companies.emplace(prefix, root[prefix].asString());
     }
