@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonCap/MacCompanyHelper.h"
 
+#include <cstdlib>
 #include <fstream>
+#include <memory>
 #include <set>
 #include <thread>
 #include <vector>
@@ -100,6 +102,33 @@ TEST(MacCompanyLoadDeathTest, KeepsWhatWasLoadedWhenMemoryRunsOut)
         std::exit(faults > 20 && partly > 5 ? 0 : 2);
     };
     EXPECT_EXIT(loadWithFaults(), testing::ExitedWithCode(0), "");
+}
+
+/// A client's object that is destroyed after the table that all share, and looks companies up.
+struct LastUser
+{
+    LastUser() = default;
+    ~LastUser()
+    {
+        const bool isTold = kept->getCompanyNameByMAc("405582") == "nokia" &&
+                            CMacCompanyHelper().getCompanyNameByMAc("405582") == "nokia";
+        kept.reset();
+        std::_Exit(isTold ? 7 : 2);
+    }
+    LastUser(const LastUser&) = delete;
+    LastUser& operator=(const LastUser&) = delete;
+
+    std::unique_ptr<CMacCompanyHelper> kept;
+};
+
+TEST(MacCompanyLoadDeathTest, StaysUsableForStaticObjectsThatOutliveTheTable)
+{
+    const auto exit = [] {
+        static LastUser user;
+        user.kept = std::make_unique<CMacCompanyHelper>();
+        std::exit(0);
+    };
+    EXPECT_EXIT(exit(), testing::ExitedWithCode(7), "");
 }
 
 TEST(MacCompanyTextsTest, HoldTheRowsAsMembersWithBlanksBetween)
