@@ -43,8 +43,7 @@ std::string Outline(const AbilityElement& element)
 TEST(AbilityDocumentTest, KeepsEverythingInTheDocumentsOrder)
 {
     const std::vector<std::pair<std::string, std::string>> cases{
-        {"", "PTZAbility"},
-        {" \n ", "PTZAbility ' \n '"},
+        {" <a> \n </a> ", "PTZAbility { a ' \n '; }"},
         {"<b>1</b> <a>2</a>\n<b> 3 </b>", "PTZAbility { b '1'; a '2'; b ' 3 '; }"},
         {"<a x='1' y=''/>", "PTZAbility { a x=1 y=; }"},
         {"loose <a/> text", "PTZAbility 'loose  text' { a; }"},
@@ -93,11 +92,14 @@ TEST(AbilityDocumentTest, OnlyADocumentOfItsOwnReplacesTheLastOne)
     const LogCapture log;
     PTZAbility read = Ability("<a>1</a>");
     const AbilityElement before = read.root;
-    for (const char* none : {"", "<ptzAbility/>", "<PTZAbility>", "<VideoPicAbility/>"})
+    for (const char* none : {"", "<ptzAbility/>", "<PTZAbility>", "<VideoPicAbility/>",
+                             "<PTZAbility v='2.0'/>", "<PTZAbility> text<!----></PTZAbility>"}) {
         read.Parse(none);
+        EXPECT_FALSE(PTZAbility(none).Capable()) << none;
+    }
     read.Parse(static_cast<_xmlNode*>(nullptr));
     EXPECT_EQ(read.root, before);
-    EXPECT_EQ(log.Lines().size(), 3U);
+    EXPECT_EQ(log.Lines().size(), 6U) << "a root without elements is none to tell of";
     read.Parse("<PTZAbility><b/></PTZAbility>");
     EXPECT_EQ(Outline(read.root), "PTZAbility { b; }") << "replaced whole";
 }

@@ -178,6 +178,10 @@ TEST(DynChannelAbilityTest, TypedMemberFollowsItsElement)
         std::string("<DynChannelAbility><Support3DPTZ>TRUE</Support3DPTZ>"
                     "</DynChannelAbility>"));
     EXPECT_FALSE(ability.Support3DPTZ);
+    ability.Parse(
+        std::string("<DynChannelAbility><Support3DPTZ><x>true</x></Support3DPTZ>"
+                    "</DynChannelAbility>"));
+    EXPECT_TRUE(ability.Support3DPTZ) << "a text is that of the elements below too";
 }
 
 }  // namespace

@@ -56,6 +56,7 @@ TEST(XmlReadingTest, ReadsTextInOnePieceAndInMany)
     };
     for (const auto& [document, text] : cases)
         EXPECT_EQ(GetNodeString(XmlTree(document).Root()), text) << document;
+    EXPECT_EQ(GetNodeString(XmlTree("<a><?Default 5?></a>").First()), "5");
     EXPECT_EQ(GetNodeString(nullptr), "");
     EXPECT_EQ(GetNodeInt(nullptr), 0);
     EXPECT_EQ(GetNodeUInt(nullptr), 0U);

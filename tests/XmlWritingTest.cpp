@@ -3,6 +3,7 @@
 #include "CapabilitySet/private/XmlWriting.h"
 
 #include <clocale>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -206,6 +207,21 @@ TEST(XmlBodyTest, IsTheSameByteForByteUnderTheClientsOwnSettings)
     description.searchID = std::string("up to\0here", 10);
     back.Parse(ConfigCapXML::MakeSearchDesXML(description));
     EXPECT_EQ(back.searchID, "up to");
+}
+
+TEST(XmlBodyTest, WritesDecimalNumbersAsAStreamDoesAndLosesNoDigit)
+{
+    const std::pair<double, const char*> rows[] = {{0, "0"},
+                                                   {100000, "100000"},
+                                                   {-0.0001, "-0.0001"},
+                                                   {36.6, "36.6"},
+                                                   {1e6, "1e+06"},
+                                                   {1234567.5, "1234567.5"},
+                                                   {0.1 + 0.2, "0.30000000000000004"},
+                                                   {5e-324, "4.94066e-324"}};
+    for (const auto& [value, text] : rows)
+        EXPECT_EQ(xml::TextOfValue(value), text);
+    EXPECT_EQ(xml::TextOfValue(std::numeric_limits<double>::max()).size(), 309U);
 }
 
 TEST(XmlBodyTest, CarriesTheVersionItIsGivenAndNoneForAnEmptyOne)

@@ -3,6 +3,7 @@
 #include "CapabilitySet/AbilityDocument.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "CapabilitySet/private/XmlDocument.h"
 
@@ -83,10 +84,8 @@ const std::string& AbilityElement::Attribute(std::string_view attribute) const
 
 void AbilityDocument::ParseDocument(const std::string& text, const char* rootName)
 {
-    xml::WithRoot(text, rootName, CAPABILITYSET_HERE, [this](xmlNode* element) {
-        root = CopyElement(element);
-        capable = true;
-    });
+    xml::WithRoot(text, rootName, CAPABILITYSET_HERE,
+                  [this](xmlNode* element) { ParseElement(element); });
 }
 
 void AbilityDocument::ParseElement(_xmlNode* element)
@@ -94,7 +93,10 @@ void AbilityDocument::ParseElement(_xmlNode* element)
     if (element == nullptr)
         return;
     xml::EndAtException([&] {
-        root = CopyElement(element);
+        AbilityElement read = CopyElement(element);
+        if (read.children.empty())
+            return;
+        root = std::move(read);
         capable = true;
     });
 }

@@ -36,7 +36,8 @@ struct CAPABILITYSET_API AbilityElement
     friend bool operator==(const AbilityElement&, const AbilityElement&) = default;
 };
 
-/// A whole answer as an ordered tree. Capable when the answer's root is the expected one.
+/// A whole answer as an ordered tree. Capable when the answer's root is the expected one and holds
+/// an element; as in every record, a root without any reads nothing.
 struct CAPABILITYSET_API AbilityDocument : CBaseCapability
 {
     AbilityElement root;

@@ -5,6 +5,7 @@
 #include "CapabilitySet/private/FirstSavedCache.h"
 #include "CapabilitySet/private/QueryFrame.h"
 #include "CapabilitySet/private/RequestXml.h"
+#include "CapabilitySet/private/XmlDocument.h"
 
 namespace CapabilitySet
 {
@@ -24,20 +25,17 @@ PtzCache& Support3DPTZOfChannels()
 
 void DynChannelAbility::Parse(const std::string& text)
 {
-    ParseDocument(text, kRoot);
-    NoteMembers();
+    xml::WithRoot(text, kRoot, CAPABILITYSET_HERE, [this](xmlNode* element) { Parse(element); });
 }
 
 void DynChannelAbility::Parse(_xmlNode* element)
 {
-    ParseElement(element);
-    NoteMembers();
-}
-
-void DynChannelAbility::NoteMembers()
-{
-    if (const AbilityElement& element = Find("Support3DPTZ"))
-        Support3DPTZ = element.text == "true" || element.text == "1";
+    xml::EndAtException([&] {
+        ParseElement(element);
+        xmlNode* cursor = element == nullptr ? nullptr : element->children;
+        if (xml::NextElementNamed(cursor, "Support3DPTZ"))
+            Support3DPTZ = xml::GetNodeBool(cursor);
+    });
 }
 
 bool DynChannelAbility::GetDynChannelAbility(DynChannelAbility& out, unsigned int& err,

@@ -41,9 +41,6 @@ struct CAPABILITYSET_API DynChannelAbility : AbilityDocument
     /// The remembered flag; false, with `support` left alone, when none was saved for the key.
     static bool GetIsSupper3DPTZAbilityWithChannel(bool& support, const std::string& key1,
                                                    const std::string& key2, const int& channel);
-
-private:
-    void NoteMembers();
 };
 
 }  // namespace CapabilitySet

@@ -61,12 +61,12 @@ std::string Bytes(unsigned channel)
     return {reinterpret_cast<const char*>(&channel), sizeof channel};
 }
 
-/// The row of a query in a file, with its arguments; its record is read from an empty element.
+/// The row of a query in a file, with its arguments; its record is read from any element.
 #define ROW(file_, Record, query, arguments, kind_, code_, request_, policy_, tag)                 \
     OperationRow                                                                                   \
     {                                                                                              \
         .name = #Record "::" #query, .file = #file_ ".cpp", .kind = SdkCall::kind_, .code = code_, \
-        .request = request_, .document = "<" #Record "/>", .policy = policy_,                      \
+        .request = request_, .document = "<" #Record "><a/></" #Record ">", .policy = policy_,     \
         .ask =                                                                                     \
             [] {                                                                                   \
                 return AskInto<Record>(                                                            \
@@ -234,7 +234,7 @@ const std::vector<OperationRow>& Rows()
         But(TRANSPARENT_ROW(SystemAbility, SystemDeviceCap, GetSystemDeviceAbility,
                             (out, err, kUser), "GET /TARN/System/capabilities\r\n"),
             [](OperationRow& row) {
-                row.document = "<DeviceCap/>";
+                row.document = "<DeviceCap><a/></DeviceCap>";
                 row.policy = {16384, 16384, 16384000, false, false};
             }),
         TRANSPARENT_ROW(SystemAbility, ClusterCapability, GetClusterCap, (out, err, kUser),

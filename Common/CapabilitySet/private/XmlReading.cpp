@@ -73,8 +73,10 @@ bool NextElementNamed(xmlNode*& cursor, const char* name)
 
 std::string_view TextOf(const xmlNode* node, std::string& spare)
 {
-    if (node == nullptr || node->children == nullptr)
+    if (node == nullptr)
         return {};
+    if (node->children == nullptr)
+        return View(node->type == XML_PI_NODE ? node->content : nullptr);
     if (IsOnePiece(node->children))
         return View(node->children->content);
     return Keep([node] { return xmlNodeGetContent(node); }, spare);
@@ -83,7 +85,8 @@ std::string_view TextOf(const xmlNode* node, std::string& spare)
 bool AttributeOf(const xmlNode* element, const char* name, std::string& spare,
                  std::string_view& value)
 {
-    const xmlAttr* attribute = element->properties;
+    // A compact tree keeps short texts where elements keep their attributes.
+    const xmlAttr* attribute = element->type == XML_ELEMENT_NODE ? element->properties : nullptr;
     while (attribute != nullptr && std::strcmp(Chars(attribute->name), name) != 0)
         attribute = attribute->next;
     if (attribute != nullptr && attribute->children == nullptr) {

@@ -9,6 +9,7 @@
 
 #include <libxml/globals.h>
 
+#include "CapabilitySet/private/NumberText.h"
 #include "CapabilitySet/private/XmlDocument.h"
 #include "CodePage/CodePage.h"
 
@@ -119,9 +120,17 @@ void AddChild(xmlNode* parent, xmlNode* child)
 
 std::string TextOfValue(double value)
 {
-    std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-    return {digits.data(), end.ptr};
+    constexpr int kStreamPrecision = 6;
+    // The largest number has 309 digits before the point, the smallest ones 340 behind it.
+    std::array<char, 384> digits;
+    char* const begin = digits.data();
+    const auto end = std::to_chars(begin, begin + digits.size(), value, std::chars_format::general,
+                                   kStreamPrecision);
+    const std::string text(begin, end.ptr);
+    if (StringToDouble(text) == value)
+        return text;
+    return {begin,
+            std::to_chars(begin, begin + digits.size(), value, std::chars_format::fixed).ptr};
 }
 
 std::string DumpDocument(xmlNode* root, const char* version)

@@ -50,7 +50,8 @@ std::string TextOfValue(Number value)
     return std::to_string(value);
 }
 
-/// Shortest form that reads back the same, whatever the client's locale.
+/// As a stream of the classic locale writes it; where its six digits would not read back the same,
+/// all digits of the plain decimal form.
 std::string TextOfValue(double value);
 
 template <class Record>
