@@ -1,11 +1,14 @@
 // Every fault of the table on every road it can take, with what comes out and that it struck.
 // SPDX-License-Identifier: Apache-2.0
+#include <fstream>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include "support/AllocationFaults.h"
 #include "support/FaultTable.h"
 
 namespace
@@ -211,27 +214,57 @@ private:
 
 class FaultTest : public testing::TestWithParam<FaultRow>
 {
+protected:
+    /// Hands `use` each script of the row on each subject, with the request of the subject.
+    template <class Use>
+    static void ForEachTry(const std::vector<Subject>& subjects, Use use)
+    {
+        const FaultRow& row = GetParam();
+        for (const Subject& subject : subjects) {
+            if (!subject.Is(row.roads))
+                continue;
+            SCOPED_TRACE(subject.name);
+            const ScriptedSdk& sdk = Start({Sound(subject)});
+            ASSERT_TRUE(subject.ask().success);
+            const std::string request = Try::RequestOf(sdk.calls.back());
+            for (const Steps& steps : row.play(subject)) {
+                SCOPED_TRACE(steps.back().answer.substr(0, 200));
+                use([&] { return Try(row, subject, steps).Run(request); });
+                if (HasFailure())
+                    return;
+            }
+        }
+    }
 };
 
 TEST_P(FaultTest, StrikesAndComesOutAsItShould)
 {
     const FaultRow& row = GetParam();
     std::size_t total = 0;
-    for (const Subject& subject : row.everyOperation ? AllOperations() : FamilyModels()) {
-        if (!subject.Is(row.roads))
-            continue;
-        SCOPED_TRACE(subject.name);
-        const ScriptedSdk& sdk = Start({Sound(subject)});
-        ASSERT_TRUE(subject.ask().success);
-        const std::string request = Try::RequestOf(sdk.calls.back());
-        for (const Steps& steps : row.play(subject)) {
-            SCOPED_TRACE(steps.back().answer.substr(0, 200));
-            total += Try(row, subject, steps).Run(request);
-            if (HasFailure())
-                return;
-        }
-    }
+    ForEachTry(row.everyOperation ? AllOperations() : FamilyModels(),
+               [&total](const auto& run) { total += run(); });
     EXPECT_GT(total, 0U) << "a fault that never happened proves nothing";
+}
+
+/// Bytes of the process's address space.
+std::size_t MappedBytes()
+{
+    std::size_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
+
+TEST_P(FaultTest, LeavesNoMemoryBehind)
+{
+    ForEachTry(FamilyModels(), [](const auto& run) {
+        run();  // what is made once is made now
+        const long blocks = LiveBlocks();
+        const std::size_t mapped = MappedBytes();
+        run();
+        EXPECT_EQ(LiveBlocks(), blocks);
+        // A sanitizer, which counts for itself, keeps what is freed.
+        EXPECT_TRUE(blocks == 0 || MappedBytes() < mapped + (8U << 20U));
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, FaultTest, testing::ValuesIn(Rows()),

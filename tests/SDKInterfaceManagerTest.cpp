@@ -98,6 +98,7 @@ TEST_F(Manager, OnlyABarePrefixHasAUrlType)
 TEST_F(Manager, EachWrapperPassesItsOwnBuffersAndTheLineAsItStands)
 {
     const std::string line = "no method, 50% \r\n";
+    status = "before";
     struct Row
     {
         const char* name;
@@ -135,12 +136,14 @@ TEST_F(Manager, EachWrapperPassesItsOwnBuffersAndTheLineAsItStands)
         EXPECT_EQ(seen.timeout, 7U);
         EXPECT_EQ(seen.flag, 1);
         EXPECT_TRUE(seen.isZeroed && seen.isWellFilled);
+        EXPECT_EQ(status, "before");
     }
 }
 
 TEST_F(Manager, TimeOutBeyondTheSdksRangeIsItsLongest)
 {
-    manager.TransparentRequsetGET(3, "GET /a", answer, status, ULONG_MAX, false);
+    manager.TransparentRequsetGET(0, "GET /a", answer, status, UINT_MAX + 1UL, false);
+    ASSERT_EQ(sdk.calls.size(), 1U) << "0 is a user";
     EXPECT_EQ(sdk.calls.front().timeout, UINT_MAX);
     EXPECT_EQ(sdk.calls.front().flag, 0);
 }

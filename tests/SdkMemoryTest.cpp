@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <curl/curl.h>
 #include <libxml/parser.h>
+#include <libxml/xmlerror.h>
 
 #include <array>
 #include <cstdlib>
@@ -120,15 +121,19 @@ TEST_P(SdkMemory, EachCallFailsWithANumberOrSucceedsWhereverAnAllocationFails)
         for (const bool andLater : {false, true}) {
             bool struck = true;
             for (std::size_t ordinal = 1; struck; ++ordinal) {
+                SCOPED_TRACE(testing::Message() << "allocation " << ordinal << " of kind " << which
+                                                << (andLater ? " and later" : ""));
                 Visit visit;
+                const long blocks = TestSupport::LiveBlocksOfThread();
                 {
                     const AllocationFault fault(which, ordinal, andLater);
                     visit = VisitDevice();
                     struck = AllocationFault::Struck();
                 }
-                SCOPED_TRACE(testing::Message() << "allocation " << ordinal << " of kind " << which
-                                                << (andLater ? " and later" : ""));
                 EXPECT_TRUE(visit.isAnswerRight && visit.isLoggedOut);
+                EXPECT_EQ(VisitDevice().errors, Visit::kExpected) << "the next visit";
+                xmlResetLastError();  // whose text is kept
+                EXPECT_LE(TestSupport::LiveBlocksOfThread(), blocks) << "memory that is not freed";
                 EXPECT_TRUE(andLater || visit.Failures() <= 1) << "one fault, many failures";
                 for (std::size_t i = 0; i < visit.errors.size(); ++i) {
                     const unsigned error = visit.errors[i];
@@ -144,7 +149,6 @@ TEST_P(SdkMemory, EachCallFailsWithANumberOrSucceedsWhereverAnAllocationFails)
             }
         }
     }
-    EXPECT_EQ(VisitDevice().errors, Visit::kExpected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Over, SdkMemory, testing::Values(Road::InProcess, Road::Http),

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/AllocationFaults.h"
 
+#include <atomic>
 #include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <new>
 
 #include <libxml/xmlmemory.h>
+#include <malloc.h>
+#include <unistd.h>
 
 /// Called while a sanitizer still sets itself up, before it can check anything.
 #define UNCHECKED __attribute__((no_sanitize("address", "undefined", "thread")))
@@ -49,7 +53,78 @@ UNCHECKED void* NoMemory()
     return nullptr;
 }
 
+std::atomic<long> liveBlocks{0};
+thread_local long liveBlocksOfThread = 0;
+
+void CountBlock(long change)
+{
+    liveBlocks.fetch_add(change, std::memory_order_relaxed);
+    liveBlocksOfThread += change;
+}
+
+/// Stands at the end of each block, behind bytes that nobody may write.
+struct Seal
+{
+    std::size_t size;
+    std::uintptr_t mark;
+};
+constexpr std::size_t kSealed = sizeof(Seal) + 8;
+constexpr unsigned char kUntold = 0xA5;
+
+unsigned char* SealOf(void* block)
+{
+    return static_cast<unsigned char*>(block) + malloc_usable_size(block) - sizeof(Seal);
+}
+
+std::uintptr_t MarkOf(const void* block)
+{
+    return reinterpret_cast<std::uintptr_t>(block) ^ 0x5EA1'5EA1'5EA1'5EA1U;
+}
+
+/// Takes a block that was asked for with kSealed bytes more.
+void* Sealed(void* block, std::size_t size)
+{
+    if (block == nullptr)
+        return nullptr;
+    unsigned char* const behind = static_cast<unsigned char*>(block) + size;
+    std::memset(behind, kUntold, static_cast<std::size_t>(SealOf(block) - behind));
+    const Seal seal{size, MarkOf(block)};
+    std::memcpy(SealOf(block), &seal, sizeof seal);
+    CountBlock(1);
+    return block;
+}
+
+/// Ends the program when something was written behind the block. What another function than those
+/// below has allocated bears no seal.
+void BreakSeal(void* block)
+{
+    Seal seal{};
+    if (block != nullptr)
+        std::memcpy(&seal, SealOf(block), sizeof seal);
+    if (block == nullptr || seal.mark != MarkOf(block))
+        return;
+    for (auto* at = static_cast<unsigned char*>(block) + seal.size; at != SealOf(block); ++at) {
+        if (*at != kUntold) {
+            constexpr char kWhy[] = "something was written behind the end of a block of memory\n";
+            static_cast<void>(!write(STDERR_FILENO, kWhy, sizeof kWhy - 1));
+            std::abort();
+        }
+    }
+    std::memset(SealOf(block), 0, sizeof seal);
+    CountBlock(-1);
+}
+
 }  // namespace
+
+long LiveBlocks()
+{
+    return liveBlocks.load(std::memory_order_relaxed);
+}
+
+long LiveBlocksOfThread()
+{
+    return liveBlocksOfThread;
+}
 
 AllocationFault::AllocationFault(Of which, std::size_t ordinal, bool andLater)
 {
@@ -103,31 +178,49 @@ extern "C"
     __attribute__((weak)) void* __interceptor_malloc(std::size_t size);
     __attribute__((weak)) void* __interceptor_calloc(std::size_t count, std::size_t size);
     __attribute__((weak)) void* __interceptor_realloc(void* block, std::size_t size);
+    __attribute__((weak)) void __interceptor_free(void* block);
     void* __libc_malloc(std::size_t size);
     void* __libc_calloc(std::size_t count, std::size_t size);
     void* __libc_realloc(void* block, std::size_t size);
+    void __libc_free(void* block);
 
     UNCHECKED void* malloc(std::size_t size)
     {
-        if (TestSupport::AllocationFault::Strikes(TestSupport::AllocationFault::Any))
-            return TestSupport::NoMemory();
-        return __interceptor_malloc != nullptr ? __interceptor_malloc(size) : __libc_malloc(size);
+        using namespace TestSupport;
+        if (AllocationFault::Strikes(AllocationFault::Any) || size > PTRDIFF_MAX)
+            return NoMemory();
+        return __interceptor_malloc != nullptr ? __interceptor_malloc(size)
+                                               : Sealed(__libc_malloc(size + kSealed), size);
     }
 
     UNCHECKED void* calloc(std::size_t count, std::size_t size)
     {
-        if (TestSupport::AllocationFault::Strikes(TestSupport::AllocationFault::Any))
-            return TestSupport::NoMemory();
+        using namespace TestSupport;
+        std::size_t all = 0;
+        if (AllocationFault::Strikes(AllocationFault::Any) ||
+            __builtin_mul_overflow(count, size, &all) || all > PTRDIFF_MAX)
+            return NoMemory();
         return __interceptor_calloc != nullptr ? __interceptor_calloc(count, size)
-                                               : __libc_calloc(count, size);
+                                               : Sealed(__libc_calloc(1, all + kSealed), all);
     }
 
     UNCHECKED void* realloc(void* block, std::size_t size)
     {
-        if (TestSupport::AllocationFault::Strikes(TestSupport::AllocationFault::Any))
-            return TestSupport::NoMemory();
-        return __interceptor_realloc != nullptr ? __interceptor_realloc(block, size)
-                                                : __libc_realloc(block, size);
+        using namespace TestSupport;
+        if (AllocationFault::Strikes(AllocationFault::Any) || size > PTRDIFF_MAX)
+            return NoMemory();
+        if (__interceptor_realloc != nullptr)
+            return __interceptor_realloc(block, size);
+        BreakSeal(block);
+        return Sealed(__libc_realloc(block, size + kSealed), size);
+    }
+
+    UNCHECKED void free(void* block)
+    {
+        if (__interceptor_free != nullptr)
+            return __interceptor_free(block);
+        TestSupport::BreakSeal(block);
+        __libc_free(block);
     }
 }
 // NOLINTEND(readability-identifier-naming,bugprone-reserved-identifier)
