@@ -164,6 +164,8 @@ TEST(CapabilityElementsTest, ListsTakeADefaultOnlyFromTheNodeTheyStartAt)
     RangeElement twice(XmlTree(Element("", "<Range>1,2</Range>")).First());
     twice.Parse(XmlTree(Element("", "<Range>3</Range>")).First());
     EXPECT_THAT(twice.range, ElementsAre(3)) << "cleared when there is another list";
+    twice.Parse(nullptr);
+    EXPECT_THAT(twice.range, ElementsAre(3));
 }
 
 TEST(CapabilityElementsTest, BoundsAndListTogetherNeverGiveTheListADefault)
@@ -183,6 +185,7 @@ TEST(CapabilityElementsTest, BoundsAndListTogetherNeverGiveTheListADefault)
         {bounds + "<Default>5</Default>", true, {}},
         {"<Range>3</Range>" + bounds, true, {}},  // the list stands where the bounds are due
         {"<Range>3</Range><x/>" + bounds, true, {}},
+        {"<Min>1</Min><Range>3</Range><Max>9</Max>", true, {}},
         {"<Min>1</Min><Range>3</Range>", false, {3}},
         {"<Default>5</Default><Range>3</Range><Min>1</Min>", false, {3}},
         {"", false, {}},

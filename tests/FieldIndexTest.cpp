@@ -9,11 +9,14 @@
 
 #include <gtest/gtest.h>
 
+#include "CapabilitySet/private/JsonReading.h"
+#include "CapabilitySet/private/MemberIndex.h"
 #include "CapabilitySet/private/XmlReading.h"
 
 namespace
 {
 
+using namespace CapabilitySet;
 using namespace CapabilitySet::xml;
 
 struct FreeNode
@@ -140,9 +143,31 @@ TEST_F(FieldIndexTest, KnowsItsNamesAndNoOthers)
         ASSERT_EQ(index_.Find(names_[field].c_str()), field);
     for (const char* other : {"", "f", "F0", "f300", "f00", "g1"})
         EXPECT_EQ(index_.Find(other), FieldIndex::kNone) << other;
+    // Names that the hash cannot tell apart: alike in length and at both ends.
+    FieldIndex alike;
+    alike.Add("LineCodingEnableChange", false);
+    alike.Finish();
+    EXPECT_EQ(alike.Find("LineCodXXXEnableChange"), FieldIndex::kNone);
     FieldIndex empty;
     empty.Finish();
     EXPECT_EQ(empty.Find("f0"), FieldIndex::kNone);
+}
+
+TEST_F(FieldIndexTest, FindsTheMembersOfVeryLargeJsonRecords)
+{
+    constexpr std::size_t kFields = 200;
+    MakeIndex(kFields, 0);
+    json::MemberIndex index;
+    Json::Value object;
+    for (std::size_t field = 0; field < kFields; ++field) {
+        index.Add(names_[field]);
+        if (field % 3 != 0)
+            object[names_[field]] = static_cast<unsigned>(field);
+    }
+    index.Finish();
+    const json::MemberMatches matches(index, object);
+    for (std::size_t field = 0; field < kFields; ++field)
+        EXPECT_EQ(matches[field], json::MemberOf(object, names_[field]));
 }
 
 }  // namespace

@@ -77,6 +77,8 @@ std::vector<std::string> BadDocuments()
             scopes += " xmlns:n" + std::to_string(200 * depth + i) + "='u'";
         scopes += ">";
     }
+    for (int depth = 0; depth < 6; ++depth)
+        scopes += "</r>";
     std::string declared = "<!DOCTYPE r [<!ATTLIST b";
     for (int i = 0; i < 100; ++i)
         declared += " a" + std::to_string(i) + " CDATA '" + std::string(100, 'x') + "'";
@@ -131,6 +133,7 @@ TEST(XmlDocumentTest, NamesTheGuardThatRefused)
         {"<!DOCTYPE r [\n<!ENTITY e 'x'>]><r/>", "2: The document declares entities"},
         {BadDocuments()[14], "1: An element has more than 1000 attributes"},
         {BadDocuments()[15], "0: An element has more than 1000 attributes"},
+        {BadDocuments()[16], "1: An element has more than 1000 attributes"},
         {BadDocuments()[17], "1: The document declares values for too many attributes"},
         {std::string(), "0: "}};
     for (const auto& [document, problem] : cases)
@@ -151,8 +154,12 @@ TEST(XmlDocumentTest, AcceptsWhatOnlyLooksLikeAFlood)
     std::string quotes;
     for (int i = 0; i < 3000; ++i)
         quotes += "\"member" + std::to_string(i) + "\": \"value of it\", ";
-    for (const std::string& document : {"<r><![CDATA[{" + quotes + "}]]></r>",
-                                        "<r><!-- " + quotes + " --></r>", "<r>" + quotes + "</r>"})
+    std::string most = "<r";
+    for (int i = 0; i < 1000; ++i)
+        most += " a" + std::to_string(i) + "='1'";
+    for (const std::string& document :
+         {"<r><![CDATA[{" + quotes + "}]]></r>", "<r><!-- " + quotes + " --></r>",
+          "<r>" + quotes + "</r>", most + "/>", most + ">" + std::string(70'000, 'x') + "</r>"})
         EXPECT_EQ(Parsed(document), ParsedByLibrary(document, Form::Plain));
     // A long text that is no document at all is told by the parser's own words.
     const std::string json = "{" + quotes + "}";

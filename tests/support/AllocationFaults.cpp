@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/AllocationFaults.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdint>
@@ -70,6 +71,9 @@ struct Seal
 };
 constexpr std::size_t kSealed = sizeof(Seal) + 8;
 constexpr unsigned char kUntold = 0xA5;
+/// What the beginning of a block holds before it is written and after it was freed.
+constexpr int kJunk = 0xE5;
+constexpr std::size_t kMostJunk = 64 * 1024;
 
 unsigned char* SealOf(void* block)
 {
@@ -79,6 +83,13 @@ unsigned char* SealOf(void* block)
 std::uintptr_t MarkOf(const void* block)
 {
     return reinterpret_cast<std::uintptr_t>(block) ^ 0x5EA1'5EA1'5EA1'5EA1U;
+}
+
+void* Junk(void* block, std::size_t size)
+{
+    if (block != nullptr)
+        std::memset(block, kJunk, std::min(size, kMostJunk));
+    return block;
 }
 
 /// Takes a block that was asked for with kSealed bytes more.
@@ -94,15 +105,15 @@ void* Sealed(void* block, std::size_t size)
     return block;
 }
 
-/// Ends the program when something was written behind the block. What another function than those
-/// below has allocated bears no seal.
-void BreakSeal(void* block)
+/// Ends the program when something was written behind the block; gives its size, 0 for one that
+/// another function than those below has allocated, since it bears no seal.
+std::size_t BreakSeal(void* block)
 {
     Seal seal{};
     if (block != nullptr)
         std::memcpy(&seal, SealOf(block), sizeof seal);
     if (block == nullptr || seal.mark != MarkOf(block))
-        return;
+        return 0;
     for (auto* at = static_cast<unsigned char*>(block) + seal.size; at != SealOf(block); ++at) {
         if (*at != kUntold) {
             constexpr char kWhy[] = "something was written behind the end of a block of memory\n";
@@ -112,6 +123,7 @@ void BreakSeal(void* block)
     }
     std::memset(SealOf(block), 0, sizeof seal);
     CountBlock(-1);
+    return seal.size;
 }
 
 }  // namespace
@@ -189,8 +201,9 @@ extern "C"
         using namespace TestSupport;
         if (AllocationFault::Strikes(AllocationFault::Any) || size > PTRDIFF_MAX)
             return NoMemory();
-        return __interceptor_malloc != nullptr ? __interceptor_malloc(size)
-                                               : Sealed(__libc_malloc(size + kSealed), size);
+        return __interceptor_malloc != nullptr
+                   ? __interceptor_malloc(size)
+                   : Sealed(Junk(__libc_malloc(size + kSealed), size), size);
     }
 
     UNCHECKED void* calloc(std::size_t count, std::size_t size)
@@ -211,7 +224,7 @@ extern "C"
             return NoMemory();
         if (__interceptor_realloc != nullptr)
             return __interceptor_realloc(block, size);
-        BreakSeal(block);
+        static_cast<void>(BreakSeal(block));
         return Sealed(__libc_realloc(block, size + kSealed), size);
     }
 
@@ -219,7 +232,7 @@ extern "C"
     {
         if (__interceptor_free != nullptr)
             return __interceptor_free(block);
-        TestSupport::BreakSeal(block);
+        TestSupport::Junk(block, TestSupport::BreakSeal(block));
         __libc_free(block);
     }
 }
