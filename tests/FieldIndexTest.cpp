@@ -147,7 +147,7 @@ TEST_F(FieldIndexTest, KnowsItsNamesAndNoOthers)
     FieldIndex alike;
     alike.Add("LineCodingEnableChange", false);
     alike.Finish();
-    EXPECT_EQ(alike.Find("LineCodXXXEnableChange"), FieldIndex::kNone);
+    EXPECT_EQ(alike.Find("LineCodiXXXXXXleChange"), FieldIndex::kNone);
     FieldIndex empty;
     empty.Finish();
     EXPECT_EQ(empty.Find("f0"), FieldIndex::kNone);
@@ -155,19 +155,20 @@ TEST_F(FieldIndexTest, KnowsItsNamesAndNoOthers)
 
 TEST_F(FieldIndexTest, FindsTheMembersOfVeryLargeJsonRecords)
 {
-    constexpr std::size_t kFields = 200;
-    MakeIndex(kFields, 0);
-    json::MemberIndex index;
-    Json::Value object;
-    for (std::size_t field = 0; field < kFields; ++field) {
-        index.Add(names_[field]);
-        if (field % 3 != 0)
-            object[names_[field]] = static_cast<unsigned>(field);
+    for (const std::size_t fields : {64U, 65U, 70U, 200U}) {
+        MakeIndex(fields, 0);
+        json::MemberIndex index;
+        Json::Value object;
+        for (std::size_t field = 0; field < fields; ++field) {
+            index.Add(names_[field]);
+            if (field % 3 != 0)
+                object[names_[field]] = static_cast<unsigned>(field);
+        }
+        index.Finish();
+        const json::MemberMatches matches(index, object);
+        for (std::size_t field = 0; field < fields; ++field)
+            EXPECT_EQ(matches[field], json::MemberOf(object, names_[field]));
     }
-    index.Finish();
-    const json::MemberMatches matches(index, object);
-    for (std::size_t field = 0; field < kFields; ++field)
-        EXPECT_EQ(matches[field], json::MemberOf(object, names_[field]));
 }
 
 }  // namespace

@@ -110,10 +110,10 @@ struct LastUser
     LastUser() = default;
     ~LastUser()
     {
-        const bool isTold = kept->getCompanyNameByMAc("405582") == "nokia" &&
-                            CMacCompanyHelper().getCompanyNameByMAc("405582") == "nokia";
-        kept.reset();
-        std::_Exit(isTold ? 7 : 2);
+        const bool isTold = kept->getCompanyNameByMAc("405582") == "nokia";
+        kept.reset();  // the last that held the table
+        const bool isToldAnew = CMacCompanyHelper().getCompanyNameByMAc("405582") == "nokia";
+        std::_Exit(isTold && isToldAnew ? 7 : 2);
     }
     LastUser(const LastUser&) = delete;
     LastUser& operator=(const LastUser&) = delete;

@@ -42,7 +42,7 @@ struct Sizes
 inline Outcome Ask(int userID, std::string line, std::string body = "", Sizes sizes = {})
 {
     std::string buffer(sizes.answer, '\x7f');
-    std::string status(sizes.status, '\0');
+    std::string status(sizes.status, '\x7f');
     tagNET_ORB_XML_CONFIG_INPUT input{};
     input.size = sizeof input;
     input.requestUrl = line.data();
