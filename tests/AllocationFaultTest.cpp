@@ -205,6 +205,22 @@ TEST(AllocationFaultTest, AnXmlDocumentIsReadInPartsAndABodyWhole)
     });
 }
 
+/// Converted while it is read, by libxml2 itself or with iconv; in a piece, or growing.
+TEST(AllocationFaultTest, AConvertedDocumentIsReadInParts)
+{
+    using Record = BasicCapability;
+    Points points;
+    for (const std::string head :
+         {"\xEF\xBB\xBF", "<?xml version='1.0' encoding='GBK'?>",
+          "<?xml version='1.0' encoding='ISO-8859-1'?>", "<?xml encoding='US-ASCII'?>"}) {
+        for (const std::size_t filler : {0, 40'000}) {
+            const std::string comment = "<!--" + std::string(filler, 'x') + "-->";
+            const std::string root = Element(RootOf<Record>(), {{}, comment + AllFields<Record>()});
+            points.Add("converted documents", CheckParse<Record>(head + root));
+        }
+    }
+}
+
 TEST(AllocationFaultTest, AJsonDocumentIsReadInPartsAndABodyWhole)
 {
     Points points;

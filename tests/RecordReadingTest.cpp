@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -225,12 +226,18 @@ public:
 
 TEST_P(RecordReadingTest, ASampleCutAtAnyByteIsReadAsAPlainReaderReadsIt)
 {
+    // The time grows with the square of the length: a document beyond this that several records
+    // read is cut everywhere for the first of them, and in so many places for the others.
+    constexpr std::size_t kLong = 1024;
+    std::set<std::string> cutEverywhere;
     std::size_t texts = 0;
     for (const Row& row : Rows()) {
         Comparison comparison(row);
         for (const std::string& sample : row.samples) {
             const std::size_t end = sample.find_last_of(row.isJson ? "}]" : ">");
-            for (std::size_t size = 0; size <= sample.size(); ++size) {
+            const std::size_t step =
+                cutEverywhere.insert(sample).second ? 1 : 1 + sample.size() / kLong;
+            for (std::size_t size = 0; size <= sample.size(); size += step) {
                 const std::string text = sample.substr(0, size);
                 if (size <= end)
                     comparison.CheckPart(text);
