@@ -5,7 +5,6 @@
 #include <array>
 #include <climits>
 #include <functional>
-#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -282,24 +281,20 @@ TEST_F(Manager, OneTextMayHoldTheRequestAndTakeTheAnswer)
 TEST_F(Manager, FailingMemoryIsAnErrorAndNeverAHalfAnswer)
 {
     const std::string line = "GET /TARN/a/line/that/is/longer/than/any/short/string\r\n";
-    for (const bool andLater : {false, true}) {
-        for (std::size_t ordinal = 1;; ++ordinal) {
-            ASSERT_LT(ordinal, 100U);
+    const auto ask = [&] {
+        {
+            const TestSupport::NoAllocationFaults pause;
             Script({{.error = 43, .returnedSize = 5000}, {.answer = "whole", .returnedSize = 5}});
+            sdk.keepsCalls = false;
             answer = "an answer from before, long enough for memory of its own";
-            InterfaceRet result;
-            bool struck = false;
-            {
-                const AllocationFault fault(AllocationFault::New, ordinal, andLater);
-                result = Get(line);
-                struck = AllocationFault::Struck();
-            }
-            if (!struck)
-                break;
-            EXPECT_TRUE(result == kDone || result == (InterfaceRet{false, 2, 23})) << ordinal;
-            EXPECT_TRUE(!result.success || answer == "whole") << ordinal;
         }
-    }
+        return Get(line);
+    };
+    ask();
+    TestSupport::FailEachAllocation(ask, [&](const InterfaceRet& result, bool struck) {
+        EXPECT_TRUE(result == kDone || (struck && result == (InterfaceRet{false, 2, 23})));
+        EXPECT_TRUE(!result.success || answer == "whole");
+    });
 }
 
 TEST_F(Manager, CallBackForWhichThereIsNoMemoryIsNotInstalledAndNothingIsThrown)
@@ -314,29 +309,6 @@ TEST_F(Manager, CallBackForWhichThereIsNoMemoryIsNotInstalledAndNothingIsThrown)
     }
     Get();
     EXPECT_THAT(sdkErrors, ElementsAre(7));
-}
-
-TEST_F(Manager, OneManagerServesManyThreads)
-{
-    manager.setSDKErrorProcessCallBack({});
-    Script({{.answer = "whole", .returnedSize = 5}}).keepsCalls = false;
-    std::vector<std::thread> threads;
-    std::vector<int> wrong(8, 0);
-    for (int& count : wrong) {
-        threads.emplace_back([&count, this] {
-            for (int i = 0; i < 100; ++i) {
-                std::string own;
-                std::string noStatus = "0";
-                SDKInterfaceManager& shared = SDKInterfaceManager::instance();
-                const InterfaceRet result =
-                    shared.TransparentRequsetGET(3, "GET /x", own, noStatus, 0, false);
-                count += &shared != &manager || !(result == kDone) || own != "whole" ? 1 : 0;
-            }
-        });
-    }
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_THAT(wrong, testing::Each(0));
 }
 
 }  // namespace
