@@ -62,6 +62,11 @@ TEST(PTZPresetCfgTest, ReadsPresetsOfBothKindsInTheDocumentsOrder)
     placed.Parse(document);
     plain.Parse(document);
     EXPECT_EQ(placed.presets.size() + plain.presets.size(), 12U) << "lists are appended to";
+
+    plain.Parse("<PTZPresetList><PTZPreset/><PTZPreset><id>3</id></PTZPreset></PTZPresetList>");
+    ASSERT_EQ(plain.presets.size(), 8U);
+    EXPECT_FALSE(plain.presets[6].capable);
+    EXPECT_EQ(plain.presets[7].id, "3");
 }
 
 TEST(PTZPresetCfgTest, ReadsPatternsAndPatrols)
@@ -95,7 +100,7 @@ TEST(PTZPresetCfgTest, ReadsPatternsAndPatrols)
 }
 
 template <class List>
-void TellsOnlyOfMalformedTexts(const char* root)
+void TellsOnlyOfMalformedTexts(const char* root, const std::string& tag = "[pmv-v2.0.0]")
 {
     SCOPED_TRACE(root);
     const LogCapture log;
@@ -105,26 +110,30 @@ void TellsOnlyOfMalformedTexts(const char* root)
     EXPECT_THAT(log.Messages(), IsEmpty());
     list.Parse("<" + std::string(root) + ">\n<a>");
     ASSERT_EQ(log.Messages().size(), 1U);
-    EXPECT_THAT(log.Messages()[0], StartsWith("[pmv-v2.0.0]Cann't parse the XML, The error is at "
-                                              "line[2], the error message is ["));
+    EXPECT_THAT(log.Messages()[0], StartsWith(tag + "Cann't parse the XML, The error is at "
+                                                    "line[2], the error message is ["));
 }
 
 TEST(PTZPresetCfgTest, AWrongRootIsSilentAndAMalformedTextIsOneLine)
 {
-    TellsOnlyOfMalformedTexts<CPTZPresetListCfg>("PTZPresetList");
+    TellsOnlyOfMalformedTexts<CPTZPresetListCfg>("PTZPresetList", "");
     TellsOnlyOfMalformedTexts<CVelTarnPTZPresetList>("PTZPresetList");
     TellsOnlyOfMalformedTexts<CVelTarnPTZPatternList>("PTZPatternList");
     TellsOnlyOfMalformedTexts<CVelTarnPTZPatrolList>("PTZPatrolList");
     TellsOnlyOfMalformedTexts<CVelTarnPTZPatrol>("PTZPatrol");
 }
 
-TEST(PTZPresetCfgTest, TakesEveryTextForUtf8WhateverItDeclares)
+TEST(PTZPresetCfgTest, TakesEveryTextButThePlainListForUtf8WhateverItDeclares)
 {
-    const CPTZPresetListCfg list(
-        "<?xml version='1.0' encoding='ISO-8859-1'?><PTZPresetList><PTZPreset><presetName>\xC3\xA9"
-        "</presetName></PTZPreset></PTZPresetList>");
-    ASSERT_EQ(list.presets.size(), 1U);
-    EXPECT_EQ(list.presets[0].presetName, "\xC3\xA9");
+    const std::string document =
+        "<?xml version='1.0' encoding='ISO-8859-1'?><PTZPresetList><PTZPreset><id>\xC3\xA9</id>"
+        "</PTZPreset></PTZPresetList>";
+    const CVelTarnPTZPresetList placed(document);
+    ASSERT_EQ(placed.presets.size(), 1U);
+    EXPECT_EQ(placed.presets[0].id, "\xC3\xA9");
+    const CPTZPresetListCfg plain(document);
+    ASSERT_EQ(plain.presets.size(), 1U);
+    EXPECT_EQ(plain.presets[0].id, "\xC3\x83\xC2\xA9");
 }
 
 struct EmptyItemRow
@@ -141,12 +150,12 @@ void Read(const std::string& text)
 }
 
 const EmptyItemRow kEmptyItems[] = {
-    {"<PTZPresetList><PTZPreset/></PTZPresetList>", true, Read<CPTZPresetListCfg>},
+    {"<PTZPresetList><PTZPreset/></PTZPresetList>", true, Read<CVelTarnPTZPresetList>},
     {"<PTZPresetList><PTZPreset><id/></PTZPreset><PTZPreset></PTZPreset></PTZPresetList>", true,
      Read<CVelTarnPTZPresetList>},
     {"<PTZPatternList><PTZPattern a='1'/></PTZPatternList>", true, Read<CVelTarnPTZPatternList>},
     {"<PTZPatrolList><x/><PTZPatrol/></PTZPatrolList>", true, Read<CVelTarnPTZPatrolList>},
-    {"<PTZPresetList><PTZPattern/></PTZPresetList>", false, Read<CPTZPresetListCfg>},
+    {"<PTZPresetList><PTZPattern/></PTZPresetList>", false, Read<CVelTarnPTZPresetList>},
     {"<PTZPresetList><x><PTZPreset/></x></PTZPresetList>", false, Read<CVelTarnPTZPresetList>},
     {"<PTZPatternList><PTZPattern> </PTZPattern></PTZPatternList>", false,
      Read<CVelTarnPTZPatternList>},
@@ -154,8 +163,8 @@ const EmptyItemRow kEmptyItems[] = {
      Read<CVelTarnPTZPatrolList>},
     {"<PTZPatrol><PatrolSequenceList><PatrolSequence/></PatrolSequenceList></PTZPatrol>", false,
      Read<CVelTarnPTZPatrol>},
-    {"<PTZPresetList><PTZPreset/>", false, Read<CPTZPresetListCfg>},
-    {"", false, Read<CPTZPresetListCfg>}};
+    {"<PTZPresetList><PTZPreset/>", false, Read<CVelTarnPTZPresetList>},
+    {"", false, Read<CVelTarnPTZPresetList>}};
 
 /// Reads in this process, a child, which ends after a third of a second if not before.
 void ReadWithin(const EmptyItemRow& row)

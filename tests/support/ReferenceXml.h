@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include <libxml/parser.h>
@@ -384,7 +385,7 @@ bool HasEmptyItem(const xmlNode* firstChild, Record& record)
 
 using Tree = std::unique_ptr<xmlDoc, void (*)(xmlDoc*)>;
 
-/// The lists of pan-tilt-zoom channels are read as UTF-8, without blank texts.
+/// The lists of pan-tilt-zoom channels but one are read as UTF-8, without blank texts.
 inline Tree Parse(const std::string& text, bool isBlankFree)
 {
     xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
@@ -409,14 +410,20 @@ template <class Record>
 Document ReadDocument(const std::string& text, const char* rootName, Record& record)
 {
     constexpr bool kIsTree = std::derived_from<Record, CapabilitySet::AbilityDocument>;
-    const bool isBlankFree = !kIsTree && std::string_view(rootName).substr(0, 3) == "PTZ";
+    constexpr bool kIsPlainList = std::is_same_v<Record, CapabilitySet::CPTZPresetListCfg>;
+    const bool isBlankFree =
+        !kIsTree && !kIsPlainList && std::string_view(rootName).substr(0, 3) == "PTZ";
     const Tree tree = Parse(text, isBlankFree);
     const xmlNode* root = tree == nullptr ? nullptr : xmlDocGetRootElement(tree.get());
     if (!Find(root, rootName))
         return Document::None;
     if constexpr (kIsTree) {
-        Read(root, record.root);
-        record.capable = true;
+        CapabilitySet::AbilityElement read;
+        Read(root, read);
+        if (!read.children.empty()) {
+            record.root = std::move(read);
+            record.capable = true;
+        }
     } else {
         if (isBlankFree && HasEmptyItem(root->children, record))
             return Document::Endless;

@@ -127,7 +127,8 @@ void CPTZPresetCfg::Parse(_xmlNode* firstChild)
 
 void CPTZPresetListCfg::Parse(const std::string& text)
 {
-    ParseList<CPTZPresetListCfg>(text, presets, kPresets.item, CAPABILITYSET_HERE);
+    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE, xml::Form::Plain,
+                       {.tellMismatch = false});
 }
 
 void CVelTarnPTZPresetInfo::Parse(_xmlNode* firstChild)

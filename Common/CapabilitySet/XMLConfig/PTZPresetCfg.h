@@ -17,14 +17,15 @@ namespace CapabilitySet
 // appended to, never cleared. A malformed text leaves a list as it was after one error line; a
 // text with another root leaves it so silently.
 //
-// Clients rely on the list readers' order of steps, in which the cursor moves on only after an
-// item that has children: an item without any ("<PTZPreset/>") makes the readers of
-// CPTZPresetListCfg, CVelTarnPTZPresetList, CVelTarnPTZPatternList and CVelTarnPTZPatrolList
-// search for ever. A caller that does not trust a device asks HasEmptyItem first.
+// Clients rely on the order of steps of the readers of CVelTarnPTZPresetList,
+// CVelTarnPTZPatternList and CVelTarnPTZPatrolList, in which the cursor moves on only after an item
+// that has children: an item without any ("<PTZPreset/>") makes them search for ever. A caller that
+// does not trust a device asks HasEmptyItem first. These three and CVelTarnPTZPatrol take every
+// text for UTF-8, whatever it declares.
 
-/// Whether a preset, pattern or patrol list holds an item without children, on which its reader
-/// would never end. False for a text that is no such list. Never throws; a text that cannot be
-/// judged for want of memory counts as one with an empty item.
+/// Whether a preset, pattern or patrol list holds an item without children, on which the readers
+/// named above would never end. False for a text that is no such list. Never throws; a text that
+/// cannot be judged for want of memory counts as one with an empty item.
 CAPABILITYSET_API bool HasEmptyItem(const std::string& text);
 
 /// One preset of the preset configuration list.
@@ -51,7 +52,8 @@ struct CAPABILITYSET_API CPTZPresetCfg : CBaseCapability
     }
 };
 
-/// The preset configuration list, root "PTZPresetList".
+/// The preset configuration list, root "PTZPresetList". An item without children is a preset of
+/// defaults.
 struct CAPABILITYSET_API CPTZPresetListCfg
 {
     static constexpr const char* kRoot = "PTZPresetList";
