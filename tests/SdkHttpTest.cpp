@@ -54,18 +54,22 @@ ScriptedServer::Script AfterLogin(ScriptedServer::Script script)
     };
 }
 
-/// A server that wants a digest and takes any.
+/// A server that wants a digest and takes any. It is fond of long headers.
 ScriptedServer::Script Digest(std::string body)
 {
     return [body = std::move(body)](const std::string& request, int) {
-        return Reply{Holds(request, "Authorization: Digest") ? HttpAnswer(200, body)
-                                                             : HttpAnswer(401, "", kDigest)};
+        return Reply{Holds(request, "Authorization: Digest")
+                         ? HttpAnswer(200, body, "X-More: " + std::string(4000, 'x') + "\r\n")
+                         : HttpAnswer(401, "", kDigest)};
     };
 }
 
 class SdkHttp : public testing::Test
 {
 protected:
+    /// Nothing that the environment says of proxies concerns a device.
+    SdkHttp() { setenv("http_proxy", "http://127.0.0.1:1", 1); }
+
     /// What a login at the server would need; the server outlives it.
     const tagNET_ORB_LOGIN_INFO& At(const ScriptedServer& server)
     {
@@ -142,7 +146,8 @@ TEST_F(SdkHttp, RequestLineTravelsAsItStandsAndSmugglesNothing)
             EXPECT_THAT(requests.back(), StartsWith(c.wire));
         }
     }
-    Ask(device.UserID(), "PUT /TARN/a?format=json", std::string(100'000, ' ') + "{}");
+    // So large that libcurl by itself would ask first.
+    Ask(device.UserID(), "PUT /TARN/a?format=json", std::string(2'000'000, ' ') + "{}");
     EXPECT_THAT(server.Requests().back(), HasSubstr("Content-Type: application/json"));
     EXPECT_EQ(CountOf(server, "Expect:"), 0U);
     EXPECT_EQ(CountOf(server, "Authorization:"), 0U);
@@ -320,6 +325,7 @@ TEST_F(SdkHttp, RefusalsAreTold)
         {404, "gone", NET_ORB_NOSUPPORT, 0},
         {405, "", NET_ORB_NOSUPPORT, 0},
         {503, "", NET_ORB_DEVICE_BUSY, 0},
+        {300, "", NET_ORB_NETWORK_ERRORDATA, 0},
         {500, std::string(200, '{'), NET_ORB_DEVICE_REFUSED, 0},
         {500, "<!DOCTYPE r [<!ENTITY e SYSTEM 'file:///etc/passwd'>]>" + xml("&e;", "7"),
          NET_ORB_DEVICE_REFUSED, 0},
@@ -507,6 +513,10 @@ TEST_F(SdkHttp, CertificatesAreChecked)
     EXPECT_EQ(server.Requests().size(), 0U) << "nothing is sent to a stranger";
     info_.certificateFile = fileName.c_str();
     EXPECT_EQ(LoginError(server), 0U) << "and over TLS Basic is acceptable";
+    address_.replace(address_.find("127.0.0.1"), 9, "localhost");
+    info_.address = address_.c_str();
+    EXPECT_EQ(NET_ORB_Login(&info_), -1);
+    EXPECT_EQ(NET_ORB_GetLastError(), NET_ORB_CERTIFICATE_ERROR) << "of another host";
     info_.certificateFile = "/no/such/file.pem";
     EXPECT_EQ(LoginError(server), NET_ORB_PARAMETER_ERROR);
     info_.certificateFile = nullptr;
