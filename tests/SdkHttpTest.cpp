@@ -219,6 +219,8 @@ TEST_F(SdkHttp, WrongPasswordIsTriedOnce)
     const std::size_t before = server.Requests().size();
     EXPECT_EQ(Ask(device.UserID(), "GET /TARN/a").error, NET_ORB_PASSWORD_ERROR);
     EXPECT_LE(server.Requests().size(), before + 3) << "with the old nonce, without, with the new";
+    EXPECT_EQ(Ask(device.UserID(), "GET /TARN/b").error, NET_ORB_PASSWORD_ERROR);
+    EXPECT_EQ(CountOf(server, "GET /TARN/b"), 2U) << "the old nonce is not tried again";
 }
 
 TEST_F(SdkHttp, BasicIsSentOnlyWhenAllowedAndAskedFor)
@@ -241,6 +243,12 @@ TEST_F(SdkHttp, BasicIsSentOnlyWhenAllowedAndAskedFor)
     });
     EXPECT_EQ(LoginError(both), 0U) << "digest is preferred";
     EXPECT_EQ(CountOf(both, "Authorization: Basic"), 0U);
+
+    const ScriptedServer neither([](const auto&, int) {
+        return Reply{HttpAnswer(401, "", "WWW-Authenticate: Bearer\r\n")};
+    });
+    EXPECT_EQ(LoginError(neither), NET_ORB_PASSWORD_ERROR);
+    EXPECT_EQ(CountOf(neither, "Authorization:"), 0U);
 }
 
 TEST_F(SdkHttp, LoginWantsADeviceNotJustAnyWebServer)
@@ -298,6 +306,7 @@ TEST_F(SdkHttp, RefusalsAreTold)
         std::string body;
         unsigned error;
         int modelCode;
+        int deviceCode = 0;
     };
     const auto xml = [](const std::string& sub, const std::string& code) {
         return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ResponseStatus version=\"2.0\" "
@@ -322,6 +331,10 @@ TEST_F(SdkHttp, RefusalsAreTold)
         {403, xml("notSupport", "4194305"), NET_ORB_NOSUPPORT, 0x400001},
         {403, xml("lowPrivilege", "1"), NET_ORB_NOENOUGHPRI, 1},
         {400, xml("invalidChannel", "5"), NET_ORB_CHANNEL_ERROR, 5},
+        {400,
+         "<ResponseStatus><errorCode>9</errorCode><MErrDevSelfEx>12</MErrDevSelfEx>"
+         "</ResponseStatus>",
+         NET_ORB_DEVICE_REFUSED, 9, 12},
         {404, "gone", NET_ORB_NOSUPPORT, 0},
         {405, "", NET_ORB_NOSUPPORT, 0},
         {503, "", NET_ORB_DEVICE_BUSY, 0},
@@ -342,6 +355,7 @@ TEST_F(SdkHttp, RefusalsAreTold)
         const std::string label = c.body.substr(0, 200);
         EXPECT_EQ(outcome.error, c.error) << c.status << ' ' << label;
         EXPECT_EQ(outcome.modelCode, c.modelCode) << c.status << ' ' << label;
+        EXPECT_EQ(outcome.deviceCode, c.deviceCode) << c.status << ' ' << label;
         EXPECT_EQ(outcome.status, c.body.substr(0, 512));
         EXPECT_EQ(outcome.returnedSize, std::min<std::size_t>(512, c.body.size()));
     }

@@ -261,6 +261,11 @@ TEST_F(SdkSim, LoginTellsWrongProfileAndWrongPasswordApart)
     Write("manifest.json", "{");
     EXPECT_EQ(NET_ORB_Login(&info_), -1);
     EXPECT_STRNE(NET_ORB_GetLastErrorDetail(), "") << "what is wrong with the manifest";
+    info_.address = (address_ += std::string(1000, 'x')).c_str();
+    EXPECT_EQ(NET_ORB_Login(&info_), -1);
+    EXPECT_EQ(std::string(NET_ORB_GetLastErrorDetail()).size(), 255U) << "as much as there is room";
+    EXPECT_EQ(NET_ORB_Logout(-1), 0);
+    EXPECT_STREQ(NET_ORB_GetLastErrorDetail(), "") << "of the last failure, not of an older one";
 }
 
 TEST_F(SdkSim, UserIDsAreBoundedAndReusedLate)

@@ -17,6 +17,7 @@ struct Outcome
     bool success = false;
     unsigned error = 0;  ///< 0 on success
     int modelCode = 0;
+    int deviceCode = 0;
     unsigned returnedSize = 0;
     std::string answer;  ///< the buffer's first returnedSize bytes on success
     std::string status;  ///< the status buffer up to its first NUL
@@ -25,9 +26,8 @@ struct Outcome
 inline Outcome FailureOf(Outcome outcome)
 {
     if (!outcome.success) {
-        int deviceCode = 0;
         outcome.error = NET_ORB_GetLastError();
-        NET_ORB_GetLastErrorModelCode(&outcome.modelCode, &deviceCode);
+        NET_ORB_GetLastErrorModelCode(&outcome.modelCode, &outcome.deviceCode);
     }
     return outcome;
 }
