@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/XmlDocument.h"
 
-#include <cstring>
+#include <climits>
 #include <new>
 #include <string_view>
 
@@ -12,6 +12,7 @@
 
 #include "CapabilitySet/private/AttributeFlood.h"
 #include "CapabilitySet/private/QuietLibxml.h"
+#include "CapabilitySet/private/XmlEncoding.h"
 
 namespace CapabilitySet::xml
 {
@@ -104,7 +105,8 @@ Context NewContext(Form form)
         throw std::bad_alloc();
     // Set whatever the client's global defaults say, so that they are not obeyed.
     const bool blankFree = form == Form::BlankFree;
-    context->options = XML_PARSE_COMPACT | (blankFree ? XML_PARSE_NOBLANKS : 0);
+    context->options =
+        XML_PARSE_COMPACT | XML_PARSE_IGNORE_ENC | (blankFree ? XML_PARSE_NOBLANKS : 0);
     context->dictNames = 1;
     xmlDictSetLimit(context->dict, kLargestDictionary);
     context->keepBlanks = blankFree ? 0 : 1;
@@ -121,76 +123,30 @@ Context NewContext(Form form)
     return context;
 }
 
-Problem LastProblem()
+/// `encoding` is what was wrong with that, before the parser saw the text.
+Problem LastProblem(const Problem& encoding = {})
 {
     if (refusal.message != nullptr)
         return {refusal.line, refusal.message};
     const xmlError* error = xmlGetLastError();
     if (error == nullptr)
-        return {};
+        return encoding;
     return {error->line, error->message == nullptr ? "" : error->message};
 }
 
-/// Whether the parser takes the text as UTF-8 whatever follows its first line: it guesses nothing
-/// from a "<", and no other encoding is declared.
-bool IsPlainUtf8(std::string_view text)
+/// Puts the text, which ends in a NUL, before the context as its only input. The parser reads it
+/// where it stands and frees nothing of it. False: no memory.
+bool Feed(xmlParserCtxt* context, std::string_view text)
 {
-    if (text.empty() || text.front() != '<')
-        return false;
-    if (text.substr(0, 5) != "<?xml")
-        return true;
-    const std::string_view declaration = text.substr(0, text.find("?>"));
-    constexpr std::string_view kEncoding = "encoding";
-    const std::size_t at = declaration.find(kEncoding);
-    if (at == std::string_view::npos)
-        return true;
-    const std::string_view value = declaration.substr(at + kEncoding.size());
-    return value.find(kEncoding) == std::string_view::npos &&
-           (value.substr(0, 8) == "=\"UTF-8\"" || value.substr(0, 8) == "=\"utf-8\"");
-}
-
-/// An input that the parser reads where the text stands. It cannot change its encoding. The parser
-/// stops at the NUL behind the text, and frees nothing of it.
-xmlParserInput* InputInPlace(xmlParserCtxt* context, std::string_view text)
-{
-    return xmlNewStringInputStream(context, reinterpret_cast<const xmlChar*>(text.data()));
-}
-
-/// An input that can be converted while it is read, from a copy of the text.
-xmlParserInput* InputOfCopy(xmlParserCtxt* context, std::string_view text)
-{
-    xmlParserInputBuffer* const buffer = xmlParserInputBufferCreateMem(
-        text.data(), static_cast<int>(text.size()), XML_CHAR_ENCODING_NONE);
-    if (buffer == nullptr)
-        return nullptr;
-    // More room than the parser asks for: it does not notice when it cannot get it.
-    constexpr int kRoom = 16 * 1024;
     xmlParserInput* const input =
-        xmlParserInputBufferGrow(buffer, kRoom) < 0
-            ? nullptr
-            : xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
-    if (input == nullptr)
-        xmlFreeParserInputBuffer(buffer);
-    return input;
-}
-
-/// Puts the text, which ends in a NUL, before the context as its only input. False: no memory.
-bool Feed(xmlParserCtxt* context, std::string_view text, Form form)
-{
-    const bool inPlace = IsPlainUtf8(text);
-    xmlParserInput* const input =
-        inPlace ? InputInPlace(context, text) : InputOfCopy(context, text);
+        xmlNewStringInputStream(context, reinterpret_cast<const xmlChar*>(text.data()));
     if (input == nullptr)
         return false;
     if (inputPush(context, input) < 0) {
         xmlFreeInputStream(input);
         return false;
     }
-    if (form == Form::Plain || inPlace)
-        return true;
-    // Where memory fails the input is left without a buffer, which the parser does not check.
-    xmlSwitchToEncoding(context, xmlFindCharEncodingHandler("UTF-8"));
-    return !QuietLibxml::RanOutOfMemory();
+    return true;
 }
 
 }  // namespace
@@ -202,8 +158,8 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
     const QuietLibxml quiet;
     refusal = {};
     defaulted = 0;
-    const std::size_t length = std::strlen(text.c_str());
-    if (HoldsAttributeFlood({text.c_str(), length})) {
+    const Utf8Text utf8(text, form);
+    if (HoldsAttributeFlood(utf8.Get())) {
         problem.message = kFlood;
         return nullptr;
     }
@@ -212,11 +168,11 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
     else
         xmlCtxtReset(context.get());
 
-    if (length == 0 || length > static_cast<std::size_t>(INT_MAX)) {
-        problem = LastProblem();
+    if (utf8.Get().empty() || utf8.Get().size() > static_cast<std::size_t>(INT_MAX)) {
+        problem = LastProblem(utf8.Refusal());
         return nullptr;
     }
-    if (!Feed(context.get(), {text.c_str(), length}, form))
+    if (!Feed(context.get(), utf8.Get()))
         throw std::bad_alloc();
     xmlParseDocument(context.get());
     Document document(context->myDoc);
@@ -227,8 +183,9 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
     // A dictionary at its limit tells the same.
     if (ranOut && xmlDictGetUsage(context->dict) <= kMostDictionaryBytes)
         throw std::bad_alloc();
-    if (ranOut || context->wellFormed == 0 || document == nullptr) {
-        problem = LastProblem();
+    if (ranOut || context->wellFormed == 0 || document == nullptr ||
+        !utf8.Refusal().message.empty()) {
+        problem = LastProblem(utf8.Refusal());
         return nullptr;
     }
     // A kept context keeps neither the caller's text nor a copy of it.
