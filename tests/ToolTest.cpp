@@ -79,6 +79,13 @@ struct Line
     std::string err;
 };
 
+void PrintTo(const Line& line, std::ostream* out)
+{
+    *out << "capset";
+    for (const std::string& argument : line.arguments)
+        *out << ' ' << argument;
+}
+
 class CommandLines : public testing::TestWithParam<Line>
 {
 };

@@ -17,7 +17,6 @@ namespace
 {
 
 using namespace CapabilitySet::xml;
-using TestSupport::AllocationFault;
 using TestSupport::LogCapture;
 
 void IgnoreError(void*, xmlErrorPtr) {}
@@ -206,26 +205,22 @@ TEST(XmlDocumentTest, GivesTheWholeTreeOrNoneWhereverMemoryRunsOut)
 {
     for (const std::string& text : {kGood, kGbk}) {
         const std::string whole = Parsed(text);
-        for (const bool andLater : {false, true}) {
-            bool struck = true;
-            for (std::size_t ordinal = 1; struck; ++ordinal) {
-                Problem problem;
-                Document document;
-                {
-                    const AllocationFault fault(AllocationFault::Xml, ordinal, andLater);
-                    try {
-                        document = ParseText(text, Form::Plain, problem);
-                    } catch (const std::bad_alloc&) {
-                    }
-                    struck = AllocationFault::Struck();
-                }
-                if (document != nullptr) {
-                    ASSERT_EQ(Dump(document.get()), whole) << "allocation " << ordinal;
-                }
-                ASSERT_TRUE(struck || document != nullptr);
+        const auto parse = [&text] {
+            Problem problem;
+            try {
+                return ParseText(text, Form::Plain, problem);
+            } catch (const std::bad_alloc&) {
+                return Document();
             }
-            EXPECT_EQ(Parsed(text), whole);
-        }
+        };
+        TestSupport::FailEachAllocation(parse, [&](const Document& document, bool struck) {
+            ASSERT_TRUE(struck || document != nullptr);
+            if (document != nullptr) {
+                ASSERT_EQ(Dump(document.get()), whole);
+            }
+            ASSERT_EQ(Parsed(text), whole) << "the next document";
+            ASSERT_EQ(Parsed(text), whole) << "one in a parser that was kept";
+        });
     }
 }
 
