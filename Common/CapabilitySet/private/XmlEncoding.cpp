@@ -19,6 +19,9 @@ namespace CapabilitySet::xml
 namespace
 {
 
+/// Converters count in int, and take up to three bytes for one.
+constexpr std::size_t kMostConverted = 256 * 1024 * 1024;
+
 /// What is left of a declaration, taken off piece by piece, just as far as the parser gets.
 class Declaration
 {
@@ -46,9 +49,10 @@ public:
 
     bool TakeBlanks()
     {
-        return !TakeWhile([](unsigned char c) {
-                    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-                }).empty();
+        const auto isBlank = [](unsigned char c) {
+            return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+        };
+        return !TakeWhile(isBlank).empty();
     }
 
     /// Up to the value of an attribute; its quote, or NUL where no value begins.
@@ -169,7 +173,7 @@ Utf8Text::Utf8Text(const std::string& text, Form form) : text_(text.c_str())
         return;
     }
     const Owned<xmlCharEncodingHandler> converter = FindConverter(encoding);
-    if (converter == nullptr) {
+    if (converter == nullptr || text_.size() > kMostConverted) {
         refusal_ = {line, "Unsupported encoding " + encoding + "\n"};
         text_ = "";
     } else if (obeys) {
