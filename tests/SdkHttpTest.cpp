@@ -75,7 +75,7 @@ protected:
     {
         address_ = server.Address();
         info_.address = address_.c_str();
-        info_.connectTimeout = 2000;
+        info_.connectTimeout = 20'000;
         return info_;
     }
     void UsePassword()

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <atomic>
+#include <barrier>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -11,6 +14,7 @@
 #include <thread>
 #include <vector>
 
+#include "PelNetSDK/Session.h"
 #include "support/SdkCalls.h"
 
 namespace
@@ -310,6 +314,67 @@ TEST_F(SdkSim, ThreadsShareASessionWhileOthersLogInAndOut)
     }
     for (std::thread& thread : threads) {
         thread.join();
+    }
+}
+
+/// Runs `work` on several threads that begin at once; each gets its number.
+template <class Work>
+void Together(Work work)
+{
+    std::barrier start(4);
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 4; ++t) {
+        threads.emplace_back([&start, &work, t] {
+            start.arrive_and_wait();
+            work(t);
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+}
+
+TEST(SessionTest, EachIdIsOfOneSessionHoweverManyComeAndGo)
+{
+    auto& table = PelNet::SessionTable::Instance();
+    const auto staying = std::make_shared<PelNet::Session>(nullptr);
+    std::vector<int> taken(PelNet::SessionTable::kCapacity - 8);
+    std::ranges::generate(taken, [&] { return table.Add(staying); });
+    std::atomic<int> wrong{0};
+    Together([&](int) {
+        const auto own = std::make_shared<PelNet::Session>(nullptr);
+        for (int i = 0; i < 300'000; ++i) {
+            const int id = table.Add(own);
+            // Most of the few IDs left are those of the other threads.
+            const auto other = table.Find(PelNet::SessionTable::kCapacity - 1 - i % 8);
+            wrong += table.Find(id) != own || table.Remove(id) != own ? 1 : 0;
+        }
+        wrong += own.use_count() != 1 ? 1 : 0;
+    });
+    EXPECT_EQ(wrong, 0);
+    for (const int id : taken) {
+        EXPECT_EQ(table.Remove(id), staying);
+    }
+}
+
+TEST(SessionTest, LearnsChannelsFromManyThreadsUpToABound)
+{
+    constexpr int kChannels = 1000;
+    for (int round = 0; round < 100; ++round) {
+        PelNet::Session session(nullptr);
+        Together([&](int mode) {
+            for (int channel = 0; channel < kChannels; ++channel) {
+                session.LearnChannel(channel, mode, channel);
+                static_cast<void>(session.KnownChannel(channel, 1));
+            }
+        });
+        for (int channel = 0; channel < kChannels; ++channel) {
+            ASSERT_EQ(session.KnownChannel(channel, channel % 4), channel);
+        }
+        for (int channel = 0; channel < kChannels; ++channel) {
+            session.LearnChannel(channel, 4, channel);
+        }
+        EXPECT_EQ(session.KnownChannel(kChannels - 1, 4), std::nullopt) << "no end of memory";
     }
 }
 
