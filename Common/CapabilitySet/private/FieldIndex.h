@@ -57,6 +57,7 @@ class FieldMatches
 {
 public:
     FieldMatches(const FieldIndex& index, xmlNode* firstChild);
+    ~FieldMatches() = default;
     FieldMatches(const FieldMatches&) = delete;
     FieldMatches& operator=(const FieldMatches&) = delete;
 

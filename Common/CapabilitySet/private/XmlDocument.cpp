@@ -73,7 +73,7 @@ void RefuseUnparsedEntity(void* context, const xmlChar* /*name*/, const xmlChar*
 /// document can stand for gigabytes of attributes.
 bool DefaultsTooMuch(int defaultedCount, int attributeCount, const xmlChar** attributes)
 {
-    std::size_t bytes = static_cast<std::size_t>(defaultedCount);
+    auto bytes = static_cast<std::size_t>(defaultedCount);
     for (int i = attributeCount - defaultedCount; i < attributeCount; ++i)
         bytes += static_cast<std::size_t>(attributes[5 * i + 4] - attributes[5 * i + 3]);
     defaulted += bytes;

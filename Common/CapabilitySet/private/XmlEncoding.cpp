@@ -156,9 +156,14 @@ std::string Converted(std::string_view text, xmlCharEncodingHandler& converter)
             static_cast<std::size_t>(xmlBufferLength(out.get()))};
 }
 
+std::string_view UpToNul(std::string_view text)
+{
+    return text.substr(0, text.find('\0'));
+}
+
 }  // namespace
 
-Utf8Text::Utf8Text(const std::string& text, Form form) : text_(text.c_str())
+Utf8Text::Utf8Text(const std::string& text, Form form) : text_(UpToNul(text))
 {
     const std::string_view name = DeclaredEncoding(text_);
     const std::string encoding(name);
@@ -178,7 +183,7 @@ Utf8Text::Utf8Text(const std::string& text, Form form) : text_(text.c_str())
         text_ = "";
     } else if (obeys) {
         converted_.append(head).append(Converted(text_.substr(behindName), *converter));
-        text_ = converted_.c_str();
+        text_ = UpToNul(converted_);
     }
 }
 

@@ -126,7 +126,7 @@ std::string TextOfValue(double value)
     char* const begin = digits.data();
     const auto end = std::to_chars(begin, begin + digits.size(), value, std::chars_format::general,
                                    kStreamPrecision);
-    const std::string text(begin, end.ptr);
+    std::string text(begin, end.ptr);
     if (StringToDouble(text) == value)
         return text;
     return {begin,
