@@ -141,6 +141,8 @@ Owned<xmlCharEncodingHandler> FindConverter(const std::string& encoding)
 /// The beginning that can be converted.
 std::string Converted(std::string_view text, xmlCharEncodingHandler& converter)
 {
+    if (text.empty())
+        return {};  // no buffer is made for nothing
     const Owned<xmlBuffer> in(xmlBufferCreateStatic(const_cast<char*>(text.data()), text.size()));
     const Owned<xmlBuffer> out(xmlBufferCreate());
     if (in == nullptr || out == nullptr)
