@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/AnswerTable.h"
 #include "Device/Behaviour.h"
-#include "Device/DocumentPages.h"
-#include "Device/JsonSearch.h"
+#include "Device/search/DocumentPages.h"
+#include "Device/search/JsonSearch.h"
 
 namespace Device
 {

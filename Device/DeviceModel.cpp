@@ -10,8 +10,8 @@
 
 #include "Device/Behaviour.h"
 #include "Device/EmbeddedProfiles.h"
-#include "Device/HostileModel.h"
 #include "Device/Profile.h"
+#include "Device/hostile/HostileModel.h"
 
 namespace Device
 {

@@ -12,11 +12,11 @@
 #include <json/value.h>
 
 #include "Device/DeviceModel.h"
-#include "Device/JsonSearch.h"
 #include "Device/ParsedRequest.h"
-#include "Device/Recordings.h"
 #include "Device/StatusDocument.h"
 #include "Device/ValueLimits.h"
+#include "Device/search/JsonSearch.h"
+#include "Device/search/Recordings.h"
 
 namespace Device
 {

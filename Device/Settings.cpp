@@ -7,7 +7,7 @@
 
 #include "Device/AnswerTable.h"
 #include "Device/Behaviour.h"
-#include "Device/DocumentPages.h"
+#include "Device/search/DocumentPages.h"
 
 namespace Device
 {

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "Arguments.h"
-#include "Failure.h"
-#include "Log.h"
-#include "Text.h"
+#include "Tool/command/Arguments.h"
+#include "Tool/session/Failure.h"
+#include "Tool/terminal/Log.h"
+#include "Tool/terminal/Text.h"
 
 namespace
 {

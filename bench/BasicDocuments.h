@@ -6,7 +6,7 @@
 #include <type_traits>
 
 #include "CapabilitySet/BasicCapability.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 
 namespace Bench
 {
@@ -27,14 +27,15 @@ public:
     template <class Member, class... How>
     void operator()(const std::string& name, Member& member, How... /*how*/)
     {
-        if constexpr (std::is_same_v<Member, CapabilitySet::MinMaxElement>)
+        if constexpr (std::is_same_v<Member, CapabilitySet::MinMaxElement>) {
             Leaf(name, R"( min="1" max="64"/>)");
-        else if constexpr (std::is_same_v<Member, CapabilitySet::OptElement<std::string>>)
+        } else if constexpr (std::is_same_v<Member, CapabilitySet::OptElement<std::string>>) {
             Leaf(name, R"( opt="HDMI1,VGA,CVBS"/>)");
-        else if constexpr (CapabilitySet::xml::IsRecord<Member>)
+        } else if constexpr (CapabilitySet::xml::IsRecord<Member>) {
             Nested(name, member);
-        else
+        } else {
             Leaf(name, '>' + ValueOf(member) + "</" + name + '>');
+        }
     }
 
     /// The document of a root record.
@@ -59,10 +60,12 @@ private:
     void Leaf(const std::string& name, const std::string& rest)
     {
         // An element name that begins with a digit makes no document.
-        if (name.front() >= '0' && name.front() <= '9')
+        if (name.front() >= '0' && name.front() <= '9') {
             return;
-        if (leaves_++ % 5 < shape_.keptOfFive)
+        }
+        if (leaves_++ % 5 < shape_.keptOfFive) {
             Line('<' + name + rest);
+        }
         if (leaves_ % 2 == 0 && unknown_ < shape_.unknownElements) {
             const std::string number = std::to_string(++unknown_);
             Line("<isSupportFuture" + number + ">true</isSupportFuture" + number + '>');

@@ -22,13 +22,15 @@ void AddSide(const std::string& work, const std::string& name, int rounds, Side 
             benchmark::DoNotOptimize(warmUp());
             const std::string dump = work + '|' + name + '|' + std::to_string(rounds);
             CALLGRIND_TOGGLE_COLLECT;
-            for (auto round : state)
+            for (auto round : state) {
                 benchmark::DoNotOptimize(side());
+            }
             CALLGRIND_TOGGLE_COLLECT;
             CALLGRIND_DUMP_STATS_AT(dump.c_str());
         });
-    if (RUNNING_ON_VALGRIND != 0)
+    if (RUNNING_ON_VALGRIND != 0) {
         benchmark->Iterations(rounds);
+    }
 }
 
 /// The same, warmed up by a call of its own.
@@ -50,8 +52,9 @@ void Compare(const std::string& work, int rounds, Baseline baseline, Ours ours)
 inline int Run(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
+    }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

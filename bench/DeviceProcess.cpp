@@ -23,15 +23,17 @@ int Serve(const std::string& profile, Device::ServerOptions options, int tellTo,
     const auto model = Device::DeviceModel::Load(profile, error);
     const auto server =
         model == nullptr ? nullptr : Device::DeviceServer::Start(model, std::move(options), error);
-    if (server == nullptr)
+    if (server == nullptr) {
         return 1;
+    }
     std::ostringstream told;
     told << server->Url() << '\n'
          << *model->PasswordOf(DeviceProcess::kUser) << '\n'
          << server->CertificatePem();
     const std::string text = told.str();
-    if (write(tellTo, text.data(), text.size()) != static_cast<ssize_t>(text.size()))
+    if (write(tellTo, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
         return 1;
+    }
     close(tellTo);
     char none = 0;
     return static_cast<int>(read(lifeline, &none, 1));
@@ -44,8 +46,9 @@ std::unique_ptr<DeviceProcess> DeviceProcess::Start(const std::string& profile,
 {
     int told[2];
     int life[2];
-    if (pipe2(told, O_CLOEXEC) != 0 || pipe2(life, O_CLOEXEC) != 0)
+    if (pipe2(told, O_CLOEXEC) != 0 || pipe2(life, O_CLOEXEC) != 0) {
         return nullptr;
+    }
     const pid_t pid = fork();
     if (pid == 0) {
         close(told[0]);
@@ -67,8 +70,9 @@ bool DeviceProcess::Hear(int from)
     std::string text;
     char part[4096];
     for (ssize_t size = read(from, part, sizeof part); size > 0;
-         size = read(from, part, sizeof part))
+         size = read(from, part, sizeof part)) {
         text.append(part, static_cast<std::size_t>(size));
+    }
     std::istringstream lines(text);
     std::getline(lines, url_);
     std::getline(lines, password_);
@@ -76,8 +80,9 @@ bool DeviceProcess::Hear(int from)
     if (!certificate.empty()) {
         char name[] = "/tmp/capabilityset-bench-XXXXXX";
         const int file = mkstemp(name);
-        if (file < 0)
+        if (file < 0) {
             return false;
+        }
         close(file);
         certificateFile_ = name;
         std::ofstream(certificateFile_) << certificate;
@@ -88,10 +93,12 @@ bool DeviceProcess::Hear(int from)
 DeviceProcess::~DeviceProcess()
 {
     close(lifeline_);
-    if (pid_ > 0)
+    if (pid_ > 0) {
         waitpid(pid_, nullptr, 0);
-    if (!certificateFile_.empty())
+    }
+    if (!certificateFile_.empty()) {
         unlink(certificateFile_.c_str());
+    }
 }
 
 std::size_t ResidentBytes(pid_t process)

@@ -8,7 +8,7 @@
 
 #include <sys/types.h>
 
-#include "Device/DeviceServer.h"
+#include "Device/http/DeviceServer.h"
 
 namespace Bench
 {

@@ -29,8 +29,9 @@ public:
         curl_easy_setopt(curl, CURLOPT_WRITEDATA, &body_);
         curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &PlainClient::OnHeader);
         curl_easy_setopt(curl, CURLOPT_HEADERDATA, &exchanges_);
-        if (!certificateFile.empty())
+        if (!certificateFile.empty()) {
             curl_easy_setopt(curl, CURLOPT_CAINFO, certificateFile.c_str());
+        }
     }
 
     /// The document at a path, empty when there was none; a post sends an empty body.
@@ -40,16 +41,18 @@ public:
         body_.clear();
         curl_easy_setopt(curl, CURLOPT_URL, (url_ + path).c_str());
         curl_easy_setopt(curl, post ? CURLOPT_POST : CURLOPT_HTTPGET, 1L);
-        if (post)
+        if (post) {
             curl_easy_setopt(curl, CURLOPT_COPYPOSTFIELDS, "");
+        }
         const CURLcode result = curl_easy_perform(curl);
         long status = 0;
         curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &status);
         long connections = 0;
         curl_easy_getinfo(curl, CURLINFO_NUM_CONNECTS, &connections);
         connections_ += connections;
-        if (result != CURLE_OK || status != 200)
+        if (result != CURLE_OK || status != 200) {
             body_.clear();
+        }
         return body_;
     }
 
@@ -65,8 +68,9 @@ private:
 
     static std::size_t OnHeader(const char* line, std::size_t size, std::size_t count, void* into)
     {
-        if (std::string_view(line, size * count).starts_with("HTTP/"))
+        if (std::string_view(line, size * count).starts_with("HTTP/")) {
             *static_cast<long*>(into) += 1;
+        }
         return size * count;
     }
 

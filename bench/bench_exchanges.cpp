@@ -10,7 +10,7 @@
 
 #include "CapabilitySet/SystemAbility.h"
 #include "Comparison.h"
-#include "Device/DeviceServer.h"
+#include "Device/http/DeviceServer.h"
 #include "PelNetSDK/Login.h"
 #include "PlainClient.h"
 
@@ -47,10 +47,12 @@ struct Site
     Site()
     {
         model = Device::DeviceModel::Load("dome", error);
-        if (model != nullptr)
+        if (model != nullptr) {
             server = Device::DeviceServer::Start(model, {}, error);
-        if (server == nullptr)
+        }
+        if (server == nullptr) {
             return;
+        }
         password = *model->PasswordOf(kUser);
         connectionsBefore = Counters().connections;
         const std::string url = server->Url();
@@ -78,8 +80,9 @@ struct Site
         DeviceCap record;
         unsigned int err = 0;
         for (int i = 0; i < queries; ++i) {
-            if (!DeviceCap::GetDeviceCapability(record, err, userID))
+            if (!DeviceCap::GetDeviceCapability(record, err, userID)) {
                 return false;
+            }
         }
         const Statistics after = Counters();
         need.exchanges = static_cast<double>(after.exchanges - before.exchanges);
@@ -97,12 +100,14 @@ bool AskLargeAnswer(Site& site, Need& plain, Need& ours)
     padding.pathPrefix = kPath;
     padding.bytes = kGrowths * kStep;
     PlainClient client(site.server->Url(), kUser, site.password);
-    if (client.Fetch(kPath).empty() || !site.server->SetFaults({padding}, site.error))
+    if (client.Fetch(kPath).empty() || !site.server->SetFaults({padding}, site.error)) {
         return false;
+    }
     const long before = client.Exchanges();
     std::uint64_t size = kStep;
-    while (client.Fetch(kPath).size() > size)
+    while (client.Fetch(kPath).size() > size) {
         size += kStep;
+    }
     plain.exchanges = static_cast<double>(client.Exchanges() - before);
     plain.connections = static_cast<double>(client.Connections());
     const bool answered = site.Ask(1, ours);
@@ -114,8 +119,9 @@ bool AskOften(Site& site, Need& plain, Need& ours)
 {
     for (int i = 0; i < kQueries; ++i) {
         PlainClient client(site.server->Url(), kUser, site.password);
-        if (client.Fetch(kPath).empty())
+        if (client.Fetch(kPath).empty()) {
             return false;
+        }
         plain.exchanges += static_cast<double>(client.Exchanges());
         plain.connections += static_cast<double>(client.Connections());
     }

@@ -13,7 +13,7 @@
 #include "CapabilitySet/JsonTARN/JsonCap/JsonCapApp.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "CapabilitySet/SystemAbility.h"
-#include "CapabilitySet/private/ReceiveBuffer.h"
+#include "CapabilitySet/private/query/ReceiveBuffer.h"
 #include "Comparison.h"
 #include "PelNetSDK/PelNetSDK.h"
 #include "ScriptedSdk.h"
@@ -57,8 +57,9 @@ Cost CostOf(int times, const Side& side)
 {
     const double faults = PageFaults();
     const double start = CpuNanoseconds();
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         benchmark::DoNotOptimize(side());
+    }
     const double end = CpuNanoseconds();
     return {(end - start) / times, (PageFaults() - faults) / times};
 }
@@ -117,8 +118,9 @@ std::unique_ptr<char[]> ClearedBuffer(unsigned int size)
 unsigned int PlainLadder(unsigned int limit)
 {
     unsigned int attempts = 0;
-    for (unsigned int size = kStep; size <= limit; size += kStep, ++attempts)
+    for (unsigned int size = kStep; size <= limit; size += kStep, ++attempts) {
         WriteLittle(ClearedBuffer(size).get());
+    }
     return attempts;
 }
 
@@ -126,8 +128,9 @@ unsigned int OwnLadder(unsigned int limit)
 {
     CapabilitySet::query::ReceiveBuffer buffer(kLimit);
     unsigned int attempts = 0;
-    for (unsigned int size = kStep; size <= limit; size += kStep, ++attempts)
+    for (unsigned int size = kStep; size <= limit; size += kStep, ++attempts) {
         WriteLittle(buffer.Renew(size));
+    }
     return attempts;
 }
 
@@ -151,8 +154,9 @@ bool PlainDeviceCapability(DeviceCap& out, unsigned int& err, int userID)
             out.Parse(std::string(buffer.get()));
             return out.Capable();
         }
-        if (NET_ORB_GetLastError() != NET_ORB_BUFFER_TOO_SMALL)
+        if (NET_ORB_GetLastError() != NET_ORB_BUFFER_TOO_SMALL) {
             return false;
+        }
     }
     return false;
 }
@@ -164,8 +168,9 @@ bool PlainBasicCapability(BasicCapability& out, unsigned int& err, int userID)
     err = 0;
     const auto buffer = ClearedBuffer(kBasicSize);
     VSK_OutputDebug("[AbilityTime]Start to get BasicCapability");
-    if (NET_ORB_GetDeviceAbility(userID, 1, nullptr, 0, buffer.get(), kBasicSize) == 0)
+    if (NET_ORB_GetDeviceAbility(userID, 1, nullptr, 0, buffer.get(), kBasicSize) == 0) {
         return false;
+    }
     VSK_OutputDebug("[AbilityTime]Finish to get BasicCapability");
     out.Parse(std::string(buffer.get()));
     return true;

@@ -10,7 +10,7 @@
 #include "CapabilitySet/JsonTARN/JsonConfig/AlarmHostStatus.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/CaptureSearch.h"
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
-#include "CapabilitySet/private/JsonFields.h"
+#include "CapabilitySet/private/json/JsonFields.h"
 #include "Comparison.h"
 
 namespace

@@ -92,8 +92,9 @@ public:
         info.address = device.Url().c_str();
         info.userName = DeviceProcess::kUser;
         info.password = device.Password().c_str();
-        if (!device.CertificateFile().empty())
+        if (!device.CertificateFile().empty()) {
             info.certificateFile = device.CertificateFile().c_str();
+        }
         userID_ = NET_ORB_Login(&info);
     }
     ~Session() { NET_ORB_Logout(userID_); }
@@ -174,18 +175,21 @@ std::uint64_t RunQueries(const std::vector<std::unique_ptr<Session>>& sessions, 
     const auto work = [&](int userID) {
         for (std::uint64_t i = begun++; i < microseconds.size(); i = begun++) {
             const Clock::time_point start = Clock::now();
-            if (!kQueries[i % std::size(kQueries)].ask(userID))
+            if (!kQueries[i % std::size(kQueries)].ask(userID)) {
                 ++failed;
+            }
             microseconds[i] = static_cast<std::uint32_t>(
                 std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start)
                     .count());
         }
     };
     std::vector<std::thread> running;
-    for (unsigned i = 0; i < threads; ++i)
+    for (unsigned i = 0; i < threads; ++i) {
         running.emplace_back(work, sessions[i % kSessions]->UserID());
-    for (std::thread& thread : running)
+    }
+    for (std::thread& thread : running) {
         thread.join();
+    }
     return failed;
 }
 
@@ -196,8 +200,9 @@ bool RunLoad(const char* name, const Load& load, bool tls)
     options.tls = tls;
     const auto device = DeviceProcess::Start(kProfile, std::move(options));
     std::vector<std::unique_ptr<Session>> sessions;
-    for (int i = 0; device != nullptr && i < kSessions; ++i)
+    for (int i = 0; device != nullptr && i < kSessions; ++i) {
         sessions.push_back(std::make_unique<Session>(*device));
+    }
     if (device == nullptr || sessions.back()->UserID() < 0) {
         std::fprintf(stderr, "bench_load: no device to ask\n");
         return false;
@@ -229,8 +234,9 @@ double MicrosecondsOf(int queries, Ask ask)
 {
     const Clock::time_point start = Clock::now();
     for (int i = 0; i < queries; ++i) {
-        if (!ask())
+        if (!ask()) {
             return 0;
+        }
     }
     return std::chrono::duration<double, std::micro>(Clock::now() - start).count() / queries;
 }
@@ -307,16 +313,18 @@ bool RunShare(const Road& road)
         options.faults.back().interval = std::chrono::milliseconds(road.delay);
     }
     const auto device = DeviceProcess::Start(kProfile, std::move(options));
-    if (device == nullptr)
+    if (device == nullptr) {
         return false;
+    }
     const Session session(*device);
     PlainClient client(device->Url(), DeviceProcess::kUser, device->Password(),
                        device->CertificateFile());
     bool allMet = true;
     for (const Query& query : kQueries) {
         Times times;
-        if (!Measure(road, query, client, session.UserID(), times))
+        if (!Measure(road, query, client, session.UserID(), times)) {
             return false;
+        }
         const double ofFetch = Times::Ratio(times.ours, times.fetched);
         const double ofParse = Times::Ratio(times.ours, times.parsed);
         const bool met = (road.delay > 0 ? ofFetch : ofParse) <= kMostShare;
@@ -335,10 +343,12 @@ bool RunShare(const Road& road)
 int main(int argc, char** argv)
 {
     Load load{1'000'000, 64};
-    if (argc > 1)
+    if (argc > 1) {
         load.requests = std::strtoull(argv[1], nullptr, 10);
-    if (argc > 2)
+    }
+    if (argc > 2) {
         load.threads = static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10));
+    }
     if (argc > 3 || load.requests == 1 || load.threads == 0) {
         std::fprintf(stderr, "usage: bench_load [REQUESTS [THREADS]], 0 requests for no load\n");
         return 2;
@@ -356,7 +366,8 @@ int main(int argc, char** argv)
                 "fetch us", "+parse us", "ours us", "of fetch", "of both", "goal", "met");
     constexpr Road kRoads[] = {
         {"http", false, 0, 101, 40}, {"https", true, 0, 101, 40}, {"http, 5 ms", false, 5, 21, 10}};
-    for (const Road& road : kRoads)
+    for (const Road& road : kRoads) {
         met = RunShare(road) && met;
+    }
     return met ? 0 : 1;
 }

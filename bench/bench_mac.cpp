@@ -41,8 +41,9 @@ std::map<std::string, std::string> PlainMap()
     for (const std::string& text : Texts()) {
         Json::Value root;
         Json::Reader().parse(text, root);
-        for (const std::string& prefix : root.getMemberNames())
+        for (const std::string& prefix : root.getMemberNames()) {
             companies.emplace(prefix, root[prefix].asString());
+        }
     }
     return companies;
 }
@@ -54,8 +55,9 @@ void AddOnlyOnce(const std::string& work, const std::string& name, Side side)
     benchmark::RegisterBenchmark((work + '/' + name).c_str(), [=](benchmark::State& state) {
         const std::string dump = work + '|' + name + "|1";
         CALLGRIND_TOGGLE_COLLECT;
-        for (auto round : state)
+        for (auto round : state) {
             benchmark::DoNotOptimize(side());
+        }
         CALLGRIND_TOGGLE_COLLECT;
         CALLGRIND_DUMP_STATS_AT(dump.c_str());
     })->Iterations(1);

@@ -10,7 +10,7 @@
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Comparison.h"
-#include "Device/Package.h"
+#include "Device/search/Package.h"
 #include "DeviceProcess.h"
 #include "PelNetSDK/Login.h"
 #include "PlainClient.h"
@@ -35,8 +35,9 @@ public:
     template <class Body>
     explicit Child(Body body)
     {
-        if (pipe(pipe_) != 0)
+        if (pipe(pipe_) != 0) {
             return;
+        }
         process_ = fork();
         if (process_ == 0) {
             close(pipe_[0]);
@@ -47,8 +48,9 @@ public:
     }
     ~Child()
     {
-        if (process_ > 0)
+        if (process_ > 0) {
             Wait();
+        }
         close(pipe_[0]);
     }
     Child(const Child&) = delete;

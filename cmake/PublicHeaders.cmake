@@ -19,7 +19,7 @@ set(CAPABILITYSET_PLATFORM_HEADERS
     Platform/Vsk/OutputDebug.h)
 
 # Internal headers that public headers may include. One more here is one more promise to clients.
-set(CAPABILITYSET_INSTALLED_INTERNALS FieldTags.h)
+set(CAPABILITYSET_INSTALLED_INTERNALS)
 
 # capabilityset_public_headers(<root> <result>): paths relative to the repository's root.
 function(capabilityset_public_headers root result)

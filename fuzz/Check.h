@@ -11,8 +11,9 @@ namespace Fuzz
 /// Throws std::logic_error with the property's sentence, and what it was about, unless it holds.
 inline void Require(bool holds, const char* property, const std::string& about = {})
 {
-    if (!holds)
+    if (!holds) {
         throw std::logic_error(about.empty() ? property : about + ": " + property);
+    }
 }
 
 }  // namespace Fuzz

@@ -29,8 +29,9 @@ inline std::vector<std::string_view> SplitChunks(std::string_view text, std::siz
 /// Takes the text's first byte as a number; 0 when there is none.
 inline unsigned TakeByte(std::string_view& text)
 {
-    if (text.empty())
+    if (text.empty()) {
         return 0;
+    }
     const auto byte = static_cast<unsigned char>(text.front());
     text.remove_prefix(1);
     return byte;

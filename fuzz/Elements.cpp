@@ -3,7 +3,7 @@
 
 #include "CapabilitySet/RecordTree.h"
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 #include "fuzz/Check.h"
 #include "fuzz/Targets.h"
 #include "support/ReferenceXml.h"
@@ -25,8 +25,9 @@ using TestSupport::reference::PiecesOf;
 /// The next text that a child of this name holds; empty when there is no such child.
 std::string NextText(const xmlNode*& cursor, const char* name)
 {
-    if (!Find(cursor, name))
+    if (!Find(cursor, name)) {
         return {};
+    }
     std::string text = ContentOf(cursor);
     cursor = cursor->next;
     return text;
@@ -78,8 +79,9 @@ RangeElement PlainRange(const xmlNode* start)
 {
     RangeElement list;
     const xmlNode* cursor = start;
-    for (const std::string& piece : PiecesOf(NextText(cursor, "Range")))
+    for (const std::string& piece : PiecesOf(NextText(cursor, "Range"))) {
         list.range.push_back(NumberOf<int>(piece));
+    }
     list.capable = !list.range.empty();
     const std::string def =
         list.capable && IsNamedDefault(start) ? ContentOf(start) : std::string();
@@ -94,8 +96,9 @@ MinMaxOrRangeElement PlainMinMaxOrRange(const xmlNode* firstChild)
     either.minMax = PlainMinMax(firstChild);
     const xmlNode* start = firstChild;
     if (either.minMax.capable) {
-        for (int skipped = 0; skipped < 2 && start != nullptr; ++skipped)
+        for (int skipped = 0; skipped < 2 && start != nullptr; ++skipped) {
             start = start->next;
+        }
         start = IsNamedDefault(start) ? start->next : start;
     }
     either.range = PlainRange(start);
@@ -166,8 +169,9 @@ void CheckKinds(xmlNode* element)
 void CheckBelow(xmlNode* element, int& left)
 {
     for (; element != nullptr && left > 0; element = element->next) {
-        if (element->type != XML_ELEMENT_NODE)
+        if (element->type != XML_ELEMENT_NODE) {
             continue;
+        }
         --left;
         CheckTypes(element);
         CheckKinds(element);
@@ -182,8 +186,9 @@ void Elements(const std::string& text)
     xml::Problem problem;
     const xml::Document document = xml::ParseText(text, xml::Form::Plain, problem);
     int left = 64;
-    if (document != nullptr)
+    if (document != nullptr) {
         CheckBelow(xmlDocGetRootElement(document.get()), left);
+    }
 }
 
 }  // namespace Fuzz

@@ -27,8 +27,9 @@ public:
     explicit Device(std::vector<std::string_view> chunks) : chunks_(std::move(chunks)) {}
     ~Device()
     {
-        for (const int socket : sockets_)
+        for (const int socket : sockets_) {
             close(socket);
+        }
     }
     Device(const Device&) = delete;
     Device& operator=(const Device&) = delete;
@@ -36,8 +37,9 @@ public:
     int Open()
     {
         std::array<int, 2> pair{};
-        if (socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data()) != 0)
+        if (socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data()) != 0) {
             return -1;
+        }
         if (sockets_.size() < chunks_.size()) {
             const std::string_view chunk = chunks_[sockets_.size()];
             // What finds no room is a connection that breaks.
@@ -58,8 +60,9 @@ public:
         std::array<char, 4096> piece{};
         for (const int socket : sockets_) {
             for (ssize_t count = 0;
-                 (count = recv(socket, piece.data(), piece.size(), MSG_DONTWAIT)) > 0;)
+                 (count = recv(socket, piece.data(), piece.size(), MSG_DONTWAIT)) > 0;) {
                 all.append(piece.data(), static_cast<std::size_t>(count));
+            }
         }
         return all;
     }
@@ -136,8 +139,9 @@ void CheckCall(const Call& call)
         Require(call.returned <= size, "an answer fits");
         const bool ends = call.returned == size || call.answer[call.returned] == '\0';
         Require(ends, "a text ends where there is room");
-        for (std::size_t at = call.returned + 1; at < size; ++at)
+        for (std::size_t at = call.returned + 1; at < size; ++at) {
             Require(call.answer[at] == '\1', "the rest of a buffer is left alone");
+        }
     }
     Require((call.error == NET_ORB_BUFFER_TOO_SMALL) == (!call.done && call.returned > size),
             "what does not fit tells its size");
@@ -171,8 +175,9 @@ void HttpAnswer(const std::string& text)
     for (int round = 0; round < 2; ++round) {
         const Call call(login.UserID(), line, body, size, statusSize);
         CheckCall(call);
-        if (call.error == NET_ORB_BUFFER_TOO_SMALL)
+        if (call.error == NET_ORB_BUFFER_TOO_SMALL) {
             CheckRepeat(call, login.UserID(), line, body, device);
+        }
     }
     const std::string received = device.Received();
     Require(received.find(kPassword) == std::string::npos &&

@@ -4,7 +4,7 @@
 
 #include "CapabilitySet/JsonTARN/JsonLimits.h"
 #include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/JsonReading.h"
+#include "CapabilitySet/private/json/JsonReading.h"
 #include "fuzz/Check.h"
 #include "fuzz/Targets.h"
 #include "support/JsonRecords.h"
@@ -32,8 +32,9 @@ const std::string& NameOf()
         std::string first = Record::kKey;
         Record sample;
         Record::Fields(sample, [&](const char* member, const auto&... /*member and how*/) {
-            if (first.empty())
+            if (first.empty()) {
                 first = member;
+            }
         });
         return first.empty() ? first : '"' + first + '"';
     }();
@@ -60,8 +61,9 @@ void CheckRoundTrip(const std::string& text)
     Require(Describe({}, record) == Describe({}, expected), "differs from the plain reading",
             about);
     const std::string written = record.Make();
-    if (written.empty())
+    if (written.empty()) {
         return;  // whoever has nothing to switch sends nothing
+    }
     Record again;
     again.Parse(written);
     Require(SameFields(record, again) || !IsAscii(text), "reads back what it wrote", about);
@@ -93,8 +95,9 @@ void CheckLimits(const std::string& text)
     Json::Value root;
     JsonLimits limits;
     try {
-        if (json::ParseText(text, root))
+        if (json::ParseText(text, root)) {
             limits.Parse(root);
+        }
     } catch (const Json::Exception&) {  // a member of the wrong kind, or a text too deep
     }
     const MisinfoMinMaxElement bounds(text);
@@ -113,8 +116,9 @@ void Json(const std::string& text)
     CheckLimits(text);
     std::size_t ordinal = 0;
     JsonRecords::ForEach([&]<class Record>() {
-        if (Concerns<Record>(text, ordinal++))
+        if (Concerns<Record>(text, ordinal++)) {
             CheckRoundTrip<Record>(text);
+        }
     });
 }
 

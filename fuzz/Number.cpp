@@ -23,9 +23,10 @@ void Compare(Value (*convert)(std::string_view) noexcept, const std::string& tex
     stream >> expected;
     const Value value = convert(text);
     if (value != expected ||
-        std::signbit(static_cast<double>(value)) != std::signbit(static_cast<double>(expected)))
+        std::signbit(static_cast<double>(value)) != std::signbit(static_cast<double>(expected))) {
         throw std::logic_error("a stream reads " + std::to_string(expected) + ", not " +
                                std::to_string(value));
+    }
 }
 
 }  // namespace

@@ -29,8 +29,9 @@ Device::ProfileFiles FilesOf(const std::vector<std::string_view>& chunks)
 
 std::string Replaced(std::string text, std::string_view what, const std::string& with)
 {
-    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += with.size())
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += with.size()) {
         text.replace(at, what.size(), with);
+    }
     return text;
 }
 
@@ -41,13 +42,15 @@ void CheckAnswer(DeviceModel& device, const Device::Profile& profile, const Devi
     const auto channel =
         profile.channels.empty() ? std::pair<const int, int>(1, 1) : *profile.channels.begin();
     std::string target;
-    for (const std::string& segment : answer.path)
+    for (const std::string& segment : answer.path) {
         target += "/" + segment;
+    }
     target = Replaced(target, "{channel}", std::to_string(channel.second));
     target = Replaced(target, "{sdkChannel}", std::to_string(channel.first));
-    for (const Device::Parameter& parameter : answer.parameters)
+    for (const Device::Parameter& parameter : answer.parameters) {
         target += (target.find('?') == std::string::npos ? "?" : "&") + parameter.name + "=" +
                   parameter.value;
+    }
     for (const char* method : {answer.method.c_str(), "GET", "PUT"}) {
         const auto response = device.Handle({method, target, body});
         Require(response.status >= 200 && response.status < 600, "a request is answered", target);
@@ -68,13 +71,15 @@ void Profile(const std::string& text)
     const auto device = DeviceModel::Load(files, sameError);
     Require(read ? (device != nullptr) == sameError.empty() : sameError == error,
             "a profile reads alike each time", error);
-    if (device == nullptr)
+    if (device == nullptr) {
         return;
+    }
     Require(device->Name() == profile.name && device->Channels() == profile.channels,
             "a device is its profile's");
     const std::string body(chunks[chunks.size() > 1 ? 1 : 0]);
-    for (const Device::Answer& answer : profile.answers)
+    for (const Device::Answer& answer : profile.answers) {
         CheckAnswer(*device, profile, answer, body);
+    }
 }
 
 }  // namespace Fuzz

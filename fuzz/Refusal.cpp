@@ -75,9 +75,10 @@ void Refusal(const std::string& text)
     Require(!document || text.size() <= PelNet::kLongestStatusDocument,
             "a status document is short");
     // Neither form of document allows blanks before a declaration.
-    if (document && text[0] == '{' && text.size() + 3 <= PelNet::kLongestStatusDocument)
+    if (document && text[0] == '{' && text.size() + 3 <= PelNet::kLongestStatusDocument) {
         Require(AreSame(document, PelNet::ReadStatusDocument(" \r\n" + text)),
                 "blanks before a document are nothing");
+    }
     CheckJudgement(document);
     CheckPieces(text);
 }

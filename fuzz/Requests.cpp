@@ -3,9 +3,9 @@
 #include <type_traits>
 
 #include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/JsonReading.h"
-#include "CapabilitySet/private/XmlDocument.h"
-#include "CapabilitySet/private/XmlWriting.h"
+#include "CapabilitySet/private/json/JsonReading.h"
+#include "CapabilitySet/private/xml/XmlDocument.h"
+#include "CapabilitySet/private/xml/XmlWriting.h"
 #include "fuzz/Check.h"
 #include "fuzz/Chunks.h"
 #include "fuzz/Targets.h"
@@ -24,10 +24,11 @@ using TestSupport::RecordGenerator;
 template <class Record>
 std::string Body(Record record)
 {
-    if constexpr (requires { record.CreateXmlNodePtr(); })
+    if constexpr (requires { record.CreateXmlNodePtr(); }) {
         return xml::DumpDocument(record.CreateXmlNodePtr(), "2.0");
-    else
+    } else {
         return record.Make();
+    }
 }
 
 bool IsXml(const std::string& body)
@@ -52,8 +53,9 @@ void CheckBody(RecordGenerator& generator, bool anyBytes)
     const std::string body = Body(record);
     const std::string& about = body;
     if constexpr (std::is_same_v<Record, AlarmHostOutputCfg>) {
-        if (record.ids.empty())
+        if (record.ids.empty()) {
             return Require(body.empty(), "without outputs nothing is switched", about);
+        }
     }
     Require(kIsXml ? IsXml(body) : IsJson(body), "a body is a document", about);
     Record back;
@@ -80,8 +82,9 @@ void Requests(const std::string& text)
     unsigned ordinal = 0;
     const auto check = [&]<class Record>() {
         if constexpr (IsSent<Record>) {
-            if (ordinal++ == chosen)
+            if (ordinal++ == chosen) {
                 CheckBody<Record>(generator, anyBytes);
+            }
         }
     };
     TestSupport::XmlRecords::ForEach(check);

@@ -7,7 +7,7 @@
 
 #include "CapabilitySet/XMLParamInterface/SDKInterfaceManager.h"
 #include "CapabilitySet/private/NumberText.h"
-#include "CapabilitySet/private/XmlDocument.h"
+#include "CapabilitySet/private/xml/XmlDocument.h"
 #include "fuzz/Check.h"
 #include "fuzz/Chunks.h"
 #include "fuzz/Targets.h"
@@ -66,8 +66,9 @@ SdkStep StepOf(std::string_view chunk)
     step.returnedSize = TakeByte(chunk) * 256U;
     step.returnedSize += TakeByte(chunk);
     const bool wantsRoom = step.error == 43 || step.error == 1001;
-    if ((kind & 0x80U) != 0 && !wantsRoom)
+    if ((kind & 0x80U) != 0 && !wantsRoom) {
         step.returnedSize = ~step.returnedSize;
+    }
     std::string& text = (kind & 0x20U) != 0 ? step.answer : step.status;
     text = chunk;
     return step;
@@ -81,18 +82,21 @@ std::pair<int, std::string> PlainStatus(const std::string& text)
     xml::Problem problem;
     const xml::Document document = xml::ParseText(text, xml::Form::Plain, problem);
     xmlNode* cursor = document == nullptr ? nullptr : xmlDocGetRootElement(document.get());
-    if (cursor == nullptr || xml::XmlCharToString(cursor->name) != "ResponseStatus")
+    if (cursor == nullptr || xml::XmlCharToString(cursor->name) != "ResponseStatus") {
         return status;
+    }
     cursor = cursor->children;
     for (const char* name : {"requestURL", "statusCode", "statusString", "subStatusCode"}) {
-        if (!xml::NextElementNamed(cursor, name))
+        if (!xml::NextElementNamed(cursor, name)) {
             continue;
+        }
         const std::string content = xml::GetNodeString(cursor);
         cursor = cursor->next;
-        if (std::string_view(name) == "statusCode")
+        if (std::string_view(name) == "statusCode") {
             status.first = CapabilitySet::StringToInt(content);
-        else if (std::string_view(name) == "subStatusCode")
+        } else if (std::string_view(name) == "subStatusCode") {
             status.second = content;
+        }
     }
     return status;
 }
@@ -115,8 +119,9 @@ std::string SentStatus()
     const ScriptedSdk& sdk = ScriptedSdk::Instance();
     std::string buffer;
     for (std::size_t call = 0; call < sdk.calls.size(); ++call) {
-        if (buffer.size() < sdk.calls[call].statusSize)
+        if (buffer.size() < sdk.calls[call].statusSize) {
             buffer.assign(sdk.calls[call].statusSize, '\0');
+        }
         const std::string& status = sdk.steps[std::min(call, sdk.steps.size() - 1)].status;
         std::copy_n(status.data(), std::min(status.size(), buffer.size()), buffer.data());
     }
@@ -133,8 +138,9 @@ void CheckReports(const InterfaceRet& result)
     Require((result.errorType == 3) == !told.statuses.empty() && told.statuses.size() <= 1 &&
                 told.xmlErrors.size() == told.statuses.size(),
             "a refusal, and nothing else, is translated and told once");
-    if (result.errorType == 2)
+    if (result.errorType == 2) {
         Require(result.errorCode == told.sdkErrors[0], "the code is what was told");
+    }
     if (result.errorType == 3) {
         Require(told.statuses[0] == PlainStatus(SentStatus()), "a refusal is read as it was sent");
         Require(result.errorCode == Translated(told.statuses[0].first) &&
@@ -145,17 +151,20 @@ void CheckReports(const InterfaceRet& result)
 
 void CheckTexts(const InterfaceRet& result, const Texts& before, const Texts& after)
 {
-    if (before.answer == "0")
+    if (before.answer == "0") {
         Require(after.answer == "0", "who wants no answer keeps the mark");
-    else
+    } else {
         Require(after.answer.size() <= LastStep().returnedSize, "an answer is cut to its size");
-    if (!result.success || before.status == "0")
+    }
+    if (!result.success || before.status == "0") {
         Require(after.status == before.status, "a status is written on success alone");
-    else
+    } else {
         Require(after.status == before.status || after.status == SentStatus(),
                 "a status is what was sent");
-    for (const auto& call : ScriptedSdk::Instance().calls)
+    }
+    for (const auto& call : ScriptedSdk::Instance().calls) {
         Require(call.isWellFilled, "every call is well-formed");
+    }
     Require(ScriptedSdk::Instance().calls.size() <= kMostSteps + 2, "growing ends");
 }
 
@@ -169,8 +178,9 @@ void Transparent(const std::string& text)
     ScriptedSdk& sdk = ScriptedSdk::Fresh();
     std::string_view rest = text;
     const unsigned form = TakeByte(rest);
-    for (const std::string_view chunk : SplitChunks(rest, kMostSteps))
+    for (const std::string_view chunk : SplitChunks(rest, kMostSteps)) {
         sdk.steps.push_back(StepOf(chunk));
+    }
 
     const Texts before{(form & 0x80U) != 0 ? "0" : "before", (form & 0x40U) != 0 ? "0" : "before"};
     Texts after = before;

@@ -29,8 +29,9 @@ template <class Records>
 void AddRoots(Words& words)
 {
     Records::ForEach([&]<class Record>() {
-        if constexpr (requires { Record::kRoot; })
+        if constexpr (requires { Record::kRoot; }) {
             words.insert(std::string("<") + Record::kRoot + ">");
+        }
     });
 }
 
@@ -80,8 +81,9 @@ Words WordsOf(const std::string& target)
         for (const char* key :
              {"request", "file",  "setting", "status", "root",  "channels",  "merge",
               "values",  "pages", "search",  "item",   "list",  "filters",   "repeat",
-              "each",    "cycle", "from",    "step",   "state", "recordings"})
+              "each",    "cycle", "from",    "step",   "state", "recordings"}) {
             words.insert(std::string("\"") + key + "\":");
+        }
         words.insert(
             {"\x1E", "{channel}", "{any}", "{n}", "deviceAbility 1", "\"a.xml\"", "PUT /"});
     } else if (target == "HttpAnswer") {
@@ -108,12 +110,13 @@ void Print(const std::string& word)
 {
     std::putchar('"');
     for (const char c : word) {
-        if (std::strchr("\"\\", c) != nullptr)
+        if (std::strchr("\"\\", c) != nullptr) {
             std::printf("\\%c", c);
-        else if (static_cast<unsigned char>(c) < 0x20)
+        } else if (static_cast<unsigned char>(c) < 0x20) {
             std::printf("\\x%02X", static_cast<unsigned>(c));
-        else
+        } else {
             std::putchar(c);
+        }
     }
     std::puts("\"");
 }
@@ -126,7 +129,8 @@ int main(int argc, char** argv)
         std::fputs("usage: fuzz_words TARGET\n", stderr);
         return 2;
     }
-    for (const std::string& word : WordsOf(argv[1]))
+    for (const std::string& word : WordsOf(argv[1])) {
         Print(word);
+    }
     return 0;
 }

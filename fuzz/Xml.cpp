@@ -1,7 +1,7 @@
 // Any bytes as an XML document: every record against a reader of the plainest kind.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/XmlExplain.h"
+#include "CapabilitySet/private/xml/XmlExplain.h"
 #include "fuzz/Check.h"
 #include "fuzz/Targets.h"
 #include "support/AbilityRecords.h"
@@ -22,14 +22,16 @@ void Compare(const std::string& text)
     const std::string name = TestSupport::RootOf<Record>();
     Record expected;
     const Document is = ReadDocument(text, name.c_str(), expected);
-    if (is == Document::Endless)
+    if (is == Document::Endless) {
         return Require(HasEmptyItem(text), "hides that its reader would never end", name);
+    }
     Require(Describe({}, Record(text)) == Describe({}, expected), "differs from the plain reading",
             name);
     if constexpr (xml::IsRecord<Record>) {
-        for (const xml::Untaken& untaken : xml::Explain<Record>(text, name.c_str()))
+        for (const xml::Untaken& untaken : xml::Explain<Record>(text, name.c_str())) {
             Require(!untaken.path.empty() && !untaken.reason.empty(), "passes over in silence",
                     name);
+        }
     }
 }
 
@@ -40,14 +42,16 @@ void Xml(const std::string& text)
     const auto compare = [&]<class Record>() {
         if constexpr (requires { Record(text); }) {
             // Whatever its root, a text that does not hold the name is no document of the record.
-            if (text.find(TestSupport::RootOf<Record>()) != std::string::npos)
+            if (text.find(TestSupport::RootOf<Record>()) != std::string::npos) {
                 Compare<Record>(text);
+            }
         }
     };
     TestSupport::XmlRecords::ForEach(compare);
     TestSupport::AbilityRecords::ForEach(compare);
-    if (text.find(BasicCapability::kRoot) == std::string::npos)
+    if (text.find(BasicCapability::kRoot) == std::string::npos) {
         Compare<BasicCapability>(text);
+    }
 }
 
 }  // namespace Fuzz

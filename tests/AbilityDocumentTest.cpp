@@ -28,15 +28,19 @@ PTZAbility Ability(const std::string& content, const std::string& attributes = "
 std::string Outline(const AbilityElement& element)
 {
     std::string outline = element.name;
-    for (const auto& [name, text] : element.attributes)
+    for (const auto& [name, text] : element.attributes) {
         outline += " " + name + "=" + text;
-    if (!element.text.empty())
+    }
+    if (!element.text.empty()) {
         outline += " '" + element.text + "'";
-    if (element.children.empty())
+    }
+    if (element.children.empty()) {
         return outline;
+    }
     outline += " {";
-    for (const AbilityElement& child : element.children)
+    for (const AbilityElement& child : element.children) {
         outline += " " + Outline(child) + ";";
+    }
     return outline + " }";
 }
 
@@ -61,12 +65,14 @@ TEST(AbilityDocumentTest, KeepsEverythingInTheDocumentsOrder)
             << content;
     }
     std::string deep = "<a>";
-    for (int depth = 2; depth < 256; ++depth)
+    for (int depth = 2; depth < 256; ++depth) {
         deep = "<a>" + deep + "</a>";
+    }
     deep.insert(deep.find("</a>"), "bottom</a>");
     std::string path = "a";
-    for (int depth = 2; depth < 256; ++depth)
+    for (int depth = 2; depth < 256; ++depth) {
         path += "/a";
+    }
     EXPECT_EQ(Ability(deep).Find(path).text, "bottom");
 }
 

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/XmlWriting.h"
+#include "CapabilitySet/private/xml/XmlWriting.h"
 #include "support/AllocationFaults.h"
 #include "support/JsonOperations.h"
 #include "support/JsonRecords.h"
@@ -147,11 +147,13 @@ bool IsBeginningOf(const Record& whole, const Record& record)
     const auto none = Describe({}, Record()).children;
     const auto members = Describe({}, record).children;
     std::size_t at = 0;
-    while (at < members.size() && SameValues(members[at], full[at]))
+    while (at < members.size() && SameValues(members[at], full[at])) {
         ++at;
+    }
     for (++at; at < members.size(); ++at) {
-        if (!SameValues(members[at], none[at]))
+        if (!SameValues(members[at], none[at])) {
             return false;
+        }
     }
     return true;
 }
@@ -195,13 +197,15 @@ TEST(AllocationFaultTest, AnXmlDocumentIsReadInPartsAndABodyWhole)
 {
     Points points;
     XmlRecords::ForEach([&points]<class Record>() {
-        if constexpr (requires(const std::string& text) { Record(text); })
+        if constexpr (requires(const std::string& text) { Record(text); }) {
             points.Add("XML documents",
                        CheckParse<Record>(Element(RootOf<Record>(), {{}, AllFields<Record>()})));
-        if constexpr (requires(const Record& record) { record.CreateXmlNodePtr(); })
+        }
+        if constexpr (requires(const Record& record) { record.CreateXmlNodePtr(); }) {
             points.Add("XML bodies", CheckBody([record = RecordGenerator(7).Make<Record>()] {
                            return xml::DumpDocument(record.CreateXmlNodePtr(), "1.0");
                        }));
+        }
     });
 }
 

@@ -100,8 +100,9 @@ TEST(BasicCapabilityTest, KeepsWhatALaterDocumentDoesNotHold)
     const LogCapture log;
     BasicCapability read(Document("<USBNum>2</USBNum><SDNum>3</SDNum>", ""));
     const BasicCapability before = read;
-    for (const char* none : {"", "<BasicCapability>", "<basicCapability/>", "no XML"})
+    for (const char* none : {"", "<BasicCapability>", "<basicCapability/>", "no XML"}) {
         read.Parse(none);
+    }
     read.Parse(static_cast<_xmlNode*>(nullptr));
     EXPECT_TRUE(SameFields(read, before));
     EXPECT_TRUE(read.valid);
@@ -125,8 +126,9 @@ TEST(BasicCapabilityTest, RemembersTheFirstFlagOfEachPair)
     EXPECT_FALSE(value) << "the first flag stays";
     EXPECT_TRUE(BasicCapability::GetIsSupper3DPTZAbility(value, "", ""));
     EXPECT_TRUE(value);
-    for (const auto& [first, second] : {std::pair{"ab", "c"}, {"bc", "a"}, {"a", ""}})
+    for (const auto& [first, second] : {std::pair{"ab", "c"}, {"bc", "a"}, {"a", ""}}) {
         EXPECT_FALSE(BasicCapability::GetIsSupper3DPTZAbility(value, first, second)) << first;
+    }
 }
 
 TEST(BasicCapabilityTest, ThreadsReadTheirOwnDocumentsAtOnce)
@@ -145,8 +147,9 @@ TEST(BasicCapabilityTest, ThreadsReadTheirOwnDocumentsAtOnce)
             }
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_THAT(wrong, testing::Each(0));
 }
 

@@ -13,7 +13,7 @@
 #include <stdexcept>
 #include <thread>
 
-#include "Device/HostileDocuments.h"
+#include "Device/hostile/HostileDocuments.h"
 
 using Device::DeviceModel;
 using Device::Response;

@@ -1,6 +1,6 @@
 // The simulated device's HTTP server, as a client on the network meets it.
 // SPDX-License-Identifier: Apache-2.0
-#include "Device/DeviceServer.h"
+#include "Device/http/DeviceServer.h"
 
 #include <curl/curl.h>
 #include <gmock/gmock.h>

@@ -269,8 +269,9 @@ TEST(EventAbilityTest, RaisesItsFlagForWhatWasReadOnly)
         // Out of order: the last one is read and the one after it is not.
         {"<VCADetection><unknown/></VCADetection><AlarmIn><alarmTime>5</alarmTime></AlarmIn>",
          true}};
-    for (const auto& [children, capable] : rows)
+    for (const auto& [children, capable] : rows) {
         EXPECT_EQ(Events(children).Capable(), capable) << children;
+    }
     const EventAbility disordered = Events(
         "<AlarmOut><alarmTime>6</alarmTime></AlarmOut><AlarmIn><alarmTime>5</alarmTime></AlarmIn>"
         "<AlarmOut><alarmTime>7</alarmTime></AlarmOut>");

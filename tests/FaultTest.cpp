@@ -20,8 +20,9 @@ using testing::ElementsAre;
 std::vector<FaultRow> Rows()
 {
     std::vector<FaultRow> rows;
-    for (auto& part : {SdkFaults(), DocumentFaults(), ClientFaults()})
+    for (auto& part : {SdkFaults(), DocumentFaults(), ClientFaults()}) {
         rows.insert(rows.end(), part.begin(), part.end());
+    }
     return rows;
 }
 
@@ -45,10 +46,11 @@ public:
         const SdkStep& last = steps.back();
         isBeyond_ =
             last.needsRoom && !subject.Is(kManager) && last.answer.size() > subject.policy.limit;
-        if (isBeyond_)
+        if (isBeyond_) {
             comes = Comes::Fails;
-        else if (comes == Comes::TooSmall)
+        } else if (comes == Comes::TooSmall) {
             comes = TooSmall();
+        }
         comes_ = comes;
     }
 
@@ -56,8 +58,9 @@ public:
     unsigned Run(const std::string& request)
     {
         ScriptedSdk& sdk = Start(steps_);
-        if (row_.prepare)
+        if (row_.prepare) {
             row_.prepare(sdk);
+        }
         const LogCapture log;
         auto around = row_.around ? row_.around() : nullptr;
         given_ = subject_.ask();
@@ -65,8 +68,9 @@ public:
         around.reset();
         CheckResult();
         CheckRequests(sdk, request);
-        if (row_.check)
+        if (row_.check) {
             row_.check(subject_, log);
+        }
         const unsigned expected = isBeyond_ ? 0 : row_.strikes ? row_.strikes(subject_) : 1;
         if (expected == UINT_MAX) {
             EXPECT_GE(struck, 1U);
@@ -92,8 +96,9 @@ private:
 
     [[nodiscard]] unsigned ExpectedError() const
     {
-        if (isBeyond_ || (steps_.size() == 1 && subject_.GrowsOn(row_.error)))
+        if (isBeyond_ || (steps_.size() == 1 && subject_.GrowsOn(row_.error))) {
             return 43;
+        }
         return row_.error == 1000 && subject_.policy.maps1000 ? 23 : row_.error;
     }
 
@@ -128,20 +133,22 @@ private:
                 CheckUnread();
                 break;
             case Comes::Survives:
-                if (given_.success)
+                if (given_.success) {
                     ExpectSuccess();
-                else
+                } else {
                     ExpectFailure(23, kUntouched);
+                }
                 break;
             case Comes::Told:
                 ExpectFailure(4711, kUntouched);
                 EXPECT_EQ(managerReport.type, 3);
                 break;
             case Comes::NoChannel:
-                if (subject_.Is(kJsonRoads))
+                if (subject_.Is(kJsonRoads)) {
                     ExpectFailure(0, kUntouched);
-                else
+                } else {
                     ExpectFailure(23, {50, 1000});
+                }
                 break;
             case Comes::Fails:
             case Comes::TooSmall:
@@ -152,10 +159,11 @@ private:
 
     void CheckUnread() const
     {
-        if (subject_.needsFlag)
+        if (subject_.needsFlag) {
             ExpectFailure(23, kUntouched);
-        else
+        } else {
             ExpectSuccess();
+        }
         if (subject_.Is(kXmlRoads)) {
             EXPECT_EQ(given_.held, Held::Defaults);
         } else {
@@ -188,8 +196,9 @@ private:
     {
         unsigned size = subject_.policy.start;
         for (const SdkCall& call : sdk.calls) {
-            if (call.kind == SdkCall::Channel)
+            if (call.kind == SdkCall::Channel) {
                 continue;
+            }
             ASSERT_NE(comes_, Comes::NoChannel) << "nothing is to be sent";
             ASSERT_TRUE(call.isZeroed && call.isWellFilled) << "of " << call.size;
             ASSERT_EQ(RequestOf(call), request);
@@ -221,8 +230,9 @@ protected:
     {
         const FaultRow& row = GetParam();
         for (const Subject& subject : subjects) {
-            if (!subject.Is(row.roads))
+            if (!subject.Is(row.roads)) {
                 continue;
+            }
             SCOPED_TRACE(subject.name);
             const ScriptedSdk& sdk = Start({Sound(subject)});
             ASSERT_TRUE(subject.ask().success);
@@ -230,8 +240,9 @@ protected:
             for (const Steps& steps : row.play(subject)) {
                 SCOPED_TRACE(steps.back().answer.substr(0, 200));
                 use([&] { return Try(row, subject, steps).Run(request); });
-                if (HasFailure())
+                if (HasFailure()) {
                     return;
+                }
             }
         }
     }

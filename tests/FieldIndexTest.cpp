@@ -1,6 +1,6 @@
 // Fields are matched in one pass exactly as the forward cursor would find them one by one.
 // SPDX-License-Identifier: Apache-2.0
-#include "CapabilitySet/private/FieldIndex.h"
+#include "CapabilitySet/private/xml/FieldIndex.h"
 
 #include <memory>
 #include <random>
@@ -9,9 +9,9 @@
 
 #include <gtest/gtest.h>
 
-#include "CapabilitySet/private/JsonReading.h"
-#include "CapabilitySet/private/MemberIndex.h"
-#include "CapabilitySet/private/XmlReading.h"
+#include "CapabilitySet/private/json/JsonReading.h"
+#include "CapabilitySet/private/json/MemberIndex.h"
+#include "CapabilitySet/private/xml/XmlReading.h"
 
 namespace
 {
@@ -45,10 +45,12 @@ protected:
     {
         index_ = FieldIndex();
         names_.clear();
-        for (std::size_t field = 0; field < fields; ++field)
+        for (std::size_t field = 0; field < fields; ++field) {
             names_.push_back("f" + std::to_string(field));
-        for (const std::string& name : names_)
+        }
+        for (const std::string& name : names_) {
             index_.Add(name.c_str(), oneRepeated != 0 && Below(oneRepeated) == 0);
+        }
         index_.Finish();
     }
 
@@ -57,13 +59,15 @@ protected:
     {
         std::vector<std::string> children;
         for (const std::string& name : names_) {
-            for (unsigned copies = Below(3); copies > 0; --copies)
+            for (unsigned copies = Below(3); copies > 0; --copies) {
                 children.push_back(name);
+            }
         }
         const unsigned disorder = Below(4);
         for (std::size_t i = 0; disorder > 0 && i < children.size(); ++i) {
-            if (Below(2 * disorder) == 0)
+            if (Below(2 * disorder) == 0) {
                 std::swap(children[i], children[Below(children.size())]);
+            }
         }
         for (unsigned i = Below(5); i > 0; --i) {
             const char* const kinds[] = {"unknown", "F0", "", "#", "f"};
@@ -91,11 +95,13 @@ protected:
         for (std::size_t field = 0; field < names_.size(); ++field) {
             found.push_back(nullptr);
             while (NextElementNamed(cursor, names_[field].c_str())) {
-                if (found.back() == nullptr)
+                if (found.back() == nullptr) {
                     found.back() = cursor;
+                }
                 cursor = cursor->next;
-                if (!index_.IsRepeated(field))
+                if (!index_.IsRepeated(field)) {
                     break;
+                }
             }
         }
         return found;
@@ -139,10 +145,12 @@ TEST_F(FieldIndexTest, FindsTheFieldsOfVeryLargeRecords)
 TEST_F(FieldIndexTest, KnowsItsNamesAndNoOthers)
 {
     MakeIndex(300, 0);
-    for (std::size_t field = 0; field < names_.size(); ++field)
+    for (std::size_t field = 0; field < names_.size(); ++field) {
         ASSERT_EQ(index_.Find(names_[field].c_str()), field);
-    for (const char* other : {"", "f", "F0", "f300", "f00", "g1"})
+    }
+    for (const char* other : {"", "f", "F0", "f300", "f00", "g1"}) {
         EXPECT_EQ(index_.Find(other), FieldIndex::kNone) << other;
+    }
     // Names that the hash cannot tell apart: alike in length and at both ends.
     FieldIndex alike;
     alike.Add("LineCodingEnableChange", false);
@@ -161,13 +169,15 @@ TEST_F(FieldIndexTest, FindsTheMembersOfVeryLargeJsonRecords)
         Json::Value object;
         for (std::size_t field = 0; field < fields; ++field) {
             index.Add(names_[field]);
-            if (field % 3 != 0)
+            if (field % 3 != 0) {
                 object[names_[field]] = static_cast<unsigned>(field);
+            }
         }
         index.Finish();
         const json::MemberMatches matches(index, object);
-        for (std::size_t field = 0; field < fields; ++field)
+        for (std::size_t field = 0; field < fields; ++field) {
             EXPECT_EQ(matches[field], json::MemberOf(object, names_[field]));
+        }
     }
 }
 

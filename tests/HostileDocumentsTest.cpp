@@ -1,6 +1,6 @@
 // Every record against everything that a broken or hostile device sends in its place.
 // SPDX-License-Identifier: Apache-2.0
-#include "Device/HostileDocuments.h"
+#include "Device/hostile/HostileDocuments.h"
 
 #include <algorithm>
 #include <set>
@@ -12,7 +12,7 @@
 #include "CapabilitySet/ChannelAbility.h"
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/XmlDocument.h"
+#include "CapabilitySet/private/xml/XmlDocument.h"
 #include "support/LogCapture.h"
 #include "support/XmlRecords.h"
 #include "support/XmlSamples.h"
@@ -56,8 +56,9 @@ Reading Read(const std::string& text)
 {
     const Record record(text);
     bool isFlagUp = false;
-    if constexpr (xml::HasValid<Record> || xml::HasCapable<Record>)
+    if constexpr (xml::HasValid<Record> || xml::HasCapable<Record>) {
         isFlagUp = xml::FlagOf(record);
+    }
     return {Describe({}, record), isFlagUp};
 }
 
@@ -94,15 +95,18 @@ const std::vector<Row>& Rows()
 /// 1: readable as this record, 0: silently none, -1: none, after a line.
 int Verdict(const Row& row, const std::string& text)
 {
-    if (text.empty())
+    if (text.empty()) {
         return 0;
+    }
     xml::Problem problem;
     const xml::Document document = xml::ParseText(text, row.form, problem);
-    if (document == nullptr)
+    if (document == nullptr) {
         return -1;
+    }
     xmlNode* root = xmlDocGetRootElement(document.get());
-    if (xml::NextElementNamed(root, row.root.c_str()))
+    if (xml::NextElementNamed(root, row.root.c_str())) {
         return 1;
+    }
     return row.tellsMismatch ? -1 : 0;
 }
 
@@ -118,8 +122,9 @@ std::size_t DocumentLines(const LogCapture& log)
 void Check(const Row& row, const HostileCase& hostile, const std::string& text)
 {
     // The readers of such lists never end on an item without children; callers ask first.
-    if (row.form == xml::Form::BlankFree && HasEmptyItem(text))
+    if (row.form == xml::Form::BlankFree && HasEmptyItem(text)) {
         return;
+    }
     const int verdict = Verdict(row, text);
     const LogCapture log;
     const Reading reading = row.read(text);
@@ -136,12 +141,14 @@ TEST(HostileDocumentsTest, FillARecordWholeOrNotAtAllWithOneLine)
 {
     for (const HostileCase& hostile : HostileCases()) {
         for (const Row& row : Rows()) {
-            if (IsLarge(hostile) && !row.takesLarge)
+            if (IsLarge(hostile) && !row.takesLarge) {
                 continue;
+            }
             SCOPED_TRACE(std::string(hostile.name) + " " + row.root);
             Check(row, hostile, MakeHostileXml(hostile, row.root, row.sample));
-            if (testing::Test::HasFailure())
+            if (testing::Test::HasFailure()) {
                 return;
+            }
         }
     }
 }

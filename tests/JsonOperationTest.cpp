@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
-#include "CapabilitySet/private/JsonOperation.h"
+#include "CapabilitySet/private/query/JsonOperation.h"
 #include "support/JsonOperations.h"
 #include "support/LogCapture.h"
 
@@ -115,8 +115,9 @@ TEST(JsonOperationTest, LeavesOfConversionsWhatFormattingWithoutArgumentsWould)
         {"%99999999999999d", ""},
         {"% %", "%"},
     };
-    for (const Case& each : cases)
+    for (const Case& each : cases) {
         EXPECT_EQ(query::FormattedCopy(each.text), each.copy) << each.text;
+    }
     const std::string signs(9000, '%');
     EXPECT_EQ(query::FormattedCopy(signs), std::string(4500, '%'));
 }
@@ -131,12 +132,14 @@ TEST(JsonOperationTest, ServesManyThreadsAtOnce)
     for (unsigned thread = 0; thread < 4; ++thread) {
         threads.emplace_back([thread] {
             const auto& rows = JsonOperations();
-            for (unsigned i = 0; i < 2 * rows.size(); ++i)
+            for (unsigned i = 0; i < 2 * rows.size(); ++i) {
                 rows[(i + 7 * thread) % rows.size()].ask("{}");
+            }
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_THAT(log.Messages(), testing::Contains("NET_ORB_STDXMLConfig failed, [50]-[9]."));
 }
 

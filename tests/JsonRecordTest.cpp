@@ -10,10 +10,10 @@
 #include <json/reader.h>
 #include <json/value.h>
 
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/FieldTags.h"
-#include "CapabilitySet/private/JsonReading.h"
+#include "CapabilitySet/private/json/JsonReading.h"
 #include "support/JsonRecords.h"
 #include "support/JsonSamples.h"
 #include "support/ReferenceJson.h"
@@ -49,8 +49,9 @@ void ReplaceEach(Json::Value& value, const Json::Value& kinds, const std::functi
         check();
         value = before;
     }
-    for (Json::Value& child : value)
+    for (Json::Value& child : value) {
         ReplaceEach(child, kinds, check);
+    }
 }
 
 TEST(JsonRecordTest, FillsFromEachKeyItsOwnMemberAlone)
@@ -81,8 +82,9 @@ TEST(JsonRecordTest, WritesBackWhatItReadAndWhatItDidNot)
         EXPECT_EQ(Parsed(record.Make()), Parsed(text)) << record.Make();
         EXPECT_EQ(Record(record.Make()).Make(), record.Make());
         Record bare(text);
-        if (!Members(Record()).empty())
+        if (!Members(Record()).empty()) {
             bare.root = Json::Value();
+        }
         EXPECT_TRUE(SameFields(Record(bare.Make()), record)) << "without what was not read";
     });
 }

@@ -203,8 +203,9 @@ struct Package
     }
     ~Package()
     {
-        if (out.outBuffer != &before)
+        if (out.outBuffer != &before) {
             delete[] static_cast<char*>(out.outBuffer);
+        }
     }
     Package(const Package&) = delete;
     Package& operator=(const Package&) = delete;

@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 
 #include "Keel/StringUtil.h"
-#include "Tool/MacAddress.h"
+#include "Tool/session/MacAddress.h"
 
 namespace
 {
@@ -59,8 +59,9 @@ Outcome Shell(const std::string& line)
     Outcome outcome;
     std::FILE* const pipe = popen(command.c_str(), "r");
     std::array<char, 4096> piece{};
-    while (const std::size_t size = std::fread(piece.data(), 1, piece.size(), pipe))
+    while (const std::size_t size = std::fread(piece.data(), 1, piece.size(), pipe)) {
         outcome.output.append(piece.data(), size);
+    }
     outcome.exitCode = WEXITSTATUS(pclose(pipe));
     return outcome;
 }

@@ -61,8 +61,9 @@ std::vector<Row> TableRows()
 {
     std::ifstream file(MAC_TABLE);
     std::vector<Row> rows;
-    for (Row row; file >> row.prefix >> row.label >> row.text;)
+    for (Row row; file >> row.prefix >> row.label >> row.text;) {
         rows.push_back(row);
+    }
     return rows;
 }
 
@@ -72,8 +73,9 @@ std::vector<std::string> WrongPrefixes(CMacCompanyHelper& helper)
     std::set<std::string> seen;
     std::vector<std::string> wrong;
     for (const Row& row : TableRows()) {
-        if (seen.insert(row.prefix).second && helper.getCompanyNameByMAc(row.prefix) != row.label)
+        if (seen.insert(row.prefix).second && helper.getCompanyNameByMAc(row.prefix) != row.label) {
             wrong.push_back(row.prefix);
+        }
     }
     return wrong;
 }
@@ -89,15 +91,18 @@ TEST(MacCompanyLoadDeathTest, KeepsWhatWasLoadedWhenMemoryRunsOut)
             CMacCompanyHelper helper;
             const bool struck = TestSupport::AllocationFault::Struck();
             const TestSupport::NoAllocationFaults pause;
-            if (!struck)
+            if (!struck) {
                 break;
+            }
             ++faults;
-            if (Added(helper).empty())
+            if (Added(helper).empty()) {
                 continue;  // loading again would make the table of all objects
+            }
             ++partly;
             helper.initialTable();
-            if (!WrongPrefixes(helper).empty())
+            if (!WrongPrefixes(helper).empty()) {
                 std::exit(1);
+            }
         }
         std::exit(faults > 20 && partly > 5 ? 0 : 2);
     };
@@ -170,8 +175,9 @@ TEST(MacCompanyHelperTest, TellsTheCompaniesThatClientsCountOn)
         {"A4E31B", ""},        {"405582001122", ""},
         {" 405582", ""},       {"", ""},
         {"not an address", ""}};
-    for (const auto& [prefix, label] : rows)
+    for (const auto& [prefix, label] : rows) {
         EXPECT_EQ(helper.getCompanyNameByMAc(prefix), label) << prefix;
+    }
 }
 
 TEST(MacCompanyHelperTest, AnUnknownPrefixIsAddedOnceAndToItsObjectAlone)
@@ -200,8 +206,9 @@ TEST(MacCompanyHelperTest, ATextAddsItsMembersThatAreTextsAndChangesNone)
         R"({"ffff02" : "second", /* a comment */ "ffff01" : "first", "number" : 1, "null" : null,
                 "list" : ["x"], "object" : {"x" : "y"}, "true" : true})");
     convert(R"({"ffff00" : "zero", "ffff01" : "later", "ffff03" : ""})");
-    for (const char* const text : {"", "{", R"({"a" : "b")", R"(["c"])", R"("d")", "null", "1"})
+    for (const char* const text : {"", "{", R"({"a" : "b")", R"(["c"])", R"("d")", "null", "1"}) {
         EXPECT_NO_THROW(convert(text)) << text;
+    }
     EXPECT_THAT(Added(helper), UnorderedElementsAre(Pair("ffff00", "zero"), Pair("ffff01", "first"),
                                                     Pair("ffff02", "second"), Pair("ffff03", "")));
 }
@@ -247,8 +254,9 @@ TEST(MacCompanyHelperTest, ObjectsAreMadeAndUsedOnManyThreadsAtOnce)
             EXPECT_THAT(Added(helper), UnorderedElementsAre(Pair(std::to_string(i), "")));
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
 }
 
 }  // namespace

@@ -181,12 +181,13 @@ TEST(PTZPresetCfgDeathTest, AnItemWithoutChildrenIsSearchedForEverAndToldBefore)
     for (const EmptyItemRow& row : kEmptyItems) {
         SCOPED_TRACE(row.document);
         EXPECT_EQ(HasEmptyItem(row.document), row.hasEmptyItem);
-        if (row.hasEmptyItem)
+        if (row.hasEmptyItem) {
             EXPECT_EXIT(
                 ReadWithin(row),
                 [](int status) { return WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM; }, "");
-        else
+        } else {
             row.read(row.document);
+        }
     }
 }
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
-#include "Device/Package.h"
+#include "Device/search/Package.h"
 #include "PelNetSDK/AnswerBody.h"
 #include "support/DeviceSteps.h"
 #include "support/ScriptedServer.h"
@@ -119,8 +119,9 @@ TEST(PackageHttpTest, OneRequestReachesTheDevice)
     ASSERT_TRUE(FetchTask(recorder, "14").success);
     int requests = 0;
     for (const Device::ServedRequest& served : recorder.EndServing()) {
-        if (served.target.find("/dataPackage/14") == std::string::npos)
+        if (served.target.find("/dataPackage/14") == std::string::npos) {
             continue;
+        }
         ++requests;
         EXPECT_EQ(served.bytes, 50U << 20);
     }
@@ -134,8 +135,9 @@ TEST(PackageHttpTest, ADownloadThatStallsEndsWithTheLogout)
     Fetched stalled;
     const auto before = TestSupport::Statistics().exchanges;
     std::thread client([&] { stalled = FetchTask(recorder, "pkg-3M"); });
-    while (TestSupport::Statistics().exchanges == before)  // until the answer has begun
+    while (TestSupport::Statistics().exchanges == before) {  // until the answer has begun
         std::this_thread::sleep_for(5ms);
+    }
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_NE(NET_ORB_Logout(recorder), 0);
     client.join();

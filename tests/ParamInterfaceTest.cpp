@@ -12,7 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
-#include "CapabilitySet/private/XmlWriting.h"
+#include "CapabilitySet/private/xml/XmlWriting.h"
 #include "support/AllocationFaults.h"
 #include "support/LogCapture.h"
 #include "support/RecordGenerator.h"
@@ -277,8 +277,9 @@ TEST(ParamInterfaceTest, ServesManyThreadsAtOnce)
             }
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
 }
 
 }  // namespace

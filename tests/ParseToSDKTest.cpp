@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "CapabilitySet/SerialAbility.h"
-#include "CapabilitySet/private/XmlReading.h"
+#include "CapabilitySet/private/xml/XmlReading.h"
 #include "support/LogCapture.h"
 #include "support/ScriptedSdk.h"
 
@@ -65,8 +65,9 @@ TEST(ParseToSDK, EveryOptionBecomesItsNumberInTheDocumentsOrder)
          {0, 1, 2, 2, 3}},
         {With(ConvertOutputDataTypeFormXmlStr), "employeeNo,cardNo", {2, 1}}};
     const LogCapture log;
-    for (const auto& [convert, options, codes] : tables)
+    for (const auto& [convert, options, codes] : tables) {
         EXPECT_EQ(convert(options), Converted(true, codes)) << options;
+    }
     EXPECT_THAT(log.Messages(), IsEmpty());
 }
 

@@ -1,6 +1,6 @@
 // Every query operation over a scripted SDK: requests, model codes, traces, threads.
 // SPDX-License-Identifier: Apache-2.0
-#include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
 
 #include <algorithm>
 #include <string>
@@ -103,8 +103,9 @@ TEST(QueryFrameTest, TellsKnownModelCodesFromTheGapsBetweenThem)
         {0x1400009, true}, {0x140000A, false}, {0x0, false},      {-1, false},
     };
     int known = 0;
-    for (int code = 0; code < 0x20 * 0x200; ++code)
+    for (int code = 0; code < 0x20 * 0x200; ++code) {
         known += comm_method::isDeviceModelError(code / 0x200 * 0x100000 + code % 0x200) ? 1 : 0;
+    }
     EXPECT_EQ(known, 195);
     for (const Case& each : cases) {
         sdk.modelCode = each.model;
@@ -123,8 +124,9 @@ TEST(QueryFrameTest, ServesManyThreadsAtOnce)
     sdk.keepsCalls = false;
     sdk.steps = {{.answer = "<a><b c='1'>x</b></a>"}, {.error = 1000}, {.answer = "no document"}};
     for (const OperationRow& row : Operations()) {
-        if (row.code == 530 || row.code == 2222)
+        if (row.code == 530 || row.code == 2222) {
             sdk.texts[row.code] = row.document;
+        }
     }
     std::vector<std::thread> threads;
     for (unsigned thread = 0; thread < 4; ++thread) {
@@ -138,8 +140,9 @@ TEST(QueryFrameTest, ServesManyThreadsAtOnce)
             }
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 #include "support/XmlRecords.h"
 #include "support/XmlSamples.h"
 #include "support/XmlTree.h"
@@ -68,8 +68,9 @@ const std::vector<Row>& Rows()
                             LayoutOf<Record>(kFirstNumber), &Read<Record>, sizeof(Record),
                             alignof(Record), xml::HasValid<Record> || xml::HasCapable<Record>});
             for (FieldLayout& field : rows.back().fields) {
-                if (!TestSupport::IsLegal(field))
+                if (!TestSupport::IsLegal(field)) {
                     field.element.clear();
+                }
             }
         });
         return rows;
@@ -111,8 +112,9 @@ TEST(RecordFieldsTest, EachNameFillsItsOwnMemberAndNoOther)
         std::string whole;
         for (std::size_t field = 0; field < row.fields.size(); ++field) {
             const std::string& element = row.fields[field].element;
-            if (element.empty())
+            if (element.empty()) {
                 continue;
+            }
             SCOPED_TRACE(element);
             const Reading reading = row.read(&element);
             ExpectOneFilled(row, field, reading.record, untouched);
@@ -136,8 +138,9 @@ TEST(RecordFieldsTest, WhatIsMissingOrOutOfOrderKeepsItsDefault)
             EXPECT_EQ(reading.isFlagUp, untouched.isFlagUp) << content;
         }
         std::string reversed;
-        for (const FieldLayout& field : row.fields)
+        for (const FieldLayout& field : row.fields) {
             reversed.insert(0, field.element);
+        }
         EXPECT_EQ(row.read(&reversed).record, row.read(&row.fields.front().element).record)
             << "the cursor goes for the first field, and past all others";
     }

@@ -47,12 +47,13 @@ constexpr log::Place kHere{"RecordReadingTest.cpp", "Read", 1};
 template <class Record>
 void ReadXml(const std::string& text, Record& record)
 {
-    if constexpr (requires { record.Parse(text); })
+    if constexpr (requires { record.Parse(text); }) {
         record.Parse(text);
-    else
+    } else {
         xml::WithRoot(text, RootOf<Record>(), kHere, [&record](xmlNode* root) {
             record.Parse(xml::TakesFirstChild<Record> ? root->children : root);
         });
+    }
 }
 
 template <class Record>
@@ -60,8 +61,9 @@ bool XmlDiffers(const std::string& text)
 {
     Record expected;
     const auto document = reference::ReadDocument(text, RootOf<Record>(), expected);
-    if (document == reference::Document::Endless)
+    if (document == reference::Document::Endless) {
         return !HasEmptyItem(text);
+    }
     Record record;
     ReadXml(text, record);
     return !IsSame(record, expected);
@@ -108,8 +110,9 @@ std::vector<std::string> LoadDocuments(const char* extension)
 {
     std::vector<std::filesystem::path> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(DEVICE_PROFILES)) {
-        if (entry.path().extension() == extension && entry.path().stem() != "manifest")
+        if (entry.path().extension() == extension && entry.path().stem() != "manifest") {
             files.push_back(entry.path());
+        }
     }
     std::ranges::sort(files);
     std::vector<std::string> documents;
@@ -141,8 +144,9 @@ Row XmlRow(const std::string& elements)
     for (const std::string& document : XmlDocuments()) {
         Record record;
         if (reference::ReadDocument(document, RootOf<Record>(), record) ==
-            reference::Document::Fits)
+            reference::Document::Fits) {
             row.samples.push_back(document);
+        }
     }
     return row;
 }
@@ -159,8 +163,9 @@ Row JsonRow(const std::string& sample)
     for (const std::string& document : JsonDocuments()) {
         Record record;
         reference::ReadText(document, record);
-        if (!IsSame(record, Record()) && row.samples.size() < kMost)
+        if (!IsSame(record, Record()) && row.samples.size() < kMost) {
             row.samples.push_back(document);
+        }
     }
     return row;
 }
@@ -205,12 +210,14 @@ public:
 private:
     void Check(const std::string& text, bool (*isWrong)(const std::string& text))
     {
-        if (!isWrong(text))
+        if (!isWrong(text)) {
             return;
+        }
         // A document can be made smaller, what is left of one only by further cuts.
         const std::string smallest = isWrong == row_.differs ? Smallest(text, row_.differs) : text;
-        if (worst_.empty() || smallest.size() < worst_.size())
+        if (worst_.empty() || smallest.size() < worst_.size()) {
             worst_ = smallest;
+        }
     }
 
     const Row& row_;
@@ -239,10 +246,11 @@ TEST_P(RecordReadingTest, ASampleCutAtAnyByteIsReadAsAPlainReaderReadsIt)
                 cutEverywhere.insert(sample).second ? 1 : 1 + sample.size() / kLong;
             for (std::size_t size = 0; size <= sample.size(); size += step) {
                 const std::string text = sample.substr(0, size);
-                if (size <= end)
+                if (size <= end) {
                     comparison.CheckPart(text);
-                else
+                } else {
                     comparison.Check(text);
+                }
                 ++texts;
             }
         }

@@ -17,7 +17,7 @@
 #include "CapabilitySet/ChannelAbility.h"
 #include "CapabilitySet/EventAbility.h"
 #include "CapabilitySet/XMLParamInterface/SystemConfig.h"
-#include "CapabilitySet/private/XmlExplain.h"
+#include "CapabilitySet/private/xml/XmlExplain.h"
 
 namespace
 {
@@ -72,8 +72,9 @@ struct AllKinds
 std::string Outline(const RecordNode& node)
 {
     std::string outline = node.name + ":" + "RLFNTOG"[static_cast<int>(node.kind)] + node.text;
-    for (const RecordNode& child : node.children)
+    for (const RecordNode& child : node.children) {
         outline += (&child == &node.children.front() ? "[" : " ") + Outline(child);
+    }
     outline += node.children.empty() ? "" : "]";
     return node.announced ? outline : "(" + outline + ")";
 }
@@ -158,8 +159,9 @@ std::vector<std::string> Explained(const std::string& content, const char* root)
 {
     std::vector<std::string> lines;
     const std::string text = std::string("<") + root + ">" + content + "</" + root + ">";
-    for (const xml::Untaken& each : xml::Explain<Record>(text, root))
+    for (const xml::Untaken& each : xml::Explain<Record>(text, root)) {
         lines.push_back(std::to_string(each.line) + " " + each.path + ": " + each.reason);
+    }
     return lines;
 }
 

@@ -90,8 +90,9 @@ TEST_F(Manager, OnlyABarePrefixHasAUrlType)
         {"put /", SDKInterfaceManager::URL_UNKNOWN},
         {"PUT ", SDKInterfaceManager::URL_UNKNOWN},
         {"", SDKInterfaceManager::URL_UNKNOWN}};
-    for (const auto& [line, type] : table)
+    for (const auto& [line, type] : table) {
         EXPECT_EQ(manager.RequestUrl2URLType(line), type) << line;
+    }
 }
 
 TEST_F(Manager, EachWrapperPassesItsOwnBuffersAndTheLineAsItStands)

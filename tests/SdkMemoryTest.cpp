@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "Device/Package.h"
+#include "Device/search/Package.h"
 #include "support/AllocationFaults.h"
 #include "support/DeviceSteps.h"
 
@@ -64,8 +64,9 @@ protected:
         [[nodiscard]] int Failures() const
         {
             int failures = 0;
-            for (std::size_t i = 0; i < errors.size(); ++i)
+            for (std::size_t i = 0; i < errors.size(); ++i) {
                 failures += errors[i] != kExpected[i] ? 1 : 0;
+            }
             return failures;
         }
     };
@@ -96,8 +97,9 @@ protected:
             return visit;
         }
         constexpr char kLine[] = "GET /TARN/SDT/HFPD/search/dataPackage/pkg-39000?format=json";
-        if (NET_ORB_SDKChannelToTARN(user, 33, 1) != 17)
+        if (NET_ORB_SDKChannelToTARN(user, 33, 1) != 17) {
             visit.errors[1] = NET_ORB_GetLastError();
+        }
         visit.errors[2] = Ask(user, kLine, buffer.data(), 100);
         visit.errors[3] = Ask(user, kLine, buffer.data(), buffer.size());
         visit.errors[4] = Ask(user, "GET /TARN/nothing?format=json", buffer.data(), 100);

@@ -4,7 +4,7 @@
 #include <thread>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
-#include "Device/Package.h"
+#include "Device/search/Package.h"
 #include "Keel/StringUtil.h"
 #include "support/DeviceSteps.h"
 

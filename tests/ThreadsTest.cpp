@@ -153,8 +153,9 @@ TEST(ThreadsTest, EachThreadGetsItsOwnAnswersAndItsOwnLastError)
     const Asked networkSwitch(Road::InProcess, "switch");
     const std::vector<Row> rows = RowsOf(dome, remoteDome, recorder, alarmHost, networkSwitch);
     std::vector<Given> alone;
-    for (const Row& row : rows)
+    for (const Row& row : rows) {
         alone.push_back(row.Ask());
+    }
     for (std::size_t row = 0; row < rows.size(); ++row) {
         EXPECT_EQ(alone[row].result, row + 3 < rows.size()) << rows[row].name;
         EXPECT_EQ(alone[row].lastError != 0, row + 3 >= rows.size()) << rows[row].name;
@@ -168,15 +169,18 @@ TEST(ThreadsTest, EachThreadGetsItsOwnAnswersAndItsOwnLastError)
             std::size_t row = thread;
             for (unsigned i = 0; i < kOperations / kThreads; ++i) {
                 row = (row + 2 * thread + 1) % rows.size();
-                if (rows[row].Ask() != alone[row])
+                if (rows[row].Ask() != alone[row]) {
                     ++wrong[row];
+                }
             }
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
-    for (std::size_t row = 0; row < rows.size(); ++row)
+    }
+    for (std::size_t row = 0; row < rows.size(); ++row) {
         EXPECT_EQ(wrong[row], 0U) << rows[row].name;
+    }
 }
 
 }  // namespace

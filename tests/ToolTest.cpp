@@ -16,9 +16,9 @@
 #include <json/value.h>
 #include <json/writer.h>
 
-#include "Device/DeviceServer.h"
-#include "Device/HostileDocuments.h"
-#include "Device/Package.h"
+#include "Device/hostile/HostileDocuments.h"
+#include "Device/http/DeviceServer.h"
+#include "Device/search/Package.h"
 #include "support/ToolRun.h"
 
 namespace
@@ -82,8 +82,9 @@ struct Line
 void PrintTo(const Line& line, std::ostream* out)
 {
     *out << "capset";
-    for (const std::string& argument : line.arguments)
+    for (const std::string& argument : line.arguments) {
         *out << ' ' << argument;
+    }
 }
 
 class CommandLines : public testing::TestWithParam<Line>

@@ -8,18 +8,18 @@
 #include <gtest/gtest.h>
 #include <json/writer.h>
 
-#include "Base64.h"
 #include "CapabilitySet/RecordTree.h"
-#include "Connection.h"
-#include "Document.h"
-#include "Failure.h"
-#include "FaultArgument.h"
-#include "Grid.h"
-#include "JsonOutput.h"
-#include "Progress.h"
-#include "Records.h"
-#include "Table.h"
-#include "Text.h"
+#include "Tool/command/FaultArgument.h"
+#include "Tool/record/Document.h"
+#include "Tool/record/JsonOutput.h"
+#include "Tool/record/Records.h"
+#include "Tool/record/Table.h"
+#include "Tool/session/Base64.h"
+#include "Tool/session/Connection.h"
+#include "Tool/session/Failure.h"
+#include "Tool/terminal/Grid.h"
+#include "Tool/terminal/Progress.h"
+#include "Tool/terminal/Text.h"
 
 namespace
 {

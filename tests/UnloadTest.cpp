@@ -29,8 +29,9 @@ class Copy
 public:
     Copy(const fs::path& folder, const char* name) : file_(folder / name)
     {
-        if (!fs::exists(file_))
+        if (!fs::exists(file_)) {
             fs::copy_file(LIBRARY, file_);
+        }
         handle_ = dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL);
         // The exported query, by its name in the library.
         ask_ = reinterpret_cast<Query*>(
@@ -64,8 +65,9 @@ std::size_t Lines(const char* file, const std::string& part)
 {
     std::ifstream lines(std::string("/proc/self/") + file);
     std::size_t count = 0;
-    for (std::string line; std::getline(lines, line);)
+    for (std::string line; std::getline(lines, line);) {
         count += line.find(part) != std::string::npos ? 1 : 0;
+    }
     return count;
 }
 
@@ -86,8 +88,9 @@ void UseBoth(const fs::path& folder, int userID)
         threads[i] =
             std::thread([&, i] { sockets[i] = (i % 2 == 0 ? first : second).UsbSockets(userID); });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(std::count(sockets.begin(), sockets.end(), sockets.front()), 4);
     EXPECT_GT(sockets.front(), 0);
     EXPECT_GT(Lines("maps", folder.string()), 2U);

@@ -39,8 +39,9 @@ Given AskInto(Query query)
     Given given{.err = 77};
     given.success = query(record, given.err);
     given.isFilled = !SameFields(record, Record());
-    if constexpr (requires { record.Capable(); })
+    if constexpr (requires { record.Capable(); }) {
         given.isFilled = given.isFilled || record.Capable();
+    }
     return given;
 }
 
@@ -181,8 +182,9 @@ TEST_P(WireFaultTest, StrikesComesOutAsItShouldAndPasses)
 {
     const Row& row = GetParam();
     for (const Subject& subject : kSubjects) {
-        if ((subject.family & row.families) == 0)
+        if ((subject.family & row.families) == 0) {
             continue;
+        }
         SCOPED_TRACE(subject.name);
         Asked device(Road::Http, subject.profile,
                      row.error == NET_ORB_NETWORK_RECV_TIMEOUT ? kShortTimeout : 0);

@@ -24,8 +24,9 @@ protected:
     int At(const char* profile)
     {
         auto& device = devices_[profile];
-        if (!device)
+        if (!device) {
             device = std::make_unique<Asked>(GetParam(), profile);
+        }
         return *device;
     }
 
@@ -248,17 +249,19 @@ void WireTest::Tasks()
         out.progress.value == 25);
     ASK("recorder", HFPDSearchFaceResult, J::GetHFPDSearchRecordData(out, "12", err, user),
         out.numOfMatches == 20);
-    for (const auto& [action, code] : {std::pair{0, 1}, {1, 1}, {3, 1}, {3, 1}, {1, 4}, {2, 1}})
+    for (const auto& [action, code] : {std::pair{0, 1}, {1, 1}, {3, 1}, {3, 1}, {1, 4}, {2, 1}}) {
         ASK("recorder", JsonStatus, J::GetHFPDManagementTask(out, action, 12, err, user),
             out.statusCode == code);
+    }
     CaptureSearchDescription women;
     women.gender = "female";
     for (const Package& package :
          {ASK("recorder", Package, J::GetFCDataPackageByJson(women, out, err, user),
               out.returnedSize == 90 * 24576),
           ASK("recorder", Package, J::GetHFPDDataPackage(out, "pkg-3K", err, user),
-              out.returnedSize == 3072)})
+              out.returnedSize == 3072)}) {
         delete[] static_cast<char*>(package.outBuffer);
+    }
 }
 
 void WireTest::AlarmHost()
@@ -318,9 +321,10 @@ void WireTest::Detectors()
         out.cmd.opt.size() == 3 && out.channels.size() == 4);
     DetectorSilence command;
     command.cmd = "reset";
-    for (const auto& [first, second] : {std::pair{5, -1}, {4, 1}})
+    for (const auto& [first, second] : {std::pair{5, -1}, {4, 1}}) {
         ASK("alarmhost", JsonStatus, J::SetDetectorSilence(out, command, err, first, second, user),
             out.statusCode == 1);
+    }
     ASK("alarmhost", DetectorStates, J::GetDetectorStates(out, err, user),
         out.detectors.size() == 8 && out.detectors[4].Temperature.status == "normal" &&
             out.detectors[5].Gas.status == "expired");
@@ -343,8 +347,9 @@ std::set<std::string> Declared(const char* header)
     const std::string text(std::istreambuf_iterator<char>(file), {});
     const std::regex operation("static bool (\\w+)\\(");
     std::set<std::string> names;
-    for (std::sregex_iterator at(text.begin(), text.end(), operation), end; at != end; ++at)
+    for (std::sregex_iterator at(text.begin(), text.end(), operation), end; at != end; ++at) {
         names.insert("J::" + (*at)[1].str());
+    }
     return names;
 }
 

@@ -1,6 +1,6 @@
 // How documents are parsed: as libxml2 does, but silent and on guard.
 // SPDX-License-Identifier: Apache-2.0
-#include "CapabilitySet/private/XmlDocument.h"
+#include "CapabilitySet/private/xml/XmlDocument.h"
 
 #include <random>
 #include <string>
@@ -52,8 +52,9 @@ std::string ParsedByLibrary(const std::string& text, Form form)
                                                 nullptr, "UTF-8", XML_PARSE_NOBLANKS));
     const xmlError* const error = xmlGetLastError();
     xmlSetStructuredErrorFunc(nullptr, nullptr);
-    if (document != nullptr)
+    if (document != nullptr) {
         return Dump(document.get());
+    }
     return error == nullptr ? "0: " : std::to_string(error->line) + ": " + error->message;
 }
 
@@ -67,23 +68,28 @@ const std::string kGbk = "<?xml version='1.0' encoding='GBK'?><root><a>\xD6\xD0<
 std::vector<std::string> BadDocuments()
 {
     std::string flood = "<root";
-    for (int i = 0; i <= 1000; ++i)
+    for (int i = 0; i <= 1000; ++i) {
         flood += " a" + std::to_string(i) + "='x'";
+    }
     std::string scopes;
     for (int depth = 0; depth < 6; ++depth) {
         scopes += "<r";
-        for (int i = 0; i < 200; ++i)
+        for (int i = 0; i < 200; ++i) {
             scopes += " xmlns:n" + std::to_string(200 * depth + i) + "='u'";
+        }
         scopes += ">";
     }
-    for (int depth = 0; depth < 6; ++depth)
+    for (int depth = 0; depth < 6; ++depth) {
         scopes += "</r>";
+    }
     std::string declared = "<!DOCTYPE r [<!ATTLIST b";
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         declared += " a" + std::to_string(i) + " CDATA '" + std::string(100, 'x') + "'";
+    }
     declared += ">]><r>";
-    for (int i = 0; i < 10; ++i)
+    for (int i = 0; i < 10; ++i) {
         declared += "<b/>";
+    }
     return {"{\"json\": 1}",
             "<root>",
             "<root></other>",
@@ -105,8 +111,9 @@ std::vector<std::string> BadDocuments()
             "<?xml version='1.0' encoding='UTF-16'?><root/>",
             [] {
                 std::string deep;
-                for (int i = 0; i < 1000; ++i)
+                for (int i = 0; i < 1000; ++i) {
                     deep += "<d>";
+                }
                 return deep;
             }()};
 }
@@ -136,15 +143,17 @@ TEST(XmlDocumentTest, NamesTheGuardThatRefused)
         {BadDocuments()[16], "1: An element has more than 1000 attributes"},
         {BadDocuments()[17], "1: The document declares values for too many attributes"},
         {std::string(), "0: "}};
-    for (const auto& [document, problem] : cases)
+    for (const auto& [document, problem] : cases) {
         EXPECT_EQ(Parsed(document), problem) << document.substr(0, 60);
+    }
 }
 
 TEST(XmlDocumentTest, RefusesADocumentWhoseNamesWouldTakeMinutes)
 {
     std::string names = "<r>";
-    for (int i = 0; i < 200'000; ++i)
+    for (int i = 0; i < 200'000; ++i) {
         names += "<n" + std::to_string(i) + "/>";
+    }
     Problem problem;
     EXPECT_EQ(ParseText(names + "</r>", Form::Plain, problem), nullptr);
 }
@@ -152,15 +161,18 @@ TEST(XmlDocumentTest, RefusesADocumentWhoseNamesWouldTakeMinutes)
 TEST(XmlDocumentTest, AcceptsWhatOnlyLooksLikeAFlood)
 {
     std::string quotes;
-    for (int i = 0; i < 3000; ++i)
+    for (int i = 0; i < 3000; ++i) {
         quotes += "\"member" + std::to_string(i) + "\": \"value of it\", ";
+    }
     std::string most = "<r";
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         most += " a" + std::to_string(i) + "='1'";
+    }
     for (const std::string& document :
          {"<r><![CDATA[{" + quotes + "}]]></r>", "<r><!-- " + quotes + " --></r>",
-          "<r>" + quotes + "</r>", most + "/>", most + ">" + std::string(70'000, 'x') + "</r>"})
+          "<r>" + quotes + "</r>", most + "/>", most + ">" + std::string(70'000, 'x') + "</r>"}) {
         EXPECT_EQ(Parsed(document), ParsedByLibrary(document, Form::Plain));
+    }
     // A long text that is no document at all is told by the parser's own words.
     const std::string json = "{" + quotes + "}";
     EXPECT_EQ(Parsed(json), ParsedByLibrary(json, Form::Plain));
@@ -187,17 +199,20 @@ TEST(XmlDocumentTest, GivesTheTreesAndProblemsOfLibxml2ForMutatedDocuments)
         };
         for (unsigned edits = random() % 4; edits > 0; --edits) {
             const std::size_t at = random() % text.size();
-            if (random() % 3 == 0)
+            if (random() % 3 == 0) {
                 text.erase(at, 1 + random() % 6);
-            else if (random() % 2 == 0)
+            } else if (random() % 2 == 0) {
                 text.insert(at, 1, marks[random() % marks.size()]);
-            else
+            } else {
                 text[at] = marks[random() % marks.size()];
+            }
         }
-        if (text.find("<!ENTITY") != std::string::npos)
+        if (text.find("<!ENTITY") != std::string::npos) {
             continue;
-        for (const Form form : {Form::Plain, Form::BlankFree})
+        }
+        for (const Form form : {Form::Plain, Form::BlankFree}) {
             ASSERT_EQ(told(Parsed(text, form)), told(ParsedByLibrary(text, form))) << text;
+        }
     }
 }
 

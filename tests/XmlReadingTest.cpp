@@ -1,6 +1,6 @@
 // The forward cursor, texts and attributes of nodes, and values from them.
 // SPDX-License-Identifier: Apache-2.0
-#include "CapabilitySet/private/XmlReading.h"
+#include "CapabilitySet/private/xml/XmlReading.h"
 
 #include <stdexcept>
 #include <string>
@@ -54,8 +54,9 @@ TEST(XmlReadingTest, ReadsTextInOnePieceAndInMany)
         {"<a><!-- alone --></a>", ""},
         {"<!DOCTYPE a [<!ENTITY e 'deep'>]><a>&e; water</a>", "deep water"},
     };
-    for (const auto& [document, text] : cases)
+    for (const auto& [document, text] : cases) {
         EXPECT_EQ(GetNodeString(XmlTree(document).Root()), text) << document;
+    }
     EXPECT_EQ(GetNodeString(XmlTree("<a><?Default 5?></a>").First()), "5");
     EXPECT_EQ(GetNodeString(nullptr), "");
     EXPECT_EQ(GetNodeInt(nullptr), 0);
@@ -67,10 +68,12 @@ TEST(XmlReadingTest, ReadsTextInOnePieceAndInMany)
 
 TEST(XmlReadingTest, TakesOnlyTwoTextsForTrue)
 {
-    for (const char* text : {"true", "1"})
+    for (const char* text : {"true", "1"}) {
         EXPECT_TRUE(GetNodeBool(XmlTree(std::string("<a>") + text + "</a>").Root())) << text;
-    for (const char* text : {"", "True", "TRUE", " true", "true ", "0", "01", "2", "yes"})
+    }
+    for (const char* text : {"", "True", "TRUE", " true", "true ", "0", "01", "2", "yes"}) {
         EXPECT_FALSE(GetNodeBool(XmlTree(std::string("<a>") + text + "</a>").Root())) << text;
+    }
     EXPECT_FALSE(GetNodeBool(nullptr));
 }
 

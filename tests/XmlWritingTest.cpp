@@ -1,6 +1,6 @@
 // Request documents: every record that is written reads back as itself, whatever it holds.
 // SPDX-License-Identifier: Apache-2.0
-#include "CapabilitySet/private/XmlWriting.h"
+#include "CapabilitySet/private/xml/XmlWriting.h"
 
 #include <clocale>
 #include <limits>
@@ -12,7 +12,7 @@
 
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
-#include "CapabilitySet/private/XmlReading.h"
+#include "CapabilitySet/private/xml/XmlReading.h"
 #include "support/LogCapture.h"
 #include "support/RecordGenerator.h"
 #include "support/XmlTree.h"
@@ -64,8 +64,9 @@ std::string Skeleton(const xmlNode* element)
 {
     std::string children;
     for (const xmlNode* child = element->children; child != nullptr; child = child->next) {
-        if (child->type == XML_ELEMENT_NODE)
+        if (child->type == XML_ELEMENT_NODE) {
             children += (children.empty() ? "" : ",") + Skeleton(child);
+        }
     }
     const std::string name = reinterpret_cast<const char*>(element->name);
     return children.empty() ? name : name + "(" + children + ")";
@@ -79,10 +80,11 @@ Record WithOneItemEach()
     Record::Fields(record, [](const char* /*name*/, auto& member, auto... /*how*/) {
         if constexpr (requires { member.push_back(member.front()); }) {
             using Item = std::remove_cvref_t<decltype(member.front())>;
-            if constexpr (requires { typename Item::element_type; })
+            if constexpr (requires { typename Item::element_type; }) {
                 member.push_back(std::make_shared<typename Item::element_type>());
-            else
+            } else {
                 member.push_back({});
+            }
         } else if constexpr (tree::HasFields<std::remove_cvref_t<decltype(member)>>) {
             member = WithOneItemEach<std::remove_cvref_t<decltype(member)>>();
         }
@@ -101,10 +103,11 @@ template <class Record>
 BodyRow RowOf(const char* skeleton, const char* version = nullptr)
 {
     auto record = WithOneItemEach<Record>();
-    if constexpr (requires { record.createXml(); })
+    if constexpr (requires { record.createXml(); }) {
         return {record.createXml(), skeleton, version};
-    else
+    } else {
         return {Body(record), skeleton, version};
+    }
 }
 
 TEST(XmlBodyTest, HasEveryMemberInItsOrderUnderItsRootAndVersion)
@@ -219,8 +222,9 @@ TEST(XmlBodyTest, WritesDecimalNumbersAsAStreamDoesAndLosesNoDigit)
                                                    {1234567.5, "1234567.5"},
                                                    {0.1 + 0.2, "0.30000000000000004"},
                                                    {5e-324, "4.94066e-324"}};
-    for (const auto& [value, text] : rows)
+    for (const auto& [value, text] : rows) {
         EXPECT_EQ(xml::TextOfValue(value), text);
+    }
     EXPECT_EQ(xml::TextOfValue(std::numeric_limits<double>::max()).size(), 309U);
 }
 

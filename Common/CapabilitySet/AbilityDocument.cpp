@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "CapabilitySet/private/XmlDocument.h"
+#include "CapabilitySet/private/xml/XmlDocument.h"
 
 namespace CapabilitySet
 {
@@ -15,8 +15,9 @@ namespace
 std::string QualifiedName(const xmlNs* space, const char* name)
 {
     std::string qualified;
-    if (space != nullptr && space->prefix != nullptr)
+    if (space != nullptr && space->prefix != nullptr) {
         qualified = xml::XmlCharToString(space->prefix) + ":";
+    }
     return qualified + name;
 }
 
@@ -43,14 +44,16 @@ AbilityElement CopyElement(const xmlNode* node)
     element.name = xml::XmlCharToString(node->name);
     CopyAttributes(node, element);
     for (const xmlNode* child = node->children; child != nullptr; child = child->next) {
-        if (child->type == XML_ELEMENT_NODE)
+        if (child->type == XML_ELEMENT_NODE) {
             element.children.push_back(CopyElement(child));
-        else if (child->type == XML_TEXT_NODE || child->type == XML_CDATA_SECTION_NODE)
+        } else if (child->type == XML_TEXT_NODE || child->type == XML_CDATA_SECTION_NODE) {
             element.text += xml::XmlCharToString(child->content);
+        }
     }
     const bool blank = element.text.find_first_not_of(" \t\r\n") == std::string::npos;
-    if (blank && !element.children.empty())
+    if (blank && !element.children.empty()) {
         element.text.clear();
+    }
     return element;
 }
 
@@ -66,8 +69,9 @@ const AbilityElement& AbilityElement::Find(std::string_view path) const
         path.remove_prefix(std::min(slash + 1, path.size()));
         const auto child = std::find_if(element->children.begin(), element->children.end(),
                                         [wanted](const auto& each) { return each.name == wanted; });
-        if (child == element->children.end())
+        if (child == element->children.end()) {
             return nothing;
+        }
         element = &*child;
     }
     return *element;
@@ -90,12 +94,14 @@ void AbilityDocument::ParseDocument(const std::string& text, const char* rootNam
 
 void AbilityDocument::ParseElement(_xmlNode* element)
 {
-    if (element == nullptr)
+    if (element == nullptr) {
         return;
+    }
     xml::EndAtException([&] {
         AbilityElement read = CopyElement(element);
-        if (read.children.empty())
+        if (read.children.empty()) {
             return;
+        }
         root = std::move(read);
         capable = true;
     });

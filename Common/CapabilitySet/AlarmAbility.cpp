@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/RequestXml.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 
 namespace CapabilitySet
 {
@@ -41,8 +41,9 @@ bool AlarmAbility::GetAlarmAbility(AlarmAbility& out, unsigned int& err, const i
     return query::Fill(out, err, operation, [&]() -> std::unique_ptr<query::Request> {
         int protocolChannel = 0;
         if (!query::ToProtocolChannel(operation, userID, static_cast<int>(channel), protocolChannel,
-                                      err))
+                                      err)) {
             return nullptr;
+        }
         SetAlarmQueryHandle(userID);
         return std::make_unique<query::DeviceAbilityRequest>(
             userID, 10, query::RequestXml(kRoot).Child("channelID", protocolChannel).Text());

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/OptionTypes.h"
-#include "CapabilitySet/private/FieldTags.h"
 
 struct _xmlNode;
 

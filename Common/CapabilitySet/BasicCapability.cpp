@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/BasicCapability.h"
 
-#include "CapabilitySet/private/FirstSavedCache.h"
-#include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/KeepFirstCache.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 
 namespace CapabilitySet
 {
 namespace
 {
 
-using PtzCache = FirstSavedCache<int, bool>;
+using PtzCache = KeepFirstCache<int, bool>;
 
 PtzCache& Support3DPTZ()
 {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "CapabilitySet/CapabilityElements.h"
-#include "CapabilitySet/private/FieldTags.h"
+#include "CapabilitySet/FieldTags.h"
 
 struct _xmlNode;
 

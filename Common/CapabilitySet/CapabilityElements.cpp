@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/CapabilityElements.h"
 
-#include "CapabilitySet/private/JsonReading.h"
-#include "CapabilitySet/private/XmlReading.h"
+#include "CapabilitySet/private/json/JsonReading.h"
+#include "CapabilitySet/private/xml/XmlReading.h"
 
 namespace CapabilitySet
 {
@@ -14,13 +14,15 @@ namespace
 /// or it holds no text.
 bool ReadNumber(xmlNode*& cursor, const char* name, unsigned int& value)
 {
-    if (!xml::NextElementNamed(cursor, name))
+    if (!xml::NextElementNamed(cursor, name)) {
         return false;
+    }
     std::string spare;
     const std::string_view text = xml::TextOf(cursor, spare);
     cursor = cursor->next;
-    if (text.empty())
+    if (text.empty()) {
         return false;
+    }
     value = StringToUInt(text);
     return true;
 }
@@ -34,8 +36,9 @@ bool IsNamed(const xmlNode* node, const char* name)
 
 void OptElement<std::string>::Parse(_xmlNode* element)
 {
-    if (element == nullptr)
+    if (element == nullptr) {
         return;
+    }
     xml::EndAtException([&] {
         std::string spare;
         std::string_view text;
@@ -56,32 +59,38 @@ void MinMaxElement::Parse(_xmlNode* firstChild)
         xmlNode* cursor = firstChild;
         const bool hasMin = ReadNumber(cursor, "Min", min);
         const bool hasMax = ReadNumber(cursor, "Max", max);
-        if (!hasMin || !hasMax)
+        if (!hasMin || !hasMax) {
             return;
-        if (ReadNumber(cursor, "Default", def))
+        }
+        if (ReadNumber(cursor, "Default", def)) {
             hasDefault = true;
+        }
         capable = true;
     });
 }
 
 void MinMaxElement::ParseProp(_xmlNode* element)
 {
-    if (element == nullptr)
+    if (element == nullptr) {
         return;
+    }
     xml::EndAtException([&] {
         // Kept: devices announce a range they do not have as 0 to 0.
-        if (xml::ReadBounds(element, min, max) && (min != 0 || max != 0))
+        if (xml::ReadBounds(element, min, max) && (min != 0 || max != 0)) {
             capable = true;
+        }
     });
 }
 
 void MinMaxPropElement::Parse(_xmlNode* element)
 {
-    if (element == nullptr)
+    if (element == nullptr) {
         return;
+    }
     xml::EndAtException([&] {
-        if (xml::ReadBounds(element, min, max))
+        if (xml::ReadBounds(element, min, max)) {
             capable = true;
+        }
     });
 }
 
@@ -93,11 +102,13 @@ void RangeElement::Parse(_xmlNode* start)
             std::vector<std::string> pieces;
             xml::SplitOptions(pieces, xml::GetNodeString(cursor));
             range.clear();
-            for (const std::string& piece : pieces)
+            for (const std::string& piece : pieces) {
                 range.push_back(StringToInt(piece));
+            }
         }
-        if (range.empty())
+        if (range.empty()) {
             return;
+        }
         // Kept: clients rely on a default being taken only from the node reading starts at.
         if (start != nullptr && IsNamed(start, "Default")) {
             const std::string text = xml::GetNodeString(start);
@@ -121,12 +132,14 @@ void MinMaxOrRangeElement::Parse(_xmlNode* firstChild)
             next();
             next();
             // Kept: the default belongs to the bounds, so that the list never sees it.
-            if (start != nullptr && IsNamed(start, "Default"))
+            if (start != nullptr && IsNamed(start, "Default")) {
                 next();
+            }
         }
         range.Parse(start);
-        if (range.capable)
+        if (range.capable) {
             capable = true;
+        }
     });
 }
 
@@ -134,11 +147,13 @@ void OptJsonElement::Parse(const std::string& text)
 {
     json::WithRoot(text, [this](const Json::Value& root) {
         const Json::Value& options = json::MemberOf(root, "@opt");
-        if (options.isNull())
+        if (options.isNull()) {
             return;
+        }
         capable = true;
-        for (Json::ArrayIndex i = 0; i < options.size(); ++i)
+        for (Json::ArrayIndex i = 0; i < options.size(); ++i) {
             opt.push_back(options[i].asString());
+        }
     });
 }
 

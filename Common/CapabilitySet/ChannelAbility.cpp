@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/ChannelAbility.h"
 
-#include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/RequestXml.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/query/RequestXml.h"
 
 namespace CapabilitySet
 {
@@ -14,17 +14,20 @@ namespace
 std::string CameraXml(const std::vector<int>& channels)
 {
     query::RequestXml xml("CAMERAPARA", "");
-    for (const int channel : channels)
+    for (const int channel : channels) {
         xml.Child("ChannelNumber", channel);
-    if (channels.empty())
+    }
+    if (channels.empty()) {
         xml.Child("ChannelNumber", query::kNoChannel);
+    }
     return xml.Text();
 }
 
 std::string PtzXml(int channel)
 {
-    if (channel >= 0)
+    if (channel >= 0) {
         return query::ChannelXml(PTZAbility::kRoot, channel);
+    }
     return query::RequestXml(PTZAbility::kRoot).Child("channelNO", query::kNoChannel).Text();
 }
 

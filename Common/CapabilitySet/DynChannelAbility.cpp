@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/DynChannelAbility.h"
 
-#include "CapabilitySet/private/FirstSavedCache.h"
-#include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/RequestXml.h"
-#include "CapabilitySet/private/XmlDocument.h"
+#include "CapabilitySet/private/KeepFirstCache.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/xml/XmlDocument.h"
 
 namespace CapabilitySet
 {
@@ -13,7 +13,7 @@ namespace CapabilitySet
 namespace
 {
 
-using PtzCache = FirstSavedCache<int, bool>;
+using PtzCache = KeepFirstCache<int, bool>;
 
 PtzCache& Support3DPTZOfChannels()
 {
@@ -33,8 +33,9 @@ void DynChannelAbility::Parse(_xmlNode* element)
     xml::EndAtException([&] {
         ParseElement(element);
         xmlNode* cursor = element == nullptr ? nullptr : element->children;
-        if (xml::NextElementNamed(cursor, "Support3DPTZ"))
+        if (xml::NextElementNamed(cursor, "Support3DPTZ")) {
             Support3DPTZ = xml::GetNodeBool(cursor);
+        }
     });
 }
 

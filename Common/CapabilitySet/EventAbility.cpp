@@ -4,11 +4,11 @@
 
 #include <limits>
 
-#include "CapabilitySet/private/ElementRecord.h"
-#include "CapabilitySet/private/FirstSavedCache.h"
+#include "CapabilitySet/private/KeepFirstCache.h"
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/RequestXml.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/xml/ElementRecordMembers.h"
 
 namespace CapabilitySet
 {
@@ -50,7 +50,7 @@ constinit const OptionCodes kCrossDirections{"crossDirection", kCrossDirectionsE
 namespace
 {
 
-using TrackCache = FirstSavedCache<unsigned int, Track>;
+using TrackCache = KeepFirstCache<unsigned int, Track>;
 
 TrackCache& TrackAbilities()
 {
@@ -64,8 +64,9 @@ void ReadEvents(EventAbility& events, xmlNode* firstChild)
     constexpr unsigned int kNoChannel = std::numeric_limits<unsigned int>::max();
     xml::FieldReader<EventAbility> reader(firstChild);
     EventAbility::Fields(events, reader);
-    if (reader.Read() || (reader.Found("channelNO") && events.channelNO != kNoChannel))
+    if (reader.Read() || (reader.Found("channelNO") && events.channelNO != kNoChannel)) {
         events.capable = true;
+    }
 }
 
 }  // namespace
@@ -95,8 +96,9 @@ void EventAbility::Parse(const std::string& text)
 
 void EventAbility::Parse(_xmlNode* element)
 {
-    if (element != nullptr)
+    if (element != nullptr) {
         xml::EndAtException([&] { ReadEvents(*this, element->children); });
+    }
 }
 
 bool EventAbility::GetEventAbility(EventAbility& out, unsigned int& err, const int userID,

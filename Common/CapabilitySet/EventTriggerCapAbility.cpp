@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/EventTriggerCapAbility.h"
 
-#include "CapabilitySet/private/ElementRecord.h"
-#include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/xml/ElementRecordMembers.h"
 
 namespace CapabilitySet
 {

@@ -26,7 +26,8 @@ std::string Shortest(Value value)
 
 RecordNode Bounds(std::string name, bool announced, unsigned int min, unsigned int max)
 {
-    return {std::move(name), Kind::Range, {}, announced, {Whole("min", min), Whole("max", max)}};
+    return {
+        std::move(name), Kind::Range, {}, announced, {Integer("min", min), Integer("max", max)}};
 }
 
 }  // namespace
@@ -54,24 +55,27 @@ RecordNode Real(std::string name, float value)
 RecordNode Options(std::string name, bool announced, const std::vector<std::string>& options)
 {
     RecordNode node{std::move(name), Kind::Options, {}, announced, {}};
-    for (const std::string& option : options)
+    for (const std::string& option : options) {
         node.children.push_back(Text({}, option));
+    }
     return node;
 }
 
 RecordNode Node(std::string name, const OptElement<std::string>& value)
 {
     RecordNode node = Options(std::move(name), value.capable, value.opt);
-    if (!value.attri.empty())
+    if (!value.attri.empty()) {
         node.children.push_back(Options("attri", true, value.attri));
+    }
     return node;
 }
 
 RecordNode Node(std::string name, const MinMaxElement& value)
 {
     RecordNode node = Bounds(std::move(name), value.capable, value.min, value.max);
-    if (value.hasDefault)
-        node.children.push_back(Whole("def", value.def));
+    if (value.hasDefault) {
+        node.children.push_back(Integer("def", value.def));
+    }
     return node;
 }
 
@@ -83,10 +87,12 @@ RecordNode Node(std::string name, const MinMaxPropElement& value)
 RecordNode Node(std::string name, const RangeElement& value)
 {
     RecordNode node{std::move(name), Kind::Range, {}, value.capable, {}};
-    for (const int number : value.range)
-        node.children.push_back(Whole({}, number));
-    if (value.hasDefault)
-        node.children.push_back(Whole("def", value.def));
+    for (const int number : value.range) {
+        node.children.push_back(Integer({}, number));
+    }
+    if (value.hasDefault) {
+        node.children.push_back(Integer("def", value.def));
+    }
     return node;
 }
 
@@ -101,7 +107,7 @@ RecordNode Node(std::string name, const MinMaxOrRangeElement& value)
 
 RecordNode Node(std::string name, const DefaultElement& value)
 {
-    RecordNode node = Whole(std::move(name), value.value);
+    RecordNode node = Integer(std::move(name), value.value);
     node.announced = value.capable;
     return node;
 }
@@ -117,34 +123,40 @@ RecordNode Node(std::string name, const MisinfoMinMaxElement& value)
             Kind::Record,
             {},
             value.capable,
-            {Node("status", value.status), Whole("min", value.min), Whole("max", value.max)}};
+            {Node("status", value.status), Integer("min", value.min), Integer("max", value.max)}};
 }
 
 RecordNode Node(std::string name, const AbilityElement& value)
 {
     RecordNode node{std::move(name), Kind::Record, value.text, true, {}};
-    for (const auto& [attribute, text] : value.attributes)
+    for (const auto& [attribute, text] : value.attributes) {
         node.children.push_back(Text("@" + attribute, text));
-    for (const AbilityElement& child : value.children)
+    }
+    for (const AbilityElement& child : value.children) {
         node.children.push_back(Node(child.name, child));
-    if (node.children.empty())
+    }
+    if (node.children.empty()) {
         node.kind = Kind::Text;
+    }
     return node;
 }
 
 RecordNode Node(std::string name, const Json::Value& value)
 {
-    if (value.isBool())
+    if (value.isBool()) {
         return Flag(std::move(name), value.asBool());
+    }
     RecordNode node{std::move(name), Kind::Text, {}, !value.isNull(), {}};
     if (value.isObject() || value.isArray()) {
         node.kind = value.isObject() ? Kind::Record : Kind::List;
-        for (auto child = value.begin(); child != value.end(); ++child)
+        for (auto child = value.begin(); child != value.end(); ++child) {
             node.children.push_back(Node(value.isObject() ? child.name() : std::string(), *child));
+        }
         return node;
     }
-    if (value.isNumeric())
+    if (value.isNumeric()) {
         node.kind = Kind::Number;
+    }
     node.text = value.asString();
     return node;
 }

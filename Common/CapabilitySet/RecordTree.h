@@ -55,7 +55,7 @@ CAPABILITYSET_API RecordNode Options(std::string name, bool announced,
                                      const std::vector<std::string>& options);
 
 template <std::integral Number>
-RecordNode Whole(std::string name, Number value)
+RecordNode Integer(std::string name, Number value)
 {
     return {std::move(name), RecordNode::Kind::Number, std::to_string(value), true, {}};
 }
@@ -73,14 +73,14 @@ template <std::integral Member>
     requires(!std::same_as<Member, bool>)
 RecordNode Node(std::string name, const Member& value)
 {
-    return Whole(std::move(name), value);
+    return Integer(std::move(name), value);
 }
 
 template <class Member>
     requires std::is_enum_v<Member>
 RecordNode Node(std::string name, const Member& value)
 {
-    return Whole(std::move(name), static_cast<std::underlying_type_t<Member>>(value));
+    return Integer(std::move(name), static_cast<std::underlying_type_t<Member>>(value));
 }
 
 template <std::floating_point Member>
@@ -122,19 +122,21 @@ template <HasFields Record>
 RecordNode Node(std::string name, const Record& record)
 {
     RecordNode node{std::move(name), RecordNode::Kind::Record, {}, true, {}};
-    if constexpr (requires { record.valid; })
+    if constexpr (requires { record.valid; }) {
         node.announced = record.valid;
-    else if constexpr (requires { record.capable; })
+    } else if constexpr (requires { record.capable; }) {
         node.announced = record.capable;
-    else if constexpr (requires { record.present; })
+    } else if constexpr (requires { record.present; }) {
         node.announced = record.present;
+    }
     Record::Fields(record, [&node](const char* field, const auto& member, auto&&... /*how*/) {
         node.children.push_back(Node(field, member));
     });
     // A JSON record that lists no members holds the device's own.
     if constexpr (requires { Node(std::string(), static_cast<const Json::Value&>(record.root)); }) {
-        if (node.children.empty())
+        if (node.children.empty()) {
             node.children = Node(std::string(), record.root).children;
+        }
     }
     return node;
 }
@@ -143,8 +145,9 @@ template <class Item>
 RecordNode Node(std::string name, const std::vector<Item>& items)
 {
     RecordNode node{std::move(name), RecordNode::Kind::List, {}, true, {}};
-    for (const auto& item : items)
+    for (const auto& item : items) {
         node.children.push_back(Node(std::string(), item));
+    }
     return node;
 }
 

@@ -3,7 +3,7 @@
 #include "CapabilitySet/SerialAbility.h"
 
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/XmlReading.h"
+#include "CapabilitySet/private/xml/XmlReading.h"
 
 namespace CapabilitySet
 {
@@ -15,10 +15,12 @@ namespace
 const AbilityElement* FirstNamed(const AbilityElement& element, const char* name)
 {
     for (const AbilityElement& child : element.children) {
-        if (child.name == name)
+        if (child.name == name) {
             return &child;
-        if (const AbilityElement* const found = FirstNamed(child, name))
+        }
+        if (const AbilityElement* const found = FirstNamed(child, name)) {
             return found;
+        }
     }
     return nullptr;
 }

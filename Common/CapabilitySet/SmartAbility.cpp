@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/SmartAbility.h"
 
-#include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/RequestXml.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/query/RequestXml.h"
 
 namespace CapabilitySet
 {

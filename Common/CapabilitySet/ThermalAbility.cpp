@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/ThermalAbility.h"
 
-#include "CapabilitySet/private/QueryFrame.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
 
 namespace CapabilitySet
 {

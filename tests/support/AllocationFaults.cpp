@@ -87,16 +87,18 @@ std::uintptr_t MarkOf(const void* block)
 
 void* Junk(void* block, std::size_t size)
 {
-    if (block != nullptr)
+    if (block != nullptr) {
         std::memset(block, kJunk, std::min(size, kMostJunk));
+    }
     return block;
 }
 
 /// Takes a block that was asked for with kSealed bytes more.
 void* Sealed(void* block, std::size_t size)
 {
-    if (block == nullptr)
+    if (block == nullptr) {
         return nullptr;
+    }
     unsigned char* const behind = static_cast<unsigned char*>(block) + size;
     std::memset(behind, kUntold, static_cast<std::size_t>(SealOf(block) - behind));
     const Seal seal{size, MarkOf(block)};
@@ -110,10 +112,12 @@ void* Sealed(void* block, std::size_t size)
 std::size_t BreakSeal(void* block)
 {
     Seal seal{};
-    if (block != nullptr)
+    if (block != nullptr) {
         std::memcpy(&seal, SealOf(block), sizeof seal);
-    if (block == nullptr || seal.mark != MarkOf(block))
+    }
+    if (block == nullptr || seal.mark != MarkOf(block)) {
         return 0;
+    }
     for (auto* at = static_cast<unsigned char*>(block) + seal.size; at != SealOf(block); ++at) {
         if (*at != kUntold) {
             constexpr char kWhy[] = "something was written behind the end of a block of memory\n";
@@ -150,8 +154,9 @@ AllocationFault::~AllocationFault()
 
 UNCHECKED bool AllocationFault::Strikes(Of which)
 {
-    if (!fault.isSet || fault.isPaused || fault.which != which || fault.left == 0)
+    if (!fault.isSet || fault.isPaused || fault.which != which || fault.left == 0) {
         return false;
+    }
     if (fault.left > 1) {
         --fault.left;
         return false;
@@ -199,8 +204,9 @@ extern "C"
     UNCHECKED void* malloc(std::size_t size)
     {
         using namespace TestSupport;
-        if (AllocationFault::Strikes(AllocationFault::Any) || size > PTRDIFF_MAX)
+        if (AllocationFault::Strikes(AllocationFault::Any) || size > PTRDIFF_MAX) {
             return NoMemory();
+        }
         return __interceptor_malloc != nullptr
                    ? __interceptor_malloc(size)
                    : Sealed(Junk(__libc_malloc(size + kSealed), size), size);
@@ -211,8 +217,9 @@ extern "C"
         using namespace TestSupport;
         std::size_t all = 0;
         if (AllocationFault::Strikes(AllocationFault::Any) ||
-            __builtin_mul_overflow(count, size, &all) || all > PTRDIFF_MAX)
+            __builtin_mul_overflow(count, size, &all) || all > PTRDIFF_MAX) {
             return NoMemory();
+        }
         return __interceptor_calloc != nullptr ? __interceptor_calloc(count, size)
                                                : Sealed(__libc_calloc(1, all + kSealed), all);
     }
@@ -220,18 +227,21 @@ extern "C"
     UNCHECKED void* realloc(void* block, std::size_t size)
     {
         using namespace TestSupport;
-        if (AllocationFault::Strikes(AllocationFault::Any) || size > PTRDIFF_MAX)
+        if (AllocationFault::Strikes(AllocationFault::Any) || size > PTRDIFF_MAX) {
             return NoMemory();
-        if (__interceptor_realloc != nullptr)
+        }
+        if (__interceptor_realloc != nullptr) {
             return __interceptor_realloc(block, size);
+        }
         static_cast<void>(BreakSeal(block));
         return Sealed(__libc_realloc(block, size + kSealed), size);
     }
 
     UNCHECKED void free(void* block)
     {
-        if (__interceptor_free != nullptr)
+        if (__interceptor_free != nullptr) {
             return __interceptor_free(block);
+        }
         TestSupport::Junk(block, TestSupport::BreakSeal(block));
         __libc_free(block);
     }
@@ -247,8 +257,9 @@ void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
 void* operator new(std::size_t size)
 {
     void* const block = operator new(size, std::nothrow);
-    if (block == nullptr)
+    if (block == nullptr) {
         throw std::bad_alloc();
+    }
     return block;
 }
 

@@ -190,8 +190,9 @@ FaultRow CallBackRow(const char* name, const SdkStep& step)
 bool HoldsDecimals(const std::string& text)
 {
     for (std::size_t at = 1; at + 1 < text.size(); ++at) {
-        if (text[at] == '.' && std::isdigit(text[at - 1]) && std::isdigit(text[at + 1]))
+        if (text[at] == '.' && std::isdigit(text[at - 1]) && std::isdigit(text[at + 1])) {
             return true;
+        }
     }
     return false;
 }

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "Device/DeviceServer.h"
+#include "Device/http/DeviceServer.h"
 #include "support/SdkCalls.h"
 
 namespace TestSupport
@@ -72,8 +72,9 @@ public:
         : address_("sim:" + profile)
     {
         info_.receiveTimeout = receiveTimeout;
-        if (road == Road::Http)
+        if (road == Road::Http) {
             Serve(profile);
+        }
         info_.address = address_.c_str();
         info_.userName = password_.empty() ? nullptr : "admin";
         info_.password = password_.empty() ? nullptr : password_.c_str();
@@ -89,8 +90,9 @@ public:
     void SetFaults(std::vector<Device::Fault> faults)
     {
         std::string error;
-        if (!server_->SetFaults(std::move(faults), error))
+        if (!server_->SetFaults(std::move(faults), error)) {
             throw std::runtime_error(error);
+        }
     }
     [[nodiscard]] std::vector<std::uint64_t> FaultCounts() const { return server_->FaultCounts(); }
     /// Ends the serving; what was asked of it until then, the login's questions too.
@@ -107,8 +109,9 @@ private:
         std::string error;
         server_ = Device::DeviceServer::Start(
             model, {.log = [this](const auto& request) { served_.push_back(request); }}, error);
-        if (!server_)
+        if (!server_) {
             throw std::runtime_error(error);
+        }
         address_ = server_->Url();
         password_ = *model->PasswordOf("admin");
     }

@@ -8,7 +8,7 @@
 #include <json/reader.h>
 #include <json/writer.h>
 
-#include "Device/HostileDocuments.h"
+#include "Device/hostile/HostileDocuments.h"
 #include "support/FaultTable.h"
 
 namespace TestSupport
@@ -99,12 +99,14 @@ void OfOtherKinds(Json::Value& root, Json::Value& value, std::vector<Steps>& scr
          {Json::Value(), Json::Value(true), Json::Value(7), Json::Value(1e300), Json::Value("text"),
           Json::Value(Json::arrayValue), Json::Value(Json::objectValue)}) {
         value = kind;
-        if (kind.type() != before.type())
+        if (kind.type() != before.type()) {
             scripts.push_back({Answer(root.toStyledString())});
+        }
     }
     value = before;
-    for (Json::Value& child : value)
+    for (Json::Value& child : value) {
         OfOtherKinds(root, child, scripts);
+    }
 }
 
 }  // namespace
@@ -112,8 +114,9 @@ void OfOtherKinds(Json::Value& root, Json::Value& value, std::vector<Steps>& scr
 std::vector<FaultRow> DocumentFaults()
 {
     std::vector<FaultRow> rows;
-    for (const Device::HostileCase& hostile : Device::HostileCases())
+    for (const Device::HostileCase& hostile : Device::HostileCases()) {
         rows.push_back(SpoiledRow(hostile));
+    }
     rows.push_back({.name = "JsonMemberOfAnotherKind",
                     .roads = kJsonRoads,
                     .json = Comes::Survives,
@@ -122,22 +125,25 @@ std::vector<FaultRow> DocumentFaults()
                             std::vector<Steps> scripts;
                             Json::Value root;
                             Json::Reader().parse(subject.sound, root);
-                            for (Json::Value& member : root)
+                            for (Json::Value& member : root) {
                                 OfOtherKinds(root, member, scripts);
+                            }
                             return scripts;
                         },
                     .everyOperation = true});
-    rows.push_back({.name = "JsonArrayOrScalarAtTheTop",
-                    .roads = kJsonRoads,
-                    .json = Comes::Unread,
-                    .play =
-                        [](const Subject&) {
-                            std::vector<Steps> scripts;
-                            for (const char* text : {"null", "[]", "[{}]", "5", "\"text\"", "true"})
-                                scripts.push_back({Answer(text)});
-                            return scripts;
-                        },
-                    .everyOperation = true});
+    rows.push_back(
+        {.name = "JsonArrayOrScalarAtTheTop",
+         .roads = kJsonRoads,
+         .json = Comes::Unread,
+         .play =
+             [](const Subject&) {
+                 std::vector<Steps> scripts;
+                 for (const char* text : {"null", "[]", "[{}]", "5", "\"text\"", "true"}) {
+                     scripts.push_back({Answer(text)});
+                 }
+                 return scripts;
+             },
+         .everyOperation = true});
     return rows;
 }
 

@@ -59,10 +59,11 @@ Subject Of(const JsonOperationRow& row, Family family)
         Held held = answered.isAtDefaults ? Held::Defaults
                     : answered.isFilled   ? Held::Whole
                                           : Held::Other;
-        if (row.keepsRecord)
+        if (row.keepsRecord) {
             held = answered.result     ? Held::Unknown
                    : answered.isFilled ? Held::Defaults
                                        : Held::Other;
+        }
         return Given{answered.result, answered.err, held};
     };
     subject.tellsError = row.tellsError;
@@ -151,8 +152,9 @@ template <class Record>
 bool IsSameRecord(const Record& a, const Record& b)
 {
     if constexpr (requires { a.root == b.root; }) {
-        if (a.Capable() != b.Capable() || a.root != b.root)
+        if (a.Capable() != b.Capable() || a.root != b.root) {
             return false;
+        }
     }
     return SameFields(a, b);
 }
@@ -187,8 +189,9 @@ const JsonOperationRow& JsonNamed(const char* name)
 std::vector<Subject> AllOperations()
 {
     std::vector<Subject> subjects;
-    for (const OperationRow& row : Operations())
+    for (const OperationRow& row : Operations()) {
         subjects.push_back(Of(row));
+    }
     const std::size_t json = JsonCapabilityRows().size();
     const std::size_t host = AlarmHostRows().size();
     for (const JsonOperationRow& row : JsonOperations()) {

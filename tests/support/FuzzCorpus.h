@@ -42,8 +42,9 @@ protected:
         std::vector<std::filesystem::path> files;
         const std::filesystem::path path = folder + "/" + GetParam().name;
         if (std::filesystem::exists(path)) {
-            for (const auto& entry : std::filesystem::directory_iterator(path))
+            for (const auto& entry : std::filesystem::directory_iterator(path)) {
                 files.push_back(entry.path());
+            }
         }
         std::sort(files.begin(), files.end());
         return files;
@@ -63,8 +64,9 @@ inline std::string NameOf(const testing::TestParamInfo<FuzzTarget>& each)
 
 TEST_P(FuzzCorpusTest, HoldsForEveryFind)
 {
-    for (const auto& file : FilesIn(FUZZ_FINDS))
+    for (const auto& file : FilesIn(FUZZ_FINDS)) {
         Run(TextOf(file), file.string());
+    }
 }
 
 TEST_P(FuzzCorpusTest, HoldsForEverySeedAndItsNeighbours)
@@ -82,12 +84,13 @@ TEST_P(FuzzCorpusTest, HoldsForEverySeedAndItsNeighbours)
             std::string text = seed;
             const std::size_t begin = below(text.size());
             const std::string piece = text.substr(begin, below(40) + 1);
-            if (round % 3 == 0)
+            if (round % 3 == 0) {
                 text.erase(begin, piece.size());
-            else if (round % 3 == 1)
+            } else if (round % 3 == 1) {
                 text.insert(below(text.size()), piece);
-            else
+            } else {
                 text[begin] = "<>/&\"'{}[],:0-9e. "[below(18)];
+            }
             Run(text, "changed from " + file.string());
         }
     }

@@ -235,8 +235,9 @@ std::vector<JsonOperationRow> TaskRows()
 std::vector<JsonOperationRow> JsonConfigRows()
 {
     std::vector<JsonOperationRow> all;
-    for (auto& table : {ControlRows(), SearchRows(), TaskRows()})
+    for (auto& table : {ControlRows(), SearchRows(), TaskRows()}) {
         all.insert(all.end(), table.begin(), table.end());
+    }
     return all;
 }
 

@@ -12,8 +12,9 @@ const std::vector<JsonOperationRow>& JsonOperations()
 {
     static const std::vector<JsonOperationRow> all = [] {
         std::vector<JsonOperationRow> rows;
-        for (auto& table : {JsonCapabilityRows(), AlarmHostRows(), JsonConfigRows()})
+        for (auto& table : {JsonCapabilityRows(), AlarmHostRows(), JsonConfigRows()}) {
             rows.insert(rows.end(), table.begin(), table.end());
+        }
         return rows;
     }();
     return all;

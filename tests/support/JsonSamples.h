@@ -9,7 +9,7 @@
 #include <json/value.h>
 
 #include "CapabilitySet/CapabilityElements.h"
-#include "CapabilitySet/private/FieldTags.h"
+#include "CapabilitySet/FieldTags.h"
 
 namespace TestSupport
 {
@@ -60,8 +60,9 @@ private:
     Json::Value Value(const std::vector<Item>& /*items*/)
     {
         Json::Value array;
-        for (int i = 0; i < 2; ++i)
+        for (int i = 0; i < 2; ++i) {
             array.append(Value(Item()));
+        }
         return array;
     }
 
@@ -90,8 +91,9 @@ private:
 template <class Record>
 std::string TextOf(const Json::Value& members)
 {
-    if (Record::kKey[0] == '\0')
+    if (Record::kKey[0] == '\0') {
         return members.toStyledString();
+    }
     Json::Value document;
     document[Record::kKey] = members;
     return document.toStyledString();

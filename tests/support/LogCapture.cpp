@@ -45,8 +45,9 @@ protected:
         line.message = Utf8(event->getMessage());
         const auto& place = event->getLocationInformation();
         line.file = place.getFileName();
-        if (place.getLineNumber() > 0)
+        if (place.getLineNumber() > 0) {
             line.function = place.getClassName() + "::" + place.getMethodName();
+        }
         line.line = place.getLineNumber();
         const std::lock_guard lock(guard_);
         lines_.push_back(std::move(line));
@@ -80,8 +81,9 @@ std::vector<LogLine> LogCapture::Lines(const std::string& logger) const
 {
     std::vector<LogLine> found;
     for (LogLine& line : appender_->Lines()) {
-        if (line.logger == logger)
+        if (line.logger == logger) {
             found.push_back(std::move(line));
+        }
     }
     return found;
 }
@@ -89,8 +91,9 @@ std::vector<LogLine> LogCapture::Lines(const std::string& logger) const
 std::vector<std::string> LogCapture::Messages(const std::string& logger) const
 {
     std::vector<std::string> messages;
-    for (LogLine& line : Lines(logger))
+    for (LogLine& line : Lines(logger)) {
         messages.push_back(std::move(line.message));
+    }
     return messages;
 }
 

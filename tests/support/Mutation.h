@@ -37,13 +37,16 @@ inline std::vector<Piece> XmlPieces(const std::string& text)
         const std::size_t end = text.find('>', at);
         const bool closes = text.compare(at, 2, "</") == 0;
         const std::size_t name = at + (closes ? 2 : 1);
-        if (end == std::string::npos || std::isalpha(static_cast<unsigned char>(text[name])) == 0)
+        if (end == std::string::npos || std::isalpha(static_cast<unsigned char>(text[name])) == 0) {
             continue;
+        }
         const Span span{name, std::min(text.find_first_of(" />\n", name), end)};
-        if (!closes)
+        if (!closes) {
             open.push_back({{at, end + 1}, {}});
-        if (open.empty())
+        }
+        if (open.empty()) {
             continue;
+        }
         open.back().names.push_back(span);
         open.back().whole.end = end + 1;
         if (closes || text[end - 1] == '/') {
@@ -64,11 +67,13 @@ inline std::vector<Piece> JsonPieces(const std::string& text)
         open.push_back({{at, at}, {}});
     };
     const auto finish = [&](std::size_t at) {
-        if (open.empty())
+        if (open.empty()) {
             return;
+        }
         open.back().whole.end = at;
-        if (open.back().whole.begin < at)
+        if (open.back().whole.begin < at) {
             pieces.push_back(open.back());
+        }
         open.pop_back();
     };
     for (std::size_t at = 0; at < text.size(); ++at) {
@@ -99,8 +104,9 @@ public:
     /// The text with up to three changes.
     std::string Of(std::string text)
     {
-        for (std::size_t changes = 1 + Below(3); changes > 0; --changes)
+        for (std::size_t changes = 1 + Below(3); changes > 0; --changes) {
             Change(text);
+        }
         return text;
     }
 
@@ -113,8 +119,9 @@ private:
         const auto byte = static_cast<char>(Below(256));
         switch (Below(7)) {
             case 0:
-                if (!text.empty())
+                if (!text.empty()) {
                     text[at] = static_cast<char>(text[at] ^ (1 << Below(8)));
+                }
                 break;
             case 1:
                 text.insert(at, 1, Below(2) == 0 ? byte : "<>/&\"'{}[],:-+.e0 \n"[Below(19)]);
@@ -153,8 +160,9 @@ private:
                                                     "99999999999999999999",
                                                     "nan"};
         const std::size_t begin = text.find_first_of("0123456789", Below(text.size()));
-        if (begin == std::string::npos)
+        if (begin == std::string::npos) {
             return;
+        }
         const std::size_t end = std::min(text.find_first_not_of("0123456789", begin), text.size());
         text.replace(begin, end - begin, kExtremes[Below(std::size(kExtremes))]);
     }
@@ -163,8 +171,9 @@ private:
     void ChangePieces(std::string& text)
     {
         const std::vector<Piece> pieces = isJson_ ? JsonPieces(text) : XmlPieces(text);
-        if (pieces.empty())
+        if (pieces.empty()) {
             return;
+        }
         const Piece& a = pieces[Below(pieces.size())];
         const Piece& b = pieces[Below(pieces.size())];
         const auto textOf = [&text](Span span) {
@@ -178,15 +187,18 @@ private:
         } else if (kind == 1 && (a.whole.end <= b.whole.begin || b.whole.end <= a.whole.begin)) {
             edits = {{a.whole, textOf(b.whole)}, {b.whole, textOf(a.whole)}};
         } else if (kind == 2 && !a.names.empty() && !b.names.empty() && &a != &b) {
-            for (const Span name : a.names)
+            for (const Span name : a.names) {
                 edits.emplace_back(name, textOf(b.names[0]));
-            for (const Span name : b.names)
+            }
+            for (const Span name : b.names) {
                 edits.emplace_back(name, textOf(a.names[0]));
+            }
         }
         std::ranges::sort(edits, std::greater<>(),
                           [](const auto& edit) { return edit.first.begin; });
-        for (const auto& [span, with] : edits)
+        for (const auto& [span, with] : edits) {
             text.replace(span.begin, span.end - span.begin, with);
+        }
     }
 
     std::mt19937 random_;
@@ -201,10 +213,11 @@ std::string Smallest(std::string text, Holds holds)
         for (std::size_t at = 0; at < text.size();) {
             std::string less = text;
             less.erase(at, size);
-            if (holds(less))
+            if (holds(less)) {
                 text = std::move(less);
-            else
+            } else {
                 at += size;
+            }
         }
     }
     return text;

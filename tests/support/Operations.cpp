@@ -30,10 +30,11 @@ using namespace CapabilitySet;
 template <class Record>
 auto& FlagOf(Record& record)
 {
-    if constexpr (requires { record.valid; })
+    if constexpr (requires { record.valid; }) {
         return record.valid;
-    else
+    } else {
         return record.capable;
+    }
 }
 
 template <class Record, class Query>

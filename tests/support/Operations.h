@@ -74,8 +74,9 @@ void ForEachRow(const Rows& rows, const std::vector<SdkStep>& steps, Check check
         sdk.steps = steps;
         Keel::Error::SetLastError({kUntouched.first, kUntouched.second, {}});
         check(row, sdk);
-        if (testing::Test::HasFatalFailure())
+        if (testing::Test::HasFatalFailure()) {
             return;
+        }
     }
 }
 

@@ -74,8 +74,9 @@ std::string OutsideWatch::Seen()
 {
     std::string seen;
     char events[4096];
-    while (read(notify_, events, sizeof events) > 0)
+    while (read(notify_, events, sizeof events) > 0) {
         seen = "file ";
+    }
     bool isConnected = false;
     for (int client = 0; (client = accept(listener_, nullptr, nullptr)) >= 0;) {
         close(client);

@@ -54,8 +54,9 @@ private:
     Number Any()
     {
         std::uint64_t bits = 0;
-        for (int byte = 0; byte < 8; ++byte)
+        for (int byte = 0; byte < 8; ++byte) {
             bits = bits << 8U | Below(256);
+        }
         return std::bit_cast<Number>(bits);
     }
 
@@ -78,10 +79,12 @@ private:
     void Fill(double& value)
     {
         value = OneOf({0.0, 0.1, -36.6, 1e300, 5e-324, 123456789.125});
-        if (anyBytes_)
+        if (anyBytes_) {
             value = Any<double>();
-        if (!std::isfinite(value))  // no document can hold it
+        }
+        if (!std::isfinite(value)) {  // no document can hold it
             value = 0;
+        }
     }
 
     void Fill(std::string& value)
@@ -115,10 +118,12 @@ private:
         for (unsigned pieces = Below(6); pieces > 0; --pieces) {
             value += OneOf(kAllowed);
             const char* const forbidden = OneOf(kForbidden);
-            if (Below(3) == 0 && withForbidden_)
+            if (Below(3) == 0 && withForbidden_) {
                 value += forbidden;
-            if (anyBytes_)
+            }
+            if (anyBytes_) {
                 value += static_cast<char>(Below(256));
+            }
         }
     }
 
@@ -132,8 +137,9 @@ private:
     void Fill(std::vector<Item>& items)
     {
         items.resize(Below(4));
-        for (Item& item : items)
+        for (Item& item : items) {
             Fill(item);
+        }
     }
 
     void Fill(Json::Value& value)
@@ -158,8 +164,9 @@ private:
     template <CapabilitySet::tree::HasFields Record>
     void Fill(Record& record)
     {
-        if constexpr (requires { record.present = true; })
+        if constexpr (requires { record.present = true; }) {
             record.present = true;
+        }
         Record::Fields(record, [this](const char* /*name*/, auto& member, auto... /*how*/) {
             this->Fill(member);
         });

@@ -13,12 +13,12 @@
 #include <json/value.h>
 
 #include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/JsonTARN/JsonCap/AlarmHostCap.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/FireControl.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/HumanFeatureSearch.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
-#include "CapabilitySet/private/FieldTags.h"
 
 // What it shares with the library is the field lists. It looks one member up after the other, and
 // leaves to JsonCpp what a value of the wrong kind does: the exception ends the reading.
@@ -34,8 +34,9 @@ void WithJson(const std::string& text, ReadTree read)
 {
     try {
         Json::Value document;
-        if (!text.empty() && Json::Reader().parse(text, document))
+        if (!text.empty() && Json::Reader().parse(text, document)) {
             read(document);
+        }
     } catch (const std::exception&) {  // the reading ends
     }
 }
@@ -101,11 +102,13 @@ inline void ReadText(const std::string& text, CapabilitySet::OptJsonElement& ele
 {
     WithJson(text, [&element](const Json::Value& root) {
         const Json::Value& options = root["@opt"];
-        if (options.isNull())
+        if (options.isNull()) {
             return;
+        }
         element.capable = true;
-        for (Json::ArrayIndex i = 0; i < options.size(); ++i)
+        for (Json::ArrayIndex i = 0; i < options.size(); ++i) {
             element.opt.push_back(options[i].asString());
+        }
     });
 }
 
@@ -137,8 +140,9 @@ void ReadMember(const Json::Value& value, std::vector<Item>& items, as::Wrapped 
 
 inline void ReadMember(const Json::Value& value, CapabilitySet::HFPDProgress& progress)
 {
-    if (value.isNull())
+    if (value.isNull()) {
         return;
+    }
     progress.value = value.isObject() ? value["value"].asInt() : value.asInt();
     progress.present = true;
 }
@@ -146,12 +150,14 @@ inline void ReadMember(const Json::Value& value, CapabilitySet::HFPDProgress& pr
 template <std::derived_from<CapabilitySet::DetectorSensor> Sensor>
 void ReadMember(const Json::Value& value, Sensor& sensor)
 {
-    if (value.isNull())
+    if (value.isNull()) {
         return;
-    if (value.isObject())
+    }
+    if (value.isObject()) {
         ReadMembers(value, sensor);
-    else
+    } else {
         sensor.status = value.asString();
+    }
     sensor.present = true;
 }
 
@@ -173,15 +179,18 @@ template <class Part>
 void ReadMember(const Json::Value& value, Part& part)
 {
     // A record that can stand alone reads a text of its own.
-    if constexpr (requires { Part::kKey; })
+    if constexpr (requires { Part::kKey; }) {
         return ReadText(value.toStyledString(), part);
+    }
     if constexpr (requires { part.present; }) {
-        if (value.isNull())
+        if (value.isNull()) {
             return;
+        }
     }
     ReadMembers(value, part);
-    if constexpr (requires { part.present; })
+    if constexpr (requires { part.present; }) {
         part.present = true;
+    }
 }
 
 template <class Record>
@@ -198,12 +207,13 @@ void ReadText(const std::string& text, Record& record)
 {
     WithJson(text, [&record](const Json::Value& document) {
         const std::string key = Record::kKey;
-        if (key.empty() || !document[key].isNull())
+        if (key.empty() || !document[key].isNull()) {
             record.root = key.empty() ? document : document[key];
-        else if constexpr (requires { Record::kMayLackKey; })
+        } else if constexpr (requires { Record::kMayLackKey; }) {
             record.root = document;
-        else
+        } else {
             record.root = Json::Value();
+        }
         ReadMembers(record.root, record);
     });
 }
@@ -227,8 +237,9 @@ inline void ReadText(const std::string& text, CapabilitySet::JsonErrorStatusList
     WithJson(text, [&list](const Json::Value& root) {
         const Json::Value& entries = root["ErrorList"];
         for (Json::ArrayIndex i = 0; i < entries.size(); ++i) {
-            if (entries[i].isNull())
+            if (entries[i].isNull()) {
                 continue;
+            }
             CapabilitySet::JsonErrorStatus status;
             status.id = std::to_string(entries[i]["id"].asInt());
             // The word is dropped, and yet must be one.

@@ -22,7 +22,7 @@
 #include "CapabilitySet/AbilityDocument.h"
 #include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 
 // What it shares with the library is the field lists and what records tell of themselves. It parses
 // with libxml2's own entry points, copies every text, reads numbers through streams and searches
@@ -62,8 +62,9 @@ inline std::string ContentOf(const xmlNode* node)
 inline std::optional<std::string> AttributeOf(const xmlNode* node, const char* name)
 {
     const auto* key = reinterpret_cast<const xmlChar*>(name);
-    if (xmlHasProp(node, key) == nullptr)
+    if (xmlHasProp(node, key) == nullptr) {
         return std::nullopt;
+    }
     return Owned(xmlGetProp(node, key));
 }
 
@@ -82,8 +83,9 @@ inline std::vector<std::string> PiecesOf(const std::string& text)
     std::vector<std::string> pieces;
     std::istringstream stream(text);
     for (std::string piece; std::getline(stream, piece, ',');) {
-        if (!piece.empty())
+        if (!piece.empty()) {
             pieces.push_back(piece);
+        }
     }
     return pieces;
 }
@@ -149,10 +151,12 @@ inline bool Read(const xmlNode* node, bool& flag, as::TextFlag /*how*/)
 inline bool Read(const xmlNode* node, bool& flag, as::TrueOrFalse /*how*/)
 {
     const std::string text = ContentOf(node);
-    if (text == "true")
+    if (text == "true") {
         flag = true;
-    if (text == "false")
+    }
+    if (text == "false") {
         flag = false;
+    }
     return true;
 }
 
@@ -180,8 +184,9 @@ inline CapabilitySet::OptElement<std::string> OptionsOf(const xmlNode* node)
 inline bool Read(const xmlNode* node, bool& flag, as::EnabledFlag /*how*/)
 {
     const auto options = OptionsOf(node);
-    if (options.opt.size() == 1)
+    if (options.opt.size() == 1) {
         flag = options.opt[0] == "true";
+    }
     return options.capable;
 }
 
@@ -198,8 +203,9 @@ inline bool Read(const xmlNode* node, std::vector<int>& codes, as::Codes how)
     const auto options = OptionsOf(node);
     for (const std::string& option : options.opt) {
         for (const auto& entry : how.table.entries) {
-            if (entry.option == option)
+            if (entry.option == option) {
                 codes.push_back(entry.code);
+            }
         }
     }
     return options.capable;
@@ -221,8 +227,9 @@ inline bool Read(const xmlNode* node,
     const auto options = OptionsOf(node);
     for (const std::string& option : options.opt) {
         for (const auto& [name, type] : names) {
-            if (option == name)
+            if (option == name) {
                 types.push_back(type);
+            }
         }
     }
     return options.capable;
@@ -232,10 +239,12 @@ inline bool Read(const xmlNode* node, CapabilitySet::MinMaxElement& range, as::A
 {
     const std::string min = AttributeOf(node, "min").value_or("");
     const std::string max = AttributeOf(node, "max").value_or("");
-    if (!min.empty())
+    if (!min.empty()) {
         range.min = NumberOf<unsigned>(min);
-    if (!max.empty())
+    }
+    if (!max.empty()) {
         range.max = NumberOf<unsigned>(max);
+    }
     range.capable = !min.empty() && !max.empty() && (range.min != 0 || range.max != 0);
     return true;
 }
@@ -244,12 +253,14 @@ inline bool Read(const xmlNode* node, CapabilitySet::MinMaxElement& range, as::P
 {
     const xmlNode* cursor = node->children;
     const auto bound = [&cursor](const char* name, unsigned& number) {
-        if (!Find(cursor, name))
+        if (!Find(cursor, name)) {
             return false;
+        }
         const std::string text = ContentOf(cursor);
         cursor = cursor->next;
-        if (!text.empty())
+        if (!text.empty()) {
             number = NumberOf<unsigned>(text);
+        }
         return !text.empty();
     };
     const bool hasMin = bound("Min", range.min);
@@ -287,8 +298,9 @@ bool Read(const xmlNode* node, std::vector<Item>& items, as::Repeated /*how*/)
 template <class Item>
 bool Read(const xmlNode* node, std::vector<Item>& items, as::Items how)
 {
-    for (const xmlNode* cursor = node->children; Find(cursor, how.item); cursor = cursor->next)
+    for (const xmlNode* cursor = node->children; Find(cursor, how.item); cursor = cursor->next) {
         Read(cursor, items, as::repeated);
+    }
     return true;
 }
 
@@ -301,22 +313,26 @@ void ReadFrom(const xmlNode* cursor, Record& record)
         using Member = std::remove_cvref_t<decltype(member)>;
         if constexpr (std::is_same_v<Record, CapabilitySet::CVelTarnPTZPresetInfo>) {
             // The position stands one level further down.
-            if (name == std::string("elevation"))
+            if (name == std::string("elevation")) {
                 cursor = Find(cursor, "AbsoluteHigh") ? cursor->children : nullptr;
+            }
         }
         constexpr bool kIsList = (std::is_same_v<decltype(how), as::Repeated> || ...);
         while (Find(cursor, name)) {
             bool counts = Read(cursor, member, how...);
-            if constexpr (xml::NestedFlagCounts<Record> && xml::IsRecord<Member>)
+            if constexpr (xml::NestedFlagCounts<Record> && xml::IsRecord<Member>) {
                 counts = xml::FlagOf(member);
+            }
             isRead = isRead || counts;
             cursor = cursor->next;
-            if (!kIsList)
+            if (!kIsList) {
                 break;
+            }
         }
     });
-    if (isRead)
+    if (isRead) {
         xml::RaiseFlag(record);
+    }
 }
 
 template <xml::IsRecord Record>
@@ -339,33 +355,42 @@ inline void Read(const xmlNode* node, CapabilitySet::AbilityElement& element)
         element.attributes.emplace_back(prefix.empty() ? "xmlns" : "xmlns:" + prefix,
                                         Text(space->href));
     }
-    for (const xmlAttr* each = node->properties; each != nullptr; each = each->next)
+    for (const xmlAttr* each = node->properties; each != nullptr; each = each->next) {
         element.attributes.emplace_back(qualified(each->ns, each->name),
                                         ContentOf(reinterpret_cast<const xmlNode*>(each)));
+    }
     for (const xmlNode* child = node->children; child != nullptr; child = child->next) {
-        if (child->type == XML_ELEMENT_NODE)
+        if (child->type == XML_ELEMENT_NODE) {
             Read(child, element.children.emplace_back());
-        if (child->type == XML_TEXT_NODE || child->type == XML_CDATA_SECTION_NODE)
+        }
+        if (child->type == XML_TEXT_NODE || child->type == XML_CDATA_SECTION_NODE) {
             element.text += ContentOf(child);
+        }
     }
     // Blanks between elements are no text.
-    if (!element.children.empty() && element.text.find_first_not_of(" \t\r\n") == std::string::npos)
+    if (!element.children.empty() &&
+        element.text.find_first_not_of(" \t\r\n") == std::string::npos) {
         element.text.clear();
+    }
 }
 
 /// No device sends so many attributes, or declares entities: the library refuses what does.
 inline bool IsRefused(const xmlNode* node)
 {
     int attributes = 0;
-    for (const xmlAttr* each = node->properties; each != nullptr; each = each->next)
+    for (const xmlAttr* each = node->properties; each != nullptr; each = each->next) {
         ++attributes;
-    for (const xmlNs* space = node->nsDef; space != nullptr; space = space->next)
+    }
+    for (const xmlNs* space = node->nsDef; space != nullptr; space = space->next) {
         ++attributes;
-    if (attributes > 1000)
+    }
+    if (attributes > 1000) {
         return true;
+    }
     for (const xmlNode* child = node->children; child != nullptr; child = child->next) {
-        if (child->type == XML_ELEMENT_NODE && IsRefused(child))
+        if (child->type == XML_ELEMENT_NODE && IsRefused(child)) {
             return true;
+        }
     }
     return false;
 }
@@ -376,8 +401,9 @@ bool HasEmptyItem(const xmlNode* firstChild, Record& record)
     bool hasOne = false;
     Record::Fields(record, [&](const char* name, auto& /*member*/, auto... how) {
         if constexpr ((std::is_same_v<decltype(how), as::Repeated> || ...)) {
-            for (const xmlNode* item = firstChild; Find(item, name); item = item->next)
+            for (const xmlNode* item = firstChild; Find(item, name); item = item->next) {
                 hasOne = hasOne || item->children == nullptr;
+            }
         }
     });
     return hasOne;
@@ -399,8 +425,9 @@ inline Tree Parse(const std::string& text, bool isBlankFree)
         const xmlDtd* const declared = tree->intSubset;
         const bool hasEntities = declared != nullptr &&
                                  (declared->entities != nullptr || declared->pentities != nullptr);
-        if (hasEntities || IsRefused(xmlDocGetRootElement(tree.get())))
+        if (hasEntities || IsRefused(xmlDocGetRootElement(tree.get()))) {
             tree.reset();
+        }
     }
     return tree;
 }
@@ -415,8 +442,9 @@ Document ReadDocument(const std::string& text, const char* rootName, Record& rec
         !kIsTree && !kIsPlainList && std::string_view(rootName).substr(0, 3) == "PTZ";
     const Tree tree = Parse(text, isBlankFree);
     const xmlNode* root = tree == nullptr ? nullptr : xmlDocGetRootElement(tree.get());
-    if (!Find(root, rootName))
+    if (!Find(root, rootName)) {
         return Document::None;
+    }
     if constexpr (kIsTree) {
         CapabilitySet::AbilityElement read;
         Read(root, read);
@@ -425,8 +453,9 @@ Document ReadDocument(const std::string& text, const char* rootName, Record& rec
             record.capable = true;
         }
     } else {
-        if (isBlankFree && HasEmptyItem(root->children, record))
+        if (isBlankFree && HasEmptyItem(root->children, record)) {
             return Document::Endless;
+        }
         ReadFrom(root->children, record);
     }
     return Document::Fits;

@@ -82,14 +82,16 @@ template <CapabilitySet::tree::HasFields Record>
 bool IsSame(const Record& a, const Record& b)
 {
     bool same = true;
-    if constexpr (requires { a.valid; })
+    if constexpr (requires { a.valid; }) {
         same = a.valid == b.valid;
-    else if constexpr (requires { a.capable; })
+    } else if constexpr (requires { a.capable; }) {
         same = a.capable == b.capable;
-    else if constexpr (requires { a.present; })
+    } else if constexpr (requires { a.present; }) {
         same = a.present == b.present;
-    if constexpr (requires(const Json::Value& root) { a.root == root; })
+    }
+    if constexpr (requires(const Json::Value& root) { a.root == root; }) {
         same = same && a.root == b.root;
+    }
     Record::Fields(a, [&](const char* /*name*/, const auto& member, auto&&... /*how*/) {
         // The other record's member stands where this one's does.
         const auto place =

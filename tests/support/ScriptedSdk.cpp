@@ -39,8 +39,9 @@ std::string Copy(const void* bytes, std::size_t size)
 
 void Write(void* buffer, unsigned size, const std::string& text)
 {
-    if (buffer != nullptr)
+    if (buffer != nullptr) {
         std::memcpy(buffer, text.data(), std::min<std::size_t>(text.size(), size));
+    }
 }
 
 /// Where a call takes its answer from, and where it goes.
@@ -63,12 +64,14 @@ bool Reaches(const SdkStep& step, const Buffers& to)
 
 void Write(const SdkStep& step, const Buffers& to)
 {
-    if (step.fills)
+    if (step.fills) {
         std::memset(to.answer, 'x', to.size);
+    }
     Write(to.answer, to.size, step.answer);
     Write(to.status, to.statusSize, step.status);
-    if (to.returnedSize != nullptr)
+    if (to.returnedSize != nullptr) {
         *to.returnedSize = step.returnedSize;
+    }
 }
 
 /// What answers the call.
@@ -104,16 +107,18 @@ int Play(SdkCall call, const Buffers& to)
                         AllZero(static_cast<char*>(to.status), to.statusSize);
         SdkStep made;
         const SdkStep& step = StepFor(sdk, call, to.size, made);
-        if (sdk.keepsCalls)
+        if (sdk.keepsCalls) {
             sdk.calls.push_back(std::move(call));
+        }
         lastError = step.error;
         Write(step, to);
         sdk.struck += step.isFault && Reaches(step, to) ? 1 : 0;
         onCall = sdk.onCall;
     }
     const unsigned error = lastError;
-    if (onCall)
+    if (onCall) {
         onCall();
+    }
     return error == 0 ? 1 : 0;
 }
 
@@ -194,8 +199,9 @@ int NET_ORB_GetLastErrorModelCode(int* errModelCode, int* errDevSelfEx)
     auto& sdk = TestSupport::ScriptedSdk::Instance();
     const std::lock_guard lock(TestSupport::guard);
     sdk.struck += sdk.countsModelCodes ? 1 : 0;
-    if (!sdk.modelCode)
+    if (!sdk.modelCode) {
         return 0;
+    }
     *errModelCode = *sdk.modelCode;
     *errDevSelfEx = sdk.deviceCode;
     return 1;
@@ -206,9 +212,10 @@ int NET_ORB_SDKChannelToTARN(int userID, int channel, int /*mode*/)
     const NoAllocationFaults pause;
     auto& sdk = TestSupport::ScriptedSdk::Instance();
     const std::lock_guard lock(TestSupport::guard);
-    if (sdk.keepsCalls)
+    if (sdk.keepsCalls) {
         sdk.calls.push_back(
             {.kind = SdkCall::Channel, .userID = userID, .code = static_cast<unsigned>(channel)});
+    }
     TestSupport::lastError = sdk.channelError;
     sdk.struck += sdk.channelError != 0 ? 1 : 0;
     return sdk.channelError != 0 ? -1 : channel + sdk.channelStep;

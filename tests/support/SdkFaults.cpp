@@ -21,18 +21,20 @@ auto TooSmall(unsigned error, unsigned times)
 {
     return [=](const Subject& subject) {
         Steps steps;
-        for (unsigned i = 0; i < times; ++i)
+        for (unsigned i = 0; i < times; ++i) {
             steps.push_back({.error = error,
                              .answer = "<dirt/>",
                              .returnedSize = kManagerNeeds + i,
                              .isFault = true});
-        if (times > 0)
+        }
+        if (times > 0) {
             steps.push_back(Sound(subject));
-        else
+        } else {
             steps.assign(1, {.error = error,
                              .answer = "<dirt/>",
                              .returnedSize = kManagerNeeds,
                              .isFault = true});
+        }
         return std::vector<Steps>{steps};
     };
 }
@@ -98,16 +100,18 @@ void CheckLimitLines(const Subject& subject, const LogCapture& log)
 
 std::string FileOf(const Subject& subject)
 {
-    if (subject.xml != nullptr)
+    if (subject.xml != nullptr) {
         return subject.xml->file;
+    }
     const std::string app = subject.name.substr(0, subject.name.find(':'));
     return "JsonTARN/" + app.substr(0, app.size() - 3) + "/" + app + ".cpp";
 }
 
 const char* FailedCall(const Subject& subject)
 {
-    if (subject.xml != nullptr && subject.xml->failedCall != nullptr)
+    if (subject.xml != nullptr && subject.xml->failedCall != nullptr) {
         return subject.xml->failedCall;
+    }
     return subject.Is(kDeviceAbility)     ? "NET_ORB_GetDeviceAbility"
            : subject.Is(kStandardAbility) ? "NET_ORB_GetSTDAbility"
                                           : "NET_ORB_STDXMLConfig";
@@ -162,11 +166,12 @@ void AddErrors(std::vector<FaultRow>& rows)
                         .error = error,
                         .everyOperation = true,
                         .check = [error](const Subject& subject, const LogCapture& log) {
-                            if (subject.GrowsOn(error) && !subject.Is(kRawRoads))
+                            if (subject.GrowsOn(error) && !subject.Is(kRawRoads)) {
                                 CheckLimitLines(subject, log);
+                            }
                         }});
     }
-    for (const unsigned error : {7U, 23U, 1000U, 4000000000U})
+    for (const unsigned error : {7U, 23U, 1000U, 4000000000U}) {
         rows.push_back({.name = "Error" + std::to_string(error),
                         .xml = Comes::Fails,
                         .json = Comes::Fails,
@@ -174,6 +179,7 @@ void AddErrors(std::vector<FaultRow>& rows)
                         .play = Play({.error = error, .answer = "hello", .returnedSize = 5}),
                         .error = error,
                         .everyOperation = true});
+    }
     rows.push_back({.name = "Error1000AfterTooSmall",
                     .xml = Comes::Fails,
                     .json = Comes::Fails,
@@ -218,8 +224,9 @@ void AddModelCodes(std::vector<FaultRow>& rows)
              .lastError = code.lastError,
              .check =
                  [isKnown](const Subject& subject, const LogCapture& log) {
-                     if (isKnown && !subject.Is(kRawRoads))
+                     if (isKnown && !subject.Is(kRawRoads)) {
                          CheckFailureLines(subject, log);
+                     }
                  }});
     }
 }
@@ -316,8 +323,9 @@ void AddStatuses(std::vector<FaultRow>& rows)
         {"StatusWithASizeTooSmall",
          refusal("<ResponseStatus><statusCode>4</statusCode></ResponseStatus>", 10)},
         {"FullStatusWithALyingSize", {.error = 7, .status = full, .returnedSize = UINT_MAX}}};
-    for (const auto& [name, step] : unread)
+    for (const auto& [name, step] : unread) {
         rows.push_back(StatusRow(name, step, Comes::Told, CheckToldWithoutCode));
+    }
 }
 
 }  // namespace

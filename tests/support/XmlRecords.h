@@ -55,12 +55,13 @@ using XmlRecords = RecordTypes<
 template <class Record>
 constexpr const char* RootOf()
 {
-    if constexpr (requires { Record::kRoot; })
+    if constexpr (requires { Record::kRoot; }) {
         return Record::kRoot;
-    else if constexpr (requires { Record::kElement; })
+    } else if constexpr (requires { Record::kElement; }) {
         return Record::kElement;
-    else
+    } else {
         return "part";
+    }
 }
 
 }  // namespace TestSupport

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 
 namespace TestSupport
 {
@@ -144,8 +144,9 @@ template <class Record>
 std::string AllFields()
 {
     std::string elements;
-    for (const FieldLayout& field : LayoutOf<Record>(11))
+    for (const FieldLayout& field : LayoutOf<Record>(11)) {
         elements += IsLegal(field) ? field.element : std::string();
+    }
     return elements;
 }
 

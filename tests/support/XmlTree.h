@@ -21,8 +21,9 @@ public:
                                   XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
                     xmlFreeDoc)
     {
-        if (document_ == nullptr)
+        if (document_ == nullptr) {
             throw std::runtime_error("not well-formed: " + text);
+        }
     }
 
     [[nodiscard]] xmlNode* Root() const { return xmlDocGetRootElement(document_.get()); }

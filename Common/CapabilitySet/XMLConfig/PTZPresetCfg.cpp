@@ -4,9 +4,9 @@
 
 #include <thread>
 
-#include "CapabilitySet/private/JsonReading.h"
-#include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/json/JsonReading.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 
 namespace CapabilitySet
 {
@@ -55,12 +55,14 @@ constexpr ListNames kPatrols{CVelTarnPTZPatrolList::kRoot, "PTZPatrol"};
 
 bool HoldsEmptyItem(xmlNode* root, const ListNames& names)
 {
-    if (!xml::NextElementNamed(root, names.root))
+    if (!xml::NextElementNamed(root, names.root)) {
         return false;
+    }
     for (xmlNode* item = root->children; xml::NextElementNamed(item, names.item);
          item = item->next) {
-        if (item->children == nullptr)
+        if (item->children == nullptr) {
             return true;
+        }
     }
     return false;
 }
@@ -93,8 +95,9 @@ bool AskTracking(const query::Operation& operation, const char* channelTag, cons
     query::Operation conversion = operation;
     conversion.failureTag = channelTag;
     if (!query::ToProtocolChannel(conversion, userID, channel, protocolChannel, err,
-                                  "ChannelToTARN"))
+                                  "ChannelToTARN")) {
         return false;
+    }
     query::TransparentRequest request(userID,
                                       method + std::string(" /TARN/PTZCtrl/channels/") +
                                           std::to_string(protocolChannel) +
@@ -110,8 +113,9 @@ bool HasEmptyItem(const std::string& text)
     try {
         xml::Problem problem;
         const xml::Document document = xml::ParseText(text, xml::Form::BlankFree, problem);
-        if (document == nullptr)
+        if (document == nullptr) {
             return false;
+        }
         xmlNode* const root = xmlDocGetRootElement(document.get());
         return HoldsEmptyItem(root, kPresets) || HoldsEmptyItem(root, kPatterns) ||
                HoldsEmptyItem(root, kPatrols);
@@ -137,15 +141,17 @@ void CVelTarnPTZPresetInfo::Parse(_xmlNode* firstChild)
     xml::EndAtException([&] {
         xmlNode* cursor = firstChild;
         const auto next = [&cursor](const char* name, auto& member) {
-            if (!xml::NextElementNamed(cursor, name))
+            if (!xml::NextElementNamed(cursor, name)) {
                 return;
+            }
             xml::ReadValue(cursor, member, as::plain);
             cursor = cursor->next;
         };
         next("enabled", enabled);
         next("id", id);
-        if (!xml::NextElementNamed(cursor, "AbsoluteHigh"))
+        if (!xml::NextElementNamed(cursor, "AbsoluteHigh")) {
             return;
+        }
         cursor = cursor->children;
         next("elevation", elevation);
         next("azimuth", azimuth);
@@ -193,8 +199,9 @@ bool CVelTarnPTZAutoTracking::Parse(const std::string& text)
     bool read = false;
     json::WithRoot(text, [&](const Json::Value& root) {
         const Json::Value& tracking = json::MemberOf(root, "MoveAutoTracking");
-        if (tracking.isNull())
+        if (tracking.isNull()) {
             return;
+        }
         enabled = json::MemberOf(tracking, "enabled").asBool();
         read = true;
     });

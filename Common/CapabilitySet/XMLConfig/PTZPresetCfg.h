@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "CapabilitySet/CapabilityElements.h"
-#include "CapabilitySet/private/FieldTags.h"
+#include "CapabilitySet/FieldTags.h"
 
 struct _xmlNode;
 

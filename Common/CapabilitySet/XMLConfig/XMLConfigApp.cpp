@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 
-#include "CapabilitySet/private/RecordRequests.h"
-#include "CapabilitySet/private/XmlRecord.h"
+#include "CapabilitySet/private/query/RecordRequests.h"
+#include "CapabilitySet/private/xml/XmlRecordMembers.h"
 
 namespace CapabilitySet
 {

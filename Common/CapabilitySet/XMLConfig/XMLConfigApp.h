@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "CapabilitySet/AbilityDocument.h"
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/XMLParamInterface/SDKInterfaceManager.h"
 #include "CapabilitySet/XmlRecord.h"
-#include "CapabilitySet/private/FieldTags.h"
 
 namespace CapabilitySet
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
 
-#include "CapabilitySet/private/RecordRequests.h"
+#include "CapabilitySet/private/query/RecordRequests.h"
 
 namespace CapabilitySet
 {

@@ -7,8 +7,8 @@
 #include <cstring>
 #include <limits>
 
-#include "CapabilitySet/private/QueryFrame.h"
-#include "CapabilitySet/private/XmlFields.h"
+#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/xml/XmlFields.h"
 #include "PelNetSDK/PelNetSDK.h"
 
 namespace CapabilitySet::ParseXmlHelper
@@ -45,8 +45,9 @@ struct ResponseStatus
             xml::Problem problem;
             const xml::Document document = xml::ParseText(text, xml::Form::Plain, problem);
             xmlNode* root = document == nullptr ? nullptr : xmlDocGetRootElement(document.get());
-            if (xml::NextElementNamed(root, "ResponseStatus"))
+            if (xml::NextElementNamed(root, "ResponseStatus")) {
                 xml::ReadFields(*this, root->children);
+            }
         });
     }
 
@@ -67,8 +68,9 @@ void Install(Holder* holder, CallBack Holder::*member, const CallBack& callBack)
 {
     unsigned int err = 0;
     query::Guarded(err, [&] {
-        if (holder != nullptr)
+        if (holder != nullptr) {
             holder->*member = callBack;
+        }
         return true;
     });
 }
@@ -126,13 +128,15 @@ public:
         // A device that insists on answering is given room even when no answer is wanted.
         const std::size_t present =
             type == URL_PUT ? status_.size() : std::max(answer_.size(), kFirstAnswer);
-        if (wanted <= present)
+        if (wanted <= present) {
             return false;
+        }
         buffer.assign(wanted, '\0');
-        if (type == URL_PUT)
+        if (type == URL_PUT) {
             PassStatus();
-        else
+        } else {
             PassAnswer();
+        }
         return true;
     }
 
@@ -209,8 +213,9 @@ SDKInterfaceManager::URLType SDKInterfaceManager::RequestUrl2URLType(const std::
         {{"GET /", URL_GET}, {"PUT /", URL_PUT}, {"POST /", URL_POST}, {"DELETE /", URL_DELETE}}};
     for (const Prefix& prefix : kPrefixes) {
         // Kept: clients rely on the NUL taking part, so that only the bare prefix matches.
-        if (std::strncmp(line.c_str(), prefix.text, std::strlen(prefix.text) + 1) == 0)
+        if (std::strncmp(line.c_str(), prefix.text, std::strlen(prefix.text) + 1) == 0) {
             return prefix.type;
+        }
     }
     return URL_UNKNOWN;
 }
@@ -220,8 +225,9 @@ InterfaceRet SDKInterfaceManager::TransparentRequset(int userID, const std::stri
                                                      std::string& status, unsigned long timeout,
                                                      bool flag)
 {
-    if (userID < 0)
+    if (userID < 0) {
         return {false, kInvalidUser, -1};
+    }
     InterfaceRet result{false, kSdkFailure, static_cast<int>(query::kNotSupported)};
     unsigned int err = 0;
     query::Guarded(err, [&] {
@@ -229,8 +235,9 @@ InterfaceRet SDKInterfaceManager::TransparentRequset(int userID, const std::stri
         const URLType type = RequestUrl2URLType(line);
         Exchange exchange(line, body, answer, timeout, flag);
         result = Carry(exchange, userID, type);
-        if (result.success && wantsStatus && exchange.HasStatus())
+        if (result.success && wantsStatus && exchange.HasStatus()) {
             status = exchange.Status();
+        }
         return true;
     });
     return result;
@@ -239,13 +246,16 @@ InterfaceRet SDKInterfaceManager::TransparentRequset(int userID, const std::stri
 InterfaceRet SDKInterfaceManager::Carry(Exchange& exchange, int userID, URLType type)
 {
     while (!exchange.Send(userID)) {
-        if (exchange.HasStatus())
+        if (exchange.HasStatus()) {
             return Refused(exchange.Status());
+        }
         const unsigned int error = NET_ORB_GetLastError();
-        if (error != NET_ORB_BUFFER_TOO_SMALL && error != NET_ORB_ABILITY_TOO_SMALL)
+        if (error != NET_ORB_BUFFER_TOO_SMALL && error != NET_ORB_ABILITY_TOO_SMALL) {
             return Failed(error == NET_ORB_ABILITY_FAILED ? query::kNotSupported : error);
-        if (!exchange.Grow(type))
+        }
+        if (!exchange.Grow(type)) {
             return Failed(NET_ORB_BUFFER_TOO_SMALL);
+        }
     }
     return {true, kSuccess, -1};
 }
@@ -253,21 +263,25 @@ InterfaceRet SDKInterfaceManager::Carry(Exchange& exchange, int userID, URLType 
 InterfaceRet SDKInterfaceManager::Failed(unsigned int error)
 {
     const int code = static_cast<int>(error);
-    if (callBacks_ != nullptr && callBacks_->sdkError)
+    if (callBacks_ != nullptr && callBacks_->sdkError) {
         callBacks_->sdkError(code);
+    }
     return {false, kSdkFailure, code};
 }
 
 InterfaceRet SDKInterfaceManager::Refused(const std::string& statusText)
 {
     ResponseStatus status;
-    if (!statusText.empty())
+    if (!statusText.empty()) {
         status.Parse(statusText);
+    }
     int code = -1;
-    if (callBacks_ != nullptr && callBacks_->xmlErrorTrans)
+    if (callBacks_ != nullptr && callBacks_->xmlErrorTrans) {
         code = callBacks_->xmlErrorTrans(status.statusCode, status.subStatusCode);
-    if (callBacks_ != nullptr && callBacks_->xmlError)
+    }
+    if (callBacks_ != nullptr && callBacks_->xmlError) {
         callBacks_->xmlError(code);
+    }
     return {false, kRefusal, code};
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLParamInterface/SwitchConfig.h"
 
-#include "CapabilitySet/private/XmlRecord.h"
+#include "CapabilitySet/private/xml/XmlRecordMembers.h"
 
 namespace CapabilitySet
 {

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "CapabilitySet/AbilityDocument.h"
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/XmlRecord.h"
-#include "CapabilitySet/private/FieldTags.h"
 
 namespace CapabilitySet
 {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/XmlRecord.h"
-#include "CapabilitySet/private/FieldTags.h"
 
 namespace CapabilitySet
 {

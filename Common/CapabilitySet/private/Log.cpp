@@ -34,8 +34,9 @@ bool Wanted(LogLevel level)
 
 void Error(const Place& place, const char* format, ...)
 {
-    if (!Wanted(LogLevel::Error))
+    if (!Wanted(LogLevel::Error)) {
         return;
+    }
     va_list arguments;
     va_start(arguments, format);
     Line(&CLog::Error, place, format, arguments);
@@ -44,8 +45,9 @@ void Error(const Place& place, const char* format, ...)
 
 void Info(const Place& place, const char* format, ...)
 {
-    if (!Wanted(LogLevel::Info))
+    if (!Wanted(LogLevel::Info)) {
         return;
+    }
     va_list arguments;
     va_start(arguments, format);
     Line(&CLog::Info, place, format, arguments);

@@ -68,26 +68,30 @@ std::atomic<int> alarmQueryHandle{-1};
 const int* CodeOf(const OptionCodes& table, const std::string& option)
 {
     for (const OptionCodes::Entry& entry : table.entries) {
-        if (entry.option == option)
+        if (entry.option == option) {
             return &entry.code;
+        }
     }
-    if (std::find(table.uncoded.begin(), table.uncoded.end(), option) == table.uncoded.end())
+    if (std::find(table.uncoded.begin(), table.uncoded.end(), option) == table.uncoded.end()) {
         log::Error(CAPABILITYSET_HERE, "[%s] is not exist in '%s'.", option.c_str(), table.name);
+    }
     return nullptr;
 }
 
 bool ConvertHandleTypeFromXmlStr(std::vector<AlarmHandleType::HandleType>& out,
                                  const OptElement<std::string>& in, int loginHandle)
 {
-    if (!Convert(kHandleTypes, out, in))
+    if (!Convert(kHandleTypes, out, in)) {
         return false;
+    }
     // A device may upload to FTP servers without listing it among the options.
     if (loginHandle != -1 && std::find(in.opt.begin(), in.opt.end(), kUploadFtp) == in.opt.end()) {
         BasicCapability basic;
         unsigned int err = 0;
         BasicCapability::GetBasicCapability(basic, err, loginHandle);
-        if (basic.software.UploadFTP)
+        if (basic.software.UploadFTP) {
             out.push_back(AlarmHandleType::UploadFtp);
+        }
     }
     return true;
 }

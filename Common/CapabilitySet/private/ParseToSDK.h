@@ -53,8 +53,9 @@ template <class Append>
 bool ForEachCode(const OptionCodes& table, const OptElement<std::string>& in, Append&& append)
 {
     for (const std::string& option : in.opt) {
-        if (const int* const code = CodeOf(table, option))
+        if (const int* const code = CodeOf(table, option)) {
             append(*code);
+        }
     }
     return !in.opt.empty();
 }

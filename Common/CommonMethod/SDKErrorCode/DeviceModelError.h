@@ -25,8 +25,9 @@ constexpr bool isDeviceModelError(int code)
         {0x1400001, 0x1400009},
     };
     for (const Codes& codes : kKnown) {
-        if (code >= codes.first && code <= codes.last)
+        if (code >= codes.first && code <= codes.last) {
             return true;
+        }
     }
     return false;
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonCap/AlarmHostCap.h"
 
-#include "CapabilitySet/private/JsonRecord.h"
+#include "CapabilitySet/private/json/JsonRecordMembers.h"
 
 namespace CapabilitySet
 {
@@ -16,8 +16,9 @@ template struct JsonRecord<AlarmHostStatusTARNCapability>;
 
 void SubSysOperateCapability::Parse(const Json::Value& value)
 {
-    if (value.isNull())
+    if (value.isNull()) {
         return;
+    }
     root = value;
     present = true;
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonCap/JsonCapApp.h"
 
-#include "CapabilitySet/private/JsonOperation.h"
+#include "CapabilitySet/private/query/JsonOperation.h"
 
 namespace CapabilitySet
 {

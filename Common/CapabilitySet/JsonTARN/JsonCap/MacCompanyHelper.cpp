@@ -6,9 +6,9 @@
 #include <memory>
 #include <utility>
 
-#include "CapabilitySet/private/JsonReading.h"
 #include "CapabilitySet/private/Log.h"
 #include "CapabilitySet/private/MacCompanyTexts.h"
+#include "CapabilitySet/private/json/JsonReading.h"
 
 namespace CapabilitySet
 {
@@ -40,8 +40,9 @@ CMacCompanyHelper::CMacCompanyHelper()
 
 void CMacCompanyHelper::initialTable()
 {
-    if (shared_ != nullptr)
+    if (shared_ != nullptr) {
         return;
+    }
     try {
         if (!own_.empty() || sharedIsGone) {
             LoadTexts();
@@ -60,23 +61,26 @@ void CMacCompanyHelper::initialTable()
 
 void CMacCompanyHelper::LoadTexts()
 {
-    for (const std::string_view text : MacCompanyTexts())
+    for (const std::string_view text : MacCompanyTexts()) {
         convertStringToMap(text);
+    }
 }
 
 void CMacCompanyHelper::convertStringToMap(std::string_view text)
 {
     Json::Value root;
-    if (!json::ParseText(text, root) || !root.isObject())
+    if (!json::ParseText(text, root) || !root.isObject()) {
         return;
+    }
     const Json::Value& members = root;
     own_.reserve(own_.size() + members.size());
     const auto end = members.end();
     for (auto member = members.begin(); member != end; ++member) {
         const char* labelBegin = nullptr;
         const char* labelEnd = nullptr;
-        if (!member->getString(&labelBegin, &labelEnd))
+        if (!member->getString(&labelBegin, &labelEnd)) {
             continue;  // no text
+        }
         const char* prefixEnd = nullptr;
         const char* const prefixBegin = member.memberName(&prefixEnd);
         // A prefix that is there keeps its label.
@@ -87,8 +91,9 @@ void CMacCompanyHelper::convertStringToMap(std::string_view text)
 const std::string& CMacCompanyHelper::LabelOf(std::string&& prefix)
 {
     if (shared_ != nullptr) {
-        if (const auto known = shared_->find(prefix); known != shared_->end())
+        if (const auto known = shared_->find(prefix); known != shared_->end()) {
             return known->second;
+        }
     }
     // Kept: an unknown prefix is added with an empty label.
     return own_[std::move(prefix)];

@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
-#include "CapabilitySet/private/FieldTags.h"
 
 namespace CapabilitySet
 {

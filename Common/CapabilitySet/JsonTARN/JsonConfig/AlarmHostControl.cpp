@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/AlarmHostControl.h"
 
-#include "CapabilitySet/private/JsonRecord.h"
+#include "CapabilitySet/private/json/JsonRecordMembers.h"
 
 namespace CapabilitySet
 {
@@ -26,8 +26,9 @@ std::string SubSystemsBody(const OperateSubSystemsInfo& info, bool withArmType)
         for (const OperateSubSystem& subSystem : info.subSystems) {
             Json::Value& entry = list.append(Json::Value())["SubSys"];
             json::WriteFields(entry, subSystem);
-            if (!withArmType)
+            if (!withArmType) {
                 entry.removeMember("armType");
+            }
         }
     });
 }

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
-#include "CapabilitySet/private/FieldTags.h"
 
 namespace CapabilitySet
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/CaptureSearch.h"
 
-#include "CapabilitySet/private/JsonRecord.h"
+#include "CapabilitySet/private/json/JsonRecordMembers.h"
 
 namespace CapabilitySet
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/FaceLibrarySearch.h"
 
-#include "CapabilitySet/private/JsonRecord.h"
+#include "CapabilitySet/private/json/JsonRecordMembers.h"
 
 namespace CapabilitySet
 {
@@ -30,8 +30,9 @@ std::string FDLibSearchDescription::Make() const
             search["startTime"] = startTime + kZone;
             search["endTime"] = endTime + kZone;
         }
-        if (searchType == "attendance")
+        if (searchType == "attendance") {
             json::WriteFields(search["Attendance"], Attendance);
+        }
     });
 }
 

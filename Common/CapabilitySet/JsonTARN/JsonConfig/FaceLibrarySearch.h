@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/SearchPage.h"
 #include "CapabilitySet/JsonTARN/JsonRecord.h"
-#include "CapabilitySet/private/FieldTags.h"
 
 namespace CapabilitySet
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/FireControl.h"
 
-#include "CapabilitySet/private/JsonRecord.h"
+#include "CapabilitySet/private/json/JsonRecordMembers.h"
 
 namespace CapabilitySet
 {
@@ -19,12 +19,14 @@ namespace
 template <class Sensor>
 void ParseSensor(const Json::Value& value, Sensor& sensor)
 {
-    if (value.isNull())
+    if (value.isNull()) {
         return;
-    if (value.isObject())
+    }
+    if (value.isObject()) {
         json::ReadFields(sensor, value);
-    else
+    } else {
         sensor.status = value.asString();
+    }
     sensor.present = true;
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/HumanFeatureSearch.h"
 
-#include "CapabilitySet/private/JsonRecord.h"
+#include "CapabilitySet/private/json/JsonRecordMembers.h"
 
 namespace CapabilitySet
 {
@@ -13,8 +13,9 @@ template struct JsonRecord<HFPDSearchFaceResult>;
 
 void HFPDProgress::Parse(const Json::Value& progress)
 {
-    if (progress.isNull())
+    if (progress.isNull()) {
         return;
+    }
     value = (progress.isObject() ? json::MemberOf(progress, "value") : progress).asInt();
     present = true;
 }

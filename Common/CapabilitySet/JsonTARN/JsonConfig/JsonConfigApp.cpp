@@ -4,7 +4,7 @@
 
 #include <iterator>
 
-#include "CapabilitySet/private/JsonOperation.h"
+#include "CapabilitySet/private/query/JsonOperation.h"
 
 namespace CapabilitySet
 {
@@ -50,11 +50,12 @@ bool JsonConfigApp::SetDevClearAlarm(JsonStatus& status, const int subSystemID, 
 bool JsonConfigApp::SetDevBypass(const AlarmHostBypassCfg& cfg, JsonStatus& status,
                                  unsigned int& error, const int zoneID, const int userID)
 {
-    if (zoneID == kBatch)
+    if (zoneID == kBatch) {
         return AskJson(
             status, error, userID, CAPABILITYSET_HERE,
             {"POST /TARN/SecurityCP/control/bypass?format=json\r\n"}, [&] { return cfg.Make(); },
             kPaddedBody);
+    }
     return AskJson(status, error, userID, CAPABILITYSET_HERE,
                    {"POST /TARN/SecurityCP/control/bypass/<", zoneID, ">?format=json\r\n"});
 }
@@ -62,11 +63,12 @@ bool JsonConfigApp::SetDevBypass(const AlarmHostBypassCfg& cfg, JsonStatus& stat
 bool JsonConfigApp::SetDevBypassRecover(const AlarmHostBypassCfg& cfg, JsonStatus& status,
                                         unsigned int& error, const int zoneID, const int userID)
 {
-    if (zoneID == kBatch)
+    if (zoneID == kBatch) {
         return AskJson(
             status, error, userID, CAPABILITYSET_HERE,
             {"POST /TARN/SecurityCP/control/bypassRecover?format=json\r\n"},
             [&] { return cfg.Make(); }, kPaddedBody);
+    }
     return AskJson(status, error, userID, CAPABILITYSET_HERE,
                    {"POST /TARN/SecurityCP/control/bypassRecover/<", zoneID, ">?format=json\r\n"});
 }
@@ -76,10 +78,11 @@ bool JsonConfigApp::SetOutputControl(const AlarmHostOutputCfg& cfg, unsigned int
                                      const int userID)
 {
     const auto body = [&] { return cfg.Make(); };
-    if (outputID == kBatch)
+    if (outputID == kBatch) {
         return AskJson(errors, error, userID, CAPABILITYSET_HERE,
                        {"POST /TARN/SecurityCP/control/outputs?format=json\r\n"}, body,
                        kOutputControl);
+    }
     return AskJson(errors, error, userID, CAPABILITYSET_HERE,
                    {"PUT /TARN/SecurityCP/control/outputs/", outputID, "?format=json\r\n"}, body,
                    kOutputControl);
@@ -140,10 +143,11 @@ bool JsonConfigApp::SetDetectorSilence(JsonStatus& status, DetectorSilence comma
                                        const int userID)
 {
     const auto body = [&] { return command.Make(); };
-    if (second < 0)
+    if (second < 0) {
         return AskJson(status, error, userID, CAPABILITYSET_HERE,
                        {"PUT /TARN/FireControl/Control/detectorAlarm/", first, "?format=json\r\n"},
                        body, kPaddedBody);
+    }
     return AskJson(
         status, error, userID, CAPABILITYSET_HERE,
         {"PUT /TARN/FireControl/Control/detectorAlarm/", first, "/", second, "?format=json\r\n"},

@@ -1,0 +1,275 @@
+// Reads a record's field list from an element's children.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/FieldTags.h"
+#include "CapabilitySet/OptionTypes.h"
+#include "CapabilitySet/private/xml/FieldIndex.h"
+#include "CapabilitySet/private/xml/XmlDocument.h"
+#include "CapabilitySet/private/xml/XmlReading.h"
+
+// The families of records differ in three properties, each told by the record itself:
+// - its flag is `valid` or `capable`, or it has none;
+// - Parse(_xmlNode*) takes the element, or its first child: records with `valid`, and those that
+//   state `kParseTakesFirstChild`;
+// - a nested record counts as read when it is found (records with `valid`), or when its own flag is
+//   raised (records with `capable`, and those that state `kNestedFlagCounts`).
+
+namespace CapabilitySet::xml
+{
+
+template <class Record>
+concept HasValid = requires(Record& r) { r.valid = true; };
+template <class Record>
+concept HasCapable = requires(Record& r) { r.capable = true; };
+template <class Record>
+concept ParsesNode = requires(Record& r, _xmlNode* node) { r.Parse(node); };
+template <class Record>
+concept TakesFirstChild = HasValid<Record> || requires { requires Record::kParseTakesFirstChild; };
+template <class Record>
+concept NestedFlagCounts = HasCapable<Record> || requires { requires Record::kNestedFlagCounts; };
+
+/// A record, as against a value or a shared element type: it has a field list.
+template <class Type>
+concept IsRecord = requires(Type& r) { Type::Fields(r, [](auto&&... /*field*/) {}); };
+
+template <class Record>
+void RaiseFlag(Record& record)
+{
+    if constexpr (HasValid<Record>) {
+        record.valid = true;
+    } else if constexpr (HasCapable<Record>) {
+        record.capable = true;
+    }
+}
+
+template <class Record>
+bool FlagOf(const Record& record)
+{
+    if constexpr (HasValid<Record>) {
+        return record.valid;
+    } else if constexpr (HasCapable<Record>) {
+        return record.capable;
+    } else {
+        return true;
+    }
+}
+
+// One overload for each way of reading; the result tells whether the record that holds the member
+// counts as read.
+
+inline bool ReadValue(xmlNode* node, bool& value, as::Plain /*how*/)
+{
+    value = GetNodeBool(node);
+    return true;
+}
+
+inline bool ReadValue(xmlNode* node, int& value, as::Plain /*how*/)
+{
+    value = GetNodeInt(node);
+    return true;
+}
+
+inline bool ReadValue(xmlNode* node, unsigned int& value, as::Plain /*how*/)
+{
+    value = GetNodeUInt(node);
+    return true;
+}
+
+inline bool ReadValue(xmlNode* node, std::string& value, as::Plain /*how*/)
+{
+    std::string spare;
+    value = TextOf(node, spare);
+    return true;
+}
+
+/// Numbers of the other widths.
+bool ReadValue(xmlNode* node, long long& value, as::Plain how);
+bool ReadValue(xmlNode* node, float& value, as::Plain how);
+bool ReadValue(xmlNode* node, double& value, as::Plain how);
+
+inline bool ReadValue(xmlNode* /*node*/, bool& value, as::Presence /*how*/)
+{
+    value = true;
+    return true;
+}
+
+inline bool ReadValue(xmlNode* /*node*/, bool& value, as::Marker /*how*/)
+{
+    value = true;
+    return false;
+}
+
+bool ReadValue(xmlNode* node, bool& value, as::EnabledFlag how);
+bool ReadValue(xmlNode* node, bool& value, as::FirstOption how);
+bool ReadValue(xmlNode* node, bool& value, as::TextFlag how);
+bool ReadValue(xmlNode* node, bool& value, as::TrueOrFalse how);
+bool ReadValue(xmlNode* node, unsigned int& value, as::Quiet how);
+bool ReadValue(xmlNode* node, std::vector<int>& codes, as::Codes how);
+bool ReadValue(xmlNode* node, std::vector<AlarmHandleType::HandleType>& types, as::HandleTypes how);
+
+template <class Value>
+bool ReadValue(xmlNode* node, Value& value, as::Noted<bool> how)
+{
+    how.flag = true;
+    return ReadValue(node, value, as::plain);
+}
+
+inline bool ReadValue(xmlNode* node, MinMaxElement& value, as::Attributes /*how*/)
+{
+    value.ParseProp(node);
+    return true;
+}
+
+/// A record or element type with a Parse of its own.
+template <ParsesNode Nested>
+bool ReadValue(xmlNode* node, Nested& value, as::Plain /*how*/)
+{
+    constexpr bool kFromFirstChild =
+        TakesFirstChild<Nested> || std::is_same_v<Nested, MinMaxElement> ||
+        std::is_same_v<Nested, RangeElement> || std::is_same_v<Nested, MinMaxOrRangeElement>;
+    value.Parse(kFromFirstChild ? node->children : node);
+    return true;
+}
+
+/// Appends the elements of this name, from `first` on among its siblings.
+template <class Item>
+void AppendItems(xmlNode* first, const char* name, std::vector<Item>& items)
+{
+    for (xmlNode* cursor = first; NextElementNamed(cursor, name); cursor = cursor->next) {
+        Item item{};
+        ReadValue(cursor, item, as::plain);
+        items.push_back(std::move(item));
+    }
+}
+
+template <class Item>
+void AppendItems(xmlNode* first, const char* name, std::vector<std::shared_ptr<Item>>& items)
+{
+    for (xmlNode* cursor = first; NextElementNamed(cursor, name); cursor = cursor->next) {
+        auto item = std::make_shared<Item>();
+        ReadValue(cursor, *item, as::plain);
+        items.push_back(std::move(item));
+    }
+}
+
+template <class Item>
+bool ReadValue(xmlNode* first, std::vector<Item>& items, as::Repeated /*how*/)
+{
+    // The name is that of the first item: the field's own.
+    AppendItems(first, reinterpret_cast<const char*>(first->name), items);
+    return true;
+}
+
+template <class Item>
+bool ReadValue(xmlNode* list, std::vector<Item>& items, as::Items how)
+{
+    AppendItems(list->children, how.item, items);
+    return true;
+}
+
+template <class Member, class How>
+concept ReadableAs =
+    requires(xmlNode* node, Member& member, How how) { ReadValue(node, member, how); };
+
+/// The record type `Record`'s names and their order, made on first use.
+template <class Record>
+const FieldIndex& IndexOf()
+{
+    static const FieldIndex index = [] {
+        FieldIndex names;
+        Record sample;
+        Record::Fields(sample, [&names](const char* name, auto& /*member*/, auto... how) {
+            names.Add(name, (std::is_same_v<decltype(how), as::Repeated> || ...));
+        });
+        names.Finish();
+        return names;
+    }();
+    return index;
+}
+
+/// Visits a field list and reads each member from the element that was matched to it.
+template <class Record>
+class FieldReader
+{
+public:
+    explicit FieldReader(xmlNode* firstChild) : matches_(IndexOf<Record>(), firstChild) {}
+
+    template <class Member, class How = as::Plain>
+    void operator()(const char* /*name*/, Member& member, How how = {})
+    {
+        static_assert(ReadableAs<Member, How>,
+                      "A field of this type and tag cannot be read from XML: give the type a "
+                      "Parse(_xmlNode*), or add a ReadValue overload to XmlFields.h, or use a tag "
+                      "of FieldTags.h that fits the type.");
+        xmlNode* const node = matches_[field_++];
+        if constexpr (ReadableAs<Member, How>) {
+            if (node == nullptr || !ReadValue(node, member, how)) {
+                return;
+            }
+            if constexpr (NestedFlagCounts<Record> && IsRecord<Member>) {
+                read_ = read_ || FlagOf(member);
+            } else {
+                read_ = true;
+            }
+        }
+    }
+
+    /// Whether a field was read that counts.
+    [[nodiscard]] bool Read() const { return read_; }
+
+    /// Whether the field's element was found.
+    [[nodiscard]] bool Found(const char* name) const
+    {
+        return matches_[IndexOf<Record>().Find(name)] != nullptr;
+    }
+
+private:
+    FieldMatches matches_;
+    std::size_t field_ = 0;
+    bool read_ = false;
+};
+
+/// Reads a record's fields from an element's children; may throw std::bad_alloc.
+template <class Record>
+void ReadFields(Record& record, xmlNode* firstChild)
+{
+    FieldReader<Record> reader(firstChild);
+    Record::Fields(record, reader);
+    if (reader.Read()) {
+        RaiseFlag(record);
+    }
+}
+
+/// The whole of a record's Parse(_xmlNode*): `node` is the element or its first child, whichever
+/// this record takes; null reads nothing. Nothing is thrown.
+template <class Record>
+void ParseNode(Record& record, xmlNode* node)
+{
+    xmlNode* firstChild = node;
+    if constexpr (!TakesFirstChild<Record>) {
+        firstChild = node == nullptr ? nullptr : node->children;
+    }
+    if (firstChild == nullptr) {
+        return;
+    }
+    EndAtException([&] { ReadFields(record, firstChild); });
+}
+
+/// The whole of a root record's Parse(const std::string&).
+template <class Record>
+void ParseDocument(Record& record, const std::string& text, const char* rootName,
+                   const log::Place& place, Form form = Form::Plain, const RootTexts& texts = {})
+{
+    WithRoot(
+        text, rootName, place, [&](xmlNode* root) { ReadFields(record, root->children); }, form,
+        texts);
+}
+
+}  // namespace CapabilitySet::xml

@@ -1,0 +1,332 @@
+// capset alarm: what an alarm host is doing, and commands to it.
+// SPDX-License-Identifier: Apache-2.0
+#include <memory>
+
+#include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
+#include "Tool/command/AlarmItems.h"
+#include "Tool/command/AlarmLists.h"
+#include "Tool/command/DeviceCommand.h"
+#include "Tool/record/JsonOutput.h"
+#include "Tool/record/JsonTree.h"
+#include "Tool/session/Paging.h"
+#include "Tool/terminal/Text.h"
+
+namespace Tool
+{
+
+using namespace CapabilitySet;
+
+namespace
+{
+
+using Part = std::function<RecordNode(Talk&, const char* name)>;
+
+/// A part that one of the library's operations reads.
+template <class Record>
+Part Read(bool (*get)(Record&, unsigned int&, const int))
+{
+    return [get](Talk& talk, const char* name) {
+        Record record;
+        talk.Do([&](unsigned int& error) { return get(record, error, talk.UserID()); });
+        return DescribeJson(name, record);
+    };
+}
+
+/// A part that the library only parses.
+template <class Record>
+Part Fetch(const char* path)
+{
+    return [path](Talk& talk, const char* name) {
+        return DescribeJson(name, Record(talk.Send(std::string("GET ") + path + "?format=json")));
+    };
+}
+
+struct NamedPart
+{
+    const char* name;
+    Part read;
+};
+
+const std::vector<NamedPart>& StatusParts()
+{
+    static const std::vector<NamedPart> all{
+        {"communication", Read(&JsonConfigApp::GetAlarmHostCommuniStatus)},
+        {"subsystems", Fetch<AlarmHostSubSystemsInfo>("/TARN/SecurityCP/status/subSystems")},
+        {"zones", Fetch<AlarmHostZonesInfo>("/TARN/SecurityCP/status/zones")},
+        {"outputs", Fetch<AlarmHostOutputsModulesInfo>("/TARN/SecurityCP/status/outputs")},
+        {"sirens", Fetch<AlarmHostSirensInfo>("/TARN/SecurityCP/status/sirens")},
+        {"detectors", ReadDetectors},
+    };
+    return all;
+}
+
+const std::vector<NamedPart>& ConfigurationParts()
+{
+    static const std::vector<NamedPart> all{
+        {"subsystems", Read(&JsonConfigApp::GetSubSystemConfig)},
+        {"zones", Read(&JsonConfigApp::GetAlarmHostZoneConfiguration)},
+        {"outputs", Read(&JsonConfigApp::GetTriggerConfig)},
+    };
+    return all;
+}
+
+void AddPartsCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+                     const std::string& title, const std::vector<NamedPart>& parts)
+{
+    const auto wanted = std::make_shared<std::vector<std::string>>();
+    CLI::App& command = AddDeviceCommand(group, line, text, [&parts, wanted, title](Talk& talk) {
+        Report report{{title, RecordNode::Kind::Record, {}, true, {}}};
+        report.shown = report.values;
+        for (const NamedPart& part : parts) {
+            if (wanted->empty() || std::ranges::count(*wanted, part.name) > 0) {
+                talk.Say(part.name);
+                report.values.children.push_back(part.read(talk, part.name));
+                report.shown->children.push_back(HostRows(report.values.children.back()));
+            }
+        }
+        return report;
+    });
+    std::vector<std::string> names;
+    for (const NamedPart& part : parts) {
+        names.emplace_back(part.name);
+    }
+    command.add_option("part", *wanted, "all by default, or some of " + Joined(names))
+        ->check(CLI::IsMember(names).description(""))
+        ->type_name("");
+}
+
+struct LogOptions
+{
+    TimeOptions time;
+    PageOptions page;
+};
+
+void AddLogCommand(CLI::App& group, CommandLine& line)
+{
+    const auto options = std::make_shared<LogOptions>();
+    CLI::App& command = AddDeviceCommand(
+        group, line, {"log", "Read the log", "sim:alarmhost --limit 20"}, [options](Talk& talk) {
+            AlarmHostLogConditionDescription condition;
+            condition.startTime = StartTime(options->time, "");
+            condition.endTime = EndTime(options->time, "");
+            return FetchPages(talk, options->page, "Log", [&](const PageRequest& request) {
+                condition.searchID = request.searchID;
+                condition.searchResultPosition = request.position;
+                condition.maxResults = request.count;
+                AlarmHostDeviceLogResult result;
+                talk.Do([&](unsigned int& error) {
+                    return JsonConfigApp::GetAlarmHostDeviceLog(condition, result, error,
+                                                                talk.UserID());
+                });
+                return ReadPage(DescribeJson("Log", result));
+            });
+        });
+    AddTimeOptions(command, options->time);
+    AddPageOptions(command, options->page);
+}
+
+/// The library's number for all items that a request's body lists.
+constexpr int kBatch = -1;
+
+struct ItemOptions
+{
+    std::vector<int> ids;
+    std::string way;
+    bool on = false;
+    bool off = false;
+    int sensor = -1;
+    std::string command;
+};
+using Options = std::shared_ptr<ItemOptions>;
+
+void AddItems(CLI::App& command, ItemOptions& options, const std::string& noun)
+{
+    command.add_option("--" + noun, options.ids, "number of the " + noun + ", or several: 1,2,5")
+        ->required()
+        ->delimiter(',')
+        ->type_name("N,...")
+        ->group("Command");
+}
+
+/// Commands to subsystems: `one` is the operation for a single one, `path` that of the batch.
+template <class One>
+void AddSubSystemCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+                         const std::string& verb, const Options& options, One one)
+{
+    const std::string path = "/TARN/SecurityCP/control/" + verb;
+    CLI::App& command = AddDeviceCommand(group, line, text, [options, one, path](Talk& talk) {
+        OperateSubSystemsInfo info;
+        for (const int id : options->ids) {
+            info.subSystems.emplace_back().id = id;
+            info.subSystems.back().armType = options->way;
+        }
+        return CommandItems(
+            talk, "subsystem", options->ids,
+            [&](int id) {
+                JsonStatus status;
+                talk.Do([&](unsigned int& error) { return one(status, id, error, talk.UserID()); });
+            },
+            [&] {
+                talk.Send("POST " + path + "?format=json",
+                          options->way.empty() ? info.CreatDisarmAndClearAlarmJsonParser(info)
+                                               : info.CreatArmJsonParser(info));
+            });
+    });
+    AddItems(command, *options, "subsystem");
+}
+
+void AddSubSystemCommands(CLI::App& group, CommandLine& line)
+{
+    const auto arming = std::make_shared<ItemOptions>();
+    AddSubSystemCommand(
+        group, line, {"arm", "Arm subsystems", "sim:alarmhost --subsystem 1 --way away"}, "arm",
+        arming, [arming](JsonStatus& status, int id, unsigned int& error, int userID) {
+            return JsonConfigApp::SetDevArming(status, arming->way, id, error, userID);
+        });
+    group.get_subcommand("arm")
+        ->add_option("--way", arming->way, "away, stay or another way of the host's")
+        ->required()
+        ->type_name("WAY")
+        ->group("Command");
+    AddSubSystemCommand(group, line,
+                        {"disarm", "Disarm subsystems", "sim:alarmhost --subsystem 1,2"}, "disarm",
+                        std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevDisArm);
+    AddSubSystemCommand(
+        group, line, {"clear", "Clear subsystems' alarms", "sim:alarmhost --subsystem 1"},
+        "clearAlarm", std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevClearAlarm);
+}
+
+using ZoneOperation = bool (*)(const AlarmHostBypassCfg&, JsonStatus&, unsigned int&, const int,
+                               const int);
+
+void AddZoneCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+                    ZoneOperation operation)
+{
+    const auto options = std::make_shared<ItemOptions>();
+    CLI::App& command = AddDeviceCommand(group, line, text, [options, operation](Talk& talk) {
+        const auto send = [&](int zone) {
+            AlarmHostBypassCfg cfg;
+            cfg.zone = JoinedNumbers(options->ids);
+            JsonStatus status;
+            talk.Do([&](unsigned int& error) {
+                return operation(cfg, status, error, zone, talk.UserID());
+            });
+        };
+        return CommandItems(talk, "zone", options->ids, send, [&] { send(kBatch); });
+    });
+    AddItems(command, *options, "zone");
+}
+
+/// Sends a switch's position to one item, or with kBatch to all that the options list.
+using SwitchSender = std::function<void(Talk& talk, const ItemOptions& options, int id)>;
+
+void AddSwitchCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+                      const SwitchSender& sender)
+{
+    const auto options = std::make_shared<ItemOptions>();
+    const std::string noun = text.name;
+    CLI::App& command = AddDeviceCommand(group, line, text, [options, noun, sender](Talk& talk) {
+        if (options->on == options->off) {
+            throw Failure("say --on or --off", kUsage);
+        }
+        const auto send = [&](int id) { sender(talk, *options, id); };
+        return CommandItems(talk, noun, options->ids, send, [&] { send(kBatch); });
+    });
+    AddItems(command, *options, noun);
+    CLI::Option* const on = command.add_flag("--on", options->on, "switch on")->group("Command");
+    command.add_flag("--off", options->off, "switch off")->group("Command")->excludes(on);
+}
+
+const char* PositionOf(const ItemOptions& options)
+{
+    return options.on ? "open" : "close";
+}
+
+void SwitchOutput(Talk& talk, const ItemOptions& options, int id)
+{
+    AlarmHostOutputCfg cfg;
+    cfg.switchState = PositionOf(options);
+    cfg.ids = options.ids;
+    JsonErrorStatusList errors;
+    talk.Do([&](unsigned int& error) {
+        return JsonConfigApp::SetOutputControl(cfg, error, errors, id, talk.UserID());
+    });
+}
+
+/// The library has no operation for sirens.
+void SwitchSiren(Talk& talk, const ItemOptions& options, int id)
+{
+    Json::Value body;
+    body["SirensCtrl"]["switch"] = PositionOf(options);
+    for (const int each : options.ids) {
+        body["SirensCtrl"]["List"].append(Json::Value())["id"] = each;
+    }
+    const std::string path = "/TARN/SecurityCP/control/sirens";
+    talk.Send(id == kBatch ? "POST " + path + "?format=json"
+                           : "PUT " + path + "/" + std::to_string(id) + "?format=json",
+              Dump(body));
+}
+
+void AddDetectorCommand(CLI::App& group, CommandLine& line)
+{
+    const auto options = std::make_shared<ItemOptions>();
+    options->command = "silence";
+    CLI::App& command = AddDeviceCommand(
+        group, line, {"silence", "Silence fire detectors", "sim:alarmhost --detector 1"},
+        [options](Talk& talk) {
+            DetectorSilence silence;
+            silence.cmd = options->command;
+            const auto send = [&](int detector) {
+                JsonStatus status;
+                talk.Do([&](unsigned int& error) {
+                    return JsonConfigApp::SetDetectorSilence(status, silence, error, detector,
+                                                             options->sensor, talk.UserID());
+                });
+                talk.CheckStatus();
+            };
+            // The protocol has no batch of them.
+            return CommandItems(talk, "detector", options->ids, send, {});
+        });
+    AddItems(command, *options, "detector");
+    command.add_option("--sensor", options->sensor, "one of the detectors at it")
+        ->type_name("N")
+        ->group("Command");
+    command
+        .add_option("--command", options->command,
+                    "silence by default, or another command that "
+                    "the host's capability lists")
+        ->type_name("WORD")
+        ->group("Command");
+}
+
+}  // namespace
+
+void AddAlarmCommands(CLI::App& app, CommandLine& line)
+{
+    CLI::App& group = AddCommandGroup(app, "alarm", "Alarm hosts: state, arming, zones, outputs",
+                                      "alarm arm sim:alarmhost --subsystem 1 --way away");
+    AddPartsCommand(group, line, {"status", "Tell what the host is doing", "sim:alarmhost zones"},
+                    "AlarmHostStatus", StatusParts());
+    AddPartsCommand(group, line, {"config", "Tell how the host is set up", "sim:alarmhost outputs"},
+                    "AlarmHostConfiguration", ConfigurationParts());
+    AddDeviceCommand(
+        group, line,
+        {"zones", "List the zones, how they are set up and what they are doing", "sim:alarmhost"},
+        ListZones);
+    AddDeviceCommand(group, line, {"detectors", "List the fire detectors", "sim:alarmhost"},
+                     ListDetectors);
+    AddLogCommand(group, line);
+    AddSubSystemCommands(group, line);
+    AddZoneCommand(group, line, {"bypass", "Bypass zones", "sim:alarmhost --zone 3"},
+                   &JsonConfigApp::SetDevBypass);
+    AddZoneCommand(group, line,
+                   {"recover", "Take zones back from bypass", "sim:alarmhost --zone 3"},
+                   &JsonConfigApp::SetDevBypassRecover);
+    AddSwitchCommand(group, line, {"output", "Switch outputs", "sim:alarmhost --output 1,2 --on"},
+                     SwitchOutput);
+    AddSwitchCommand(group, line, {"siren", "Switch sirens", "sim:alarmhost --siren 4 --off"},
+                     SwitchSiren);
+    AddDetectorCommand(group, line);
+}
+
+}  // namespace Tool

@@ -1,0 +1,17 @@
+// Faults of the device's server as people write them.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "Device/http/ServerFaults.h"
+
+namespace Tool
+{
+
+/// Reads KIND[=VALUE][*TIMES][@PATH]: "delay=2s", "drip=10/100ms", "truncate=200",
+/// "stall=200/10s", "reset", "storm", "stale*1", "5xx=503", "oversize=1M",
+/// "refuse=deviceBusy*3@/TARN/System". Throws a usage failure that says what is wrong with it.
+Device::Fault ParseFault(const std::string& text);
+
+}  // namespace Tool

@@ -1,0 +1,167 @@
+// capset switch: what a managed switch is, does and is set to.
+// SPDX-License-Identifier: Apache-2.0
+#include <map>
+#include <memory>
+
+#include "CapabilitySet/XMLParamInterface/ParamInterface.h"
+#include "Tool/command/Assignment.h"
+#include "Tool/command/DeviceCommand.h"
+#include "Tool/session/Paging.h"
+
+namespace Tool
+{
+
+using namespace CapabilitySet;
+using ParseXmlHelper::InterfaceRet;
+
+namespace
+{
+
+template <class Record>
+using Getter = InterfaceRet (*)(Record&, int);
+template <class Record>
+using Setter = InterfaceRet (*)(const Record&, int);
+
+template <class Record>
+Record Read(Talk& talk, Getter<Record> get)
+{
+    Record record;
+    talk.Do([&](unsigned int& /*error*/) { return get(record, talk.UserID()); });
+    return record;
+}
+
+template <class Record>
+void AddReadCommand(CLI::App& group, CommandLine& line, const CommandText& text, Getter<Record> get)
+{
+    AddDeviceCommand(group, line, text, [get](Talk& talk) {
+        return Report{Describe(Record::kElement, Read(talk, get))};
+    });
+}
+
+/// Reads a setting, changes what the assignments name, sends it back and reads it again.
+template <class Record>
+Report Change(Talk& talk, Getter<Record> get, Setter<Record> set,
+              const std::vector<Assignment>& assignments)
+{
+    Record record = Read(talk, get);
+    for (const Assignment& each : assignments) {
+        Assign(record, each);
+    }
+    talk.Say("sending");
+    talk.Do([&](unsigned int& /*error*/) { return set(record, talk.UserID()); });
+    const Record kept = Read(talk, get);
+    Report report{Describe(Record::kElement, kept)};
+    // What the device measures by itself may have changed meanwhile; what was set may not.
+    Record again = kept;
+    for (const Assignment& each : assignments) {
+        Assign(again, each);
+    }
+    if (!SameFields(again, kept)) {
+        report.remark = "The device accepted the setting and holds other values.";
+        report.code = kFailed;
+    }
+    return report;
+}
+
+using Changer = std::function<Report(Talk&, const std::vector<Assignment>&)>;
+
+template <class Record>
+Changer ChangerOf(Getter<Record> get, Setter<Record> set)
+{
+    return [get, set](Talk& talk, const std::vector<Assignment>& assignments) {
+        return Change(talk, get, set, assignments);
+    };
+}
+
+const std::map<std::string, Changer>& Changers()
+{
+    static const std::map<std::string, Changer> all{
+        {"info",
+         ChangerOf(&ParamInterface::GetSwitchesBasicInfo, &ParamInterface::SetSwitchesBasicInfo)},
+        {"rates", ChangerOf(&ParamInterface::GetPortRates, &ParamInterface::SetPortRates)},
+        {"wireless", ChangerOf(&ParamInterface::GetWireless, &ParamInterface::SetWireless)},
+        {"region", ChangerOf(&ParamInterface::GetBridgeRegion, &ParamInterface::SetBridgeRegion)},
+        {"discovery",
+         ChangerOf(&ParamInterface::GetDiscoveryMode, &ParamInterface::SetDiscoveryMode)},
+    };
+    return all;
+}
+
+void AddSetCommand(CLI::App& group, CommandLine& line)
+{
+    struct SetOptions
+    {
+        std::string setting;
+        std::vector<std::string> assignments;
+    };
+    const auto options = std::make_shared<SetOptions>();
+    CLI::App& command =
+        AddDeviceCommand(group, line,
+                         {"set", "Change settings: they are read, changed, sent and read back",
+                          "sim:switch rates 3.uplinkRate=10240"},
+                         [options](Talk& talk) {
+                             std::vector<Assignment> assignments;
+                             for (const std::string& each : options->assignments) {
+                                 assignments.push_back(ReadAssignment(each));
+                             }
+                             return Changers().at(options->setting)(talk, assignments);
+                         });
+    command.add_option("setting", options->setting, "info, rates, wireless, region or discovery")
+        ->required()
+        ->check(CLI::IsMember(&Changers()).description(""))
+        ->type_name("");
+    command
+        .add_option(
+            "assignment", options->assignments,
+            "NAME=VALUE with the name that the reading command shows; .NAME for a member of "
+            "a member, ID.NAME for one of a list")
+        ->required()
+        ->type_name("");
+}
+
+Report ReadWorkStates(Talk& talk, const PageOptions& options)
+{
+    return FetchPages(talk, options, "WorkState", [&talk](const PageRequest& request) {
+        SwitchesWorkStateSearchCond condition;
+        condition.searchID = request.searchID;
+        condition.maxMatchResults = request.count;
+        condition.searchResultsPosition = request.position;
+        SwitchesWorkStateSearchResult result;
+        talk.Do([&](unsigned int& /*error*/) {
+            return ParamInterface::SearchSwitchesWorkState(condition, result, talk.UserID());
+        });
+        return ReadPage(Describe("WorkState", result));
+    });
+}
+
+}  // namespace
+
+void AddSwitchCommands(CLI::App& app, CommandLine& line)
+{
+    CLI::App& group = AddCommandGroup(app, "switch", "Managed switches: ports, rates, wireless",
+                                      "switch ports sim:switch");
+    AddReadCommand(group, line, {"info", "Tell what the switch is", "sim:switch"},
+                   &ParamInterface::GetSwitchesBasicInfo);
+    AddReadCommand(group, line, {"ports", "List the ports", "sim:switch"},
+                   &ParamInterface::GetPortInfo);
+    AddReadCommand(group, line, {"rates", "List the ports' rate limits", "sim:switch"},
+                   &ParamInterface::GetPortRates);
+    const auto options = std::make_shared<PageOptions>();
+    AddPageOptions(
+        AddDeviceCommand(group, line, {"state", "List what the switches are doing", "sim:switch"},
+                         [options](Talk& talk) { return ReadWorkStates(talk, *options); }),
+        *options);
+    AddReadCommand(group, line, {"wireless", "Tell the wireless link's settings", "sim:switch"},
+                   &ParamInterface::GetWireless);
+    AddReadCommand(group, line, {"region", "Tell the wireless bridge's region", "sim:switch"},
+                   &ParamInterface::GetBridgeRegion);
+    AddReadCommand(group, line, {"discovery", "Tell how the switch is found", "sim:switch"},
+                   &ParamInterface::GetDiscoveryMode);
+    AddReadCommand(group, line, {"apps", "List the applications", "sim:switch"},
+                   &ParamInterface::GetApps);
+    AddReadCommand(group, line, {"status", "Tell time, temperatures and fans", "sim:switch"},
+                   &ParamInterface::GetDeviceStatus);
+    AddSetCommand(group, line);
+}
+
+}  // namespace Tool

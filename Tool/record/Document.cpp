@@ -1,0 +1,204 @@
+// Documents as devices send them: set for reading, and what a refusal says.
+// SPDX-License-Identifier: Apache-2.0
+#include "Tool/record/Document.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include <json/value.h>
+
+#include "CapabilitySet/private/xml/XmlDocument.h"
+#include "Tool/record/JsonOutput.h"
+#include "Tool/session/Failure.h"
+#include "Tool/terminal/Terminal.h"
+#include "Tool/terminal/Text.h"
+
+namespace Tool
+{
+
+namespace xml = CapabilitySet::xml;
+
+namespace
+{
+
+constexpr std::array<std::string_view, 5> kStatusMembers{"statusCode", "statusString",
+                                                         "subStatusCode", "errorCode", "errorMsg"};
+
+xml::Document ParseXml(const std::string& document)
+{
+    xml::Problem problem;
+    return document.find('<') == std::string::npos
+               ? nullptr
+               : xml::ParseText(document, xml::Form::Plain, problem);
+}
+
+bool IsBlank(const xmlNode* node)
+{
+    return node->type == XML_TEXT_NODE && Trimmed(xml::XmlCharToString(node->content)).empty();
+}
+
+/// Drops the blanks between elements, which would keep the writer from indenting. Recursion is
+/// safe: the parser refuses documents deeper than 256 elements.
+void DropIndentation(xmlNode* element)
+{
+    bool mixed = false;
+    bool holdsElements = false;
+    for (xmlNode* child = element->children; child != nullptr; child = child->next) {
+        holdsElements = holdsElements || child->type == XML_ELEMENT_NODE;
+        mixed = mixed || (child->type == XML_TEXT_NODE && !IsBlank(child));
+    }
+    xmlNode* next = nullptr;
+    for (xmlNode* child = element->children; child != nullptr; child = next) {
+        next = child->next;
+        if (child->type == XML_ELEMENT_NODE) {
+            DropIndentation(child);
+        } else if (holdsElements && !mixed && IsBlank(child)) {
+            xmlUnlinkNode(child);
+            xmlFreeNode(child);
+        }
+    }
+}
+
+std::string IndentedXml(xmlDoc* document)
+{
+    DropIndentation(xmlDocGetRootElement(document));
+    xmlChar* text = nullptr;
+    int size = 0;
+    xmlDocDumpFormatMemoryEnc(document, &text, &size, "UTF-8", 1);
+    const std::unique_ptr<xmlChar, void (*)(void*)> owner(text, xmlFree);
+    return text == nullptr
+               ? std::string()
+               : std::string(reinterpret_cast<const char*>(text), static_cast<std::size_t>(size));
+}
+
+/// A member of a status document that is a JSON object.
+std::optional<std::string> JsonMember(const Json::Value& status, std::string_view name)
+{
+    const Json::Value* const member = status.find(name.data(), name.data() + name.size());
+    if (member == nullptr || member->isObject() || member->isArray() || member->isNull()) {
+        return std::nullopt;
+    }
+    return member->asString();
+}
+
+std::optional<std::string> XmlMember(xmlNode* root, std::string_view name)
+{
+    for (xmlNode* child = root->children; child != nullptr; child = child->next) {
+        if (child->type == XML_ELEMENT_NODE && xml::XmlCharToString(child->name) == name) {
+            return Trimmed(xml::GetNodeString(child));
+        }
+    }
+    return std::nullopt;
+}
+
+template <class Find>
+std::vector<std::pair<std::string, std::string>> Members(Find&& find)
+{
+    std::vector<std::pair<std::string, std::string>> members;
+    for (const std::string_view name : kStatusMembers) {
+        if (std::optional<std::string> value = find(name); value && !value->empty()) {
+            members.emplace_back(name, std::move(*value));
+        }
+    }
+    return members;
+}
+
+}  // namespace
+
+std::string Pretty(const std::string& document)
+{
+    if (const xml::Document parsed = ParseXml(document)) {
+        if (std::string text = IndentedXml(parsed.get()); !text.empty()) {
+            return text;
+        }
+    }
+    Json::Value value;
+    const bool isJson = ReadJson(document, value) && (value.isObject() || value.isArray());
+    return isJson ? Dump(value, JsonText::Utf8) : document;
+}
+
+bool IsDocument(const std::string& text)
+{
+    Json::Value value;
+    return ParseXml(text) != nullptr ||
+           (ReadJson(text, value) && (value.isObject() || value.isArray()));
+}
+
+bool IsBinary(const std::string& document)
+{
+    return std::ranges::any_of(document, [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        constexpr std::string_view kOfTexts = "\t\n\v\f\r\b\033";
+        return byte < 0x20 && kOfTexts.find(c) == std::string_view::npos;
+    });
+}
+
+void PrintDocument(const std::string& document)
+{
+    if (!IsTerminal(stdout)) {
+        Print(document);
+        return;
+    }
+    if (IsBinary(document)) {
+        throw Failure("the answer is binary (" + std::to_string(document.size()) +
+                      " bytes) and would spoil the terminal: send it to a file with \"> FILE\"");
+    }
+    std::string text;
+    text.reserve(document.size());
+    for (std::size_t i = 0; i < document.size(); ++i) {
+        // Lines of devices often end with a carriage return, which is no attack.
+        if (document[i] != '\r' || i + 1 == document.size() || document[i + 1] != '\n') {
+            text += document[i];
+        }
+    }
+    Print(Harmless(text, true));
+    if (!text.empty() && text.back() != '\n') {
+        Print("\n");
+    }
+}
+
+std::vector<std::pair<std::string, std::string>> ReadStatus(const std::string& document)
+{
+    if (const xml::Document parsed = ParseXml(document)) {
+        xmlNode* const root = xmlDocGetRootElement(parsed.get());
+        return Members([root](std::string_view name) { return XmlMember(root, name); });
+    }
+    Json::Value value;
+    if (!ReadJson(document, value) || !value.isObject()) {
+        return {};
+    }
+    return Members([&value](std::string_view name) { return JsonMember(value, name); });
+}
+
+std::string ReadInput(const std::string& file)
+{
+    const bool isStdin = file == "-";
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> opened(
+        isStdin ? nullptr : std::fopen(file.c_str(), "rb"),
+        [](std::FILE* each) { return std::fclose(each); });
+    std::FILE* const input = isStdin ? stdin : opened.get();
+    std::string bytes;
+    bool isGood = input != nullptr;
+    std::array<char, 65536> piece{};
+    while (isGood) {
+        const std::size_t size = std::fread(piece.data(), 1, piece.size(), input);
+        bytes.append(piece.data(), size);
+        if (size < piece.size()) {
+            isGood = std::ferror(input) == 0;
+            break;
+        }
+    }
+    if (!isGood) {
+        throw Failure("cannot read " + (isStdin ? "the standard input" : file) + ": " +
+                      std::strerror(errno));  // NOLINT(concurrency-mt-unsafe): one thread
+    }
+    return bytes;
+}
+
+}  // namespace Tool

@@ -1,0 +1,106 @@
+// Findings as people see them.
+// SPDX-License-Identifier: Apache-2.0
+#include "Tool/record/ShowOutput.h"
+
+#include <algorithm>
+
+#include "Tool/record/Table.h"
+#include "Tool/terminal/Grid.h"
+#include "Tool/terminal/Text.h"
+
+namespace Tool
+{
+
+namespace
+{
+
+std::string RenderUntaken(const std::vector<Untaken>& untaken, bool explain, std::size_t width,
+                          const Paint& paint)
+{
+    std::string out = "\n";
+    if (untaken.empty()) {
+        out += paint(Style::Faint, "The record took everything that the document holds.") + "\n";
+        return explain ? out : std::string();
+    }
+    const std::string count = Counted(untaken.size(), "element");
+    if (!explain) {
+        const std::string note = count + " of the document " +
+                                 (untaken.size() == 1 ? "was" : "were") +
+                                 " passed over; --explain tells why";
+        return out + paint(Style::Faint, note) + "\n";
+    }
+    Grid grid({"line", "element", "why"});
+    for (const Untaken& each : untaken) {
+        grid.Add({{each.line > 0 ? std::to_string(each.line) : "-", Style::Plain, true},
+                  {Harmless(each.path)},
+                  {Harmless(each.reason)}});
+    }
+    return out + paint(Style::Title, "Passed over in the document: " + count) + "\n" +
+           grid.Render(2, width, paint);
+}
+
+std::size_t CountOf(std::span<const Finding> findings, Outcome outcome)
+{
+    return static_cast<std::size_t>(std::ranges::count(findings, outcome, &Finding::outcome));
+}
+
+std::string NamesOf(std::span<const Finding> findings, Outcome outcome)
+{
+    std::string names;
+    for (const Finding& each : findings) {
+        if (each.outcome == outcome) {
+            names += (names.empty() ? "" : ", ") + each.record->name;
+        }
+    }
+    return names;
+}
+
+}  // namespace
+
+std::string RenderReading(const Reading& reading, const std::string& source, bool explain,
+                          const Paint& paint)
+{
+    const std::size_t width = TerminalWidth(stdout);
+    return RenderRecord(reading.shown, source, width, paint) +
+           RenderUntaken(reading.untaken, explain, width, paint);
+}
+
+std::string FailureSentence(const Finding& finding, const std::string& device)
+{
+    return finding.record->name + " of " + device + ": " + Told(finding.failure) +
+           Hint(finding.failure.error);
+}
+
+std::string RenderSummary(std::span<const Finding> findings, const std::string& device,
+                          const Paint& paint)
+{
+    Grid grid({"", ""});
+    const auto add = [&](const char* what, Outcome outcome, Style style) {
+        if (const std::size_t count = CountOf(findings, outcome); count > 0) {
+            grid.Add({{std::to_string(count) + " " + what, style}, {NamesOf(findings, outcome)}});
+        }
+    };
+    add("answered", Outcome::Answered, Style::Yes);
+    add("not supported", Outcome::Unsupported, Style::Faint);
+    for (const Finding& each : findings) {
+        if (each.outcome == Outcome::Failed) {
+            grid.Add({{"failed", Style::Bad},
+                      {each.record->name + ": " + Harmless(Told(each.failure))}});
+        }
+    }
+    add("not asked", Outcome::NotAsked, Style::Bad);
+    return paint(Style::Title, Counted(findings.size(), "record")) + "  " +
+           paint(Style::Faint, Harmless(device)) + "\n" +
+           grid.Render(2, TerminalWidth(stdout), paint);
+}
+
+std::string RenderRecordList(const Paint& paint)
+{
+    Grid grid({"record", "what it tells"});
+    for (const RecordEntry& each : AllRecords()) {
+        grid.Add({{each.name}, {each.description}});
+    }
+    return grid.Render(0, TerminalWidth(stdout), paint);
+}
+
+}  // namespace Tool

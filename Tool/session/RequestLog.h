@@ -1,0 +1,34 @@
+// One line for each request that a served device answered.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <mutex>
+#include <string>
+
+#include "Device/http/DeviceServer.h"
+#include "Tool/terminal/Terminal.h"
+
+namespace Tool
+{
+
+/// Writes each line at once, whoever reads. Any thread may use it.
+class RequestLog
+{
+public:
+    explicit RequestLog(const Paint& paint) : paint_(paint) {}
+
+    /// Writes what stands above the lines, before any of them.
+    void Begin(const std::string& introduction);
+    void Write(const Device::ServedRequest& request);
+
+private:
+    const Paint paint_;
+    std::mutex mutex_;
+    bool begun_ = false;
+    std::string held_;  ///< lines of requests that came before the introduction
+};
+
+/// "GET     /TARN/System/status  200  1234 B  2.5 ms".
+std::string RequestLine(const Device::ServedRequest& request, const Paint& paint);
+
+}  // namespace Tool

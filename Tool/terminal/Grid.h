@@ -1,0 +1,39 @@
+// Cells in columns under a head.
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "Tool/record/Values.h"
+#include "Tool/terminal/Terminal.h"
+
+namespace Tool
+{
+
+/// Rows of as many cells as there are columns. The last column takes what is left of the width and
+/// wraps; columns of numbers are set to the right.
+class Grid
+{
+public:
+    explicit Grid(std::vector<std::string> head) : head_(std::move(head)) {}
+
+    void Add(std::vector<Cell> row) { rows_.push_back(std::move(row)); }
+
+    /// Whether it fits into so many columns, the last one wrapped. When it would not fit otherwise,
+    /// the widest column is moved to the end.
+    bool Fit(std::size_t width);
+
+    [[nodiscard]] std::string Render(std::size_t indent, std::size_t width,
+                                     const Paint& paint) const;
+
+private:
+    [[nodiscard]] std::vector<std::size_t> Widths() const;
+    [[nodiscard]] bool IsNumeric(std::size_t column) const;
+
+    std::vector<std::string> head_;  ///< all empty: no head is shown
+    std::vector<std::vector<Cell>> rows_;
+};
+
+}  // namespace Tool

@@ -1,0 +1,136 @@
+// A password that came neither over the command line nor stays in memory.
+// SPDX-License-Identifier: Apache-2.0
+#include "Tool/terminal/Password.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+
+#include <fcntl.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include "Tool/session/Failure.h"
+#include "Tool/terminal/Text.h"
+
+namespace Tool
+{
+
+namespace
+{
+
+// Longer ones are refused: a string that grows would leave copies behind.
+constexpr std::size_t kLongest = 1024;
+
+volatile std::sig_atomic_t caughtSignal = 0;
+
+void Catch(int signal)
+{
+    caughtSignal = signal;
+}
+
+/// The terminal without echo; however the prompt ends, the echo comes back.
+class SilentTerminal
+{
+public:
+    explicit SilentTerminal(int terminal) : terminal_(terminal)
+    {
+        struct sigaction action
+        {
+        };
+        action.sa_handler = Catch;  // without SA_RESTART: reading ends
+        for (std::size_t i = 0; i < kSignals.size(); ++i) {
+            sigaction(kSignals[i], &action, &former_[i]);
+        }
+        tcgetattr(terminal_, &settings_);
+        termios silent = settings_;
+        silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        tcsetattr(terminal_, TCSAFLUSH, &silent);
+    }
+    ~SilentTerminal()
+    {
+        tcsetattr(terminal_, TCSAFLUSH, &settings_);
+        for (std::size_t i = 0; i < kSignals.size(); ++i) {
+            sigaction(kSignals[i], &former_[i], nullptr);
+        }
+        close(terminal_);
+    }
+    SilentTerminal(const SilentTerminal&) = delete;
+    SilentTerminal& operator=(const SilentTerminal&) = delete;
+
+    void Write(const std::string& text) const
+    {
+        [[maybe_unused]] const ssize_t written = write(terminal_, text.data(), text.size());
+    }
+
+    /// One line. False at the end of input, at a signal, and for a line that is too long.
+    [[nodiscard]] bool ReadLine(std::string& line) const
+    {
+        char c = 0;
+        while (caughtSignal == 0 && read(terminal_, &c, 1) == 1) {
+            if (c == '\n') {
+                return true;
+            }
+            if (line.size() == kLongest) {
+                return false;
+            }
+            line += c;
+        }
+        return false;
+    }
+
+private:
+    static constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP};
+
+    const int terminal_;
+    termios settings_{};
+    std::array<struct sigaction, kSignals.size()> former_{};
+};
+
+/// False when nothing was typed.
+bool Prompt(int terminal, const std::string& question, std::string& password)
+{
+    bool typed = false;
+    {
+        const SilentTerminal silent(terminal);
+        silent.Write(question);
+        typed = silent.ReadLine(password);
+        silent.Write("\n");
+    }
+    if (caughtSignal != 0) {
+        // Now that the echo is back, what the signal meant happens.
+        std::raise(caughtSignal);
+    }
+    return typed;
+}
+
+}  // namespace
+
+Password::Password(const std::string& user, const std::string& device)
+{
+    text_.reserve(kLongest);
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): nobody sets the environment
+    if (const char* const given = std::getenv("CAPSET_PASSWORD"); given != nullptr) {
+        text_ = given;
+        return;
+    }
+    const int terminal = open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY);
+    if (terminal < 0) {
+        throw Failure("there is no terminal to ask for the password of " + user +
+                          ": set the environment variable CAPSET_PASSWORD",
+                      kUsage);
+    }
+    if (!Prompt(terminal, "Password of " + Harmless(user) + " at " + Harmless(device) + ": ",
+                text_)) {
+        throw Failure("no password was given", kUsage);
+    }
+}
+
+Password::~Password()
+{
+    explicit_bzero(text_.data(), text_.size());
+}
+
+}  // namespace Tool
