@@ -1,4 +1,4 @@
-# What the scripts share: the place they work from, and how they tell of a failure.
+# What the scripts share: where they run, how they report, how they build.
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
 
@@ -17,7 +17,7 @@ die() {
     exit 1
 }
 
-# The head comment of a script is its help text.
+# The comment at the head of a script is its help text.
 show_help() {
     sed -n -e '/^#!/d' -e '/^# SPDX/d' -e '/^#/!q' -e 's/^# \{0,1\}//p' "$1"
 }
@@ -29,11 +29,44 @@ quietly() {
     mkdir -p "$(dirname "$log")"
     if ! "$@" >"$log" 2>&1; then
         tail -n 40 "$log" >&2
-        die "failed: $* (whole output: $log)"
+        die "failed: $* (full output: $log)"
     fi
 }
 
-# build PRESET [TARGET...]: configures the preset once, then builds the targets (default: all).
+# install_packages NAME...: installs the Debian packages that are missing; prints nothing otherwise.
+install_packages() {
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        die "this system has no apt; install the equivalents of these packages by hand: $*"
+    fi
+
+    # dpkg also lists packages that were removed but not purged; only "installed" counts.
+    local installed package missing=() as_root=() apt log
+    installed=" $(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null |
+        awk '$2 == "installed" { printf "%s ", $1 }' || true)"
+    for package in "$@"; do
+        [[ $installed == *" $package "* ]] || missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null ||
+            die "not root, and sudo is not installed; as root, run: apt-get install ${missing[*]}"
+        as_root=(sudo)
+    fi
+    say "installing ${missing[*]}"
+    apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o Acquire::Retries=3)
+    log=$(mktemp)
+    # One unreachable source is not fatal: the packages may come from another.
+    "${apt[@]}" update >"$log" 2>&1 || true
+    if ! "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >>"$log" 2>&1; then
+        { grep '^E: ' "$log" || tail -n 20 "$log"; } | head -n 5 >&2
+        rm -f "$log"
+        die "apt-get could not install the packages (no network, or not Debian 12?)"
+    fi
+    rm -f "$log"
+}
+
+# build PRESET [TARGET...]: configures the preset, then builds the targets (default: all).
 build() {
     local preset=$1
     shift
@@ -44,7 +77,7 @@ build() {
         die "the build in $directory failed; its messages are above"
 }
 
-# build_bench DIRECTORY TARGET...: sets up, and builds programs of bench/.
+# build_bench DIRECTORY TARGET...: installs what is missing and builds programs of bench/.
 build_bench() {
     local directory=$1
     shift
@@ -53,4 +86,19 @@ build_bench() {
     quietly "$directory/configure.log" cmake --preset bench -B "$directory" \
         -DCAPABILITYSET_BUILD_TOOL=OFF -DCAPABILITYSET_INSTALL=OFF
     quietly "$directory/build.log" cmake --build "$directory" --parallel "$(nproc)" --target "$@"
+}
+
+# replace_section FILE NAME: replaces the lines between "<!-- NAME -->" and "<!-- /NAME -->" in FILE
+# with standard input.
+replace_section() {
+    local text new
+    text=$(cat)
+    [[ $(grep -cE "^<!-- /?$2 -->$" "$1") == 2 ]] || die "$1 has no section '$2'"
+    new=$(mktemp)
+    TEXT=$text awk -v begin="<!-- $2 -->" -v end="<!-- /$2 -->" '
+        $0 == end { skip = 0 }
+        !skip { print }
+        $0 == begin { print ENVIRON["TEXT"]; skip = 1 }' "$1" >"$new"
+    cat "$new" >"$1"
+    rm -f "$new"
 }
