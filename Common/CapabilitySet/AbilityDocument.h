@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/CBaseCapability.h"
 
 struct _xmlNode;
 

@@ -3,55 +3,23 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
+#include "CapabilitySet/CBaseCapability.h"
 #include "CapabilitySet/Export.h"
-#include "CapabilitySet/JsonTARN/JsonStatus.h"
+#include "CapabilitySet/JsonTARN/JsonElements.h"
+#include "CapabilitySet/OptionTypes.h"
 
 struct _xmlNode;
 
 namespace CapabilitySet
 {
 
-/// The flag that every capability record and element begins with: the device announced this
-/// setting in a usable form. What counts as usable is told with each type.
-class CAPABILITYSET_API CBaseCapability
-{
-public:
-    bool capable = false;
-
-    CBaseCapability() = default;
-
-    [[nodiscard]] bool Capable() const { return capable; }
-
-protected:
-    explicit CBaseCapability(bool value) : capable(value) {}
-
-    void SetCapable(bool value) { capable = value; }
-};
-
-template <class Option>
-struct OptElement;
-
-/// The options of a setting: attributes "opt" and "attri", comma lists in the document's order.
-/// Capable when either attribute stands there, be it empty.
-template <>
-struct CAPABILITYSET_API OptElement<std::string> : CBaseCapability
-{
-    std::vector<std::string> opt;    ///< entries of "opt"; empty pieces dropped, nothing trimmed
-    std::vector<std::string> attri;  ///< entries of "attri"
-
-    OptElement() = default;
-    explicit OptElement(_xmlNode* element) { Parse(element); }
-
-    /// Reads the element's attributes; a null element reads nothing.
-    void Parse(_xmlNode* element);
-};
-
 /// A range of whole numbers with an optional default.
 struct CAPABILITYSET_API MinMaxElement : CBaseCapability
 {
+    static constexpr bool kParseTakesFirstChild = true;
+
     unsigned int min = 0;
     unsigned int max = 0;
     bool hasDefault = false;  ///< a default was announced
@@ -85,6 +53,8 @@ struct CAPABILITYSET_API MinMaxPropElement : CBaseCapability
 /// A list of whole numbers in a child "Range". Capable when the list is not empty.
 struct CAPABILITYSET_API RangeElement : CBaseCapability
 {
+    static constexpr bool kParseTakesFirstChild = true;
+
     std::vector<int> range;
     bool hasDefault = false;
     unsigned int def = 0;
@@ -100,6 +70,8 @@ struct CAPABILITYSET_API RangeElement : CBaseCapability
 /// A range given by its bounds, by a list, or by both. Capable when either part is.
 struct CAPABILITYSET_API MinMaxOrRangeElement : CBaseCapability
 {
+    static constexpr bool kParseTakesFirstChild = true;
+
     MinMaxElement minMax;
     RangeElement range;  ///< never carries a default
 
@@ -115,32 +87,6 @@ struct CAPABILITYSET_API DefaultElement : CBaseCapability
     std::int32_t value = 0;
 
     void SetCapable() { capable = true; }
-};
-
-/// The options of a JSON member: its key "@opt". Capable when the key stands there.
-struct CAPABILITYSET_API OptJsonElement : CBaseCapability
-{
-    std::vector<std::string> opt;
-
-    OptJsonElement() = default;
-    explicit OptJsonElement(const std::string& text) { Parse(text); }
-
-    /// Reads the member's JSON text; options found are appended to those already there.
-    void Parse(const std::string& text);
-};
-
-/// The limits of a JSON member, its keys "@min" and "@max", with the status fields beside them.
-/// Parse leaves the flag alone.
-struct CAPABILITYSET_API MisinfoMinMaxElement : CBaseCapability
-{
-    JsonStatus status;
-    int min = 0;
-    int max = 0;
-
-    MisinfoMinMaxElement() = default;
-    explicit MisinfoMinMaxElement(const std::string& text) { Parse(text); }
-
-    void Parse(const std::string& text);
 };
 
 }  // namespace CapabilitySet

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/CBaseCapability.h"
 #include "CapabilitySet/Export.h"
 
 struct _xmlNode;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "CapabilitySet/CapabilityElements.h"
 #include "CapabilitySet/ElementRecord.h"
 #include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/OptionTypes.h"

@@ -6,6 +6,7 @@
 
 #include "CapabilitySet/ElementRecord.h"
 #include "CapabilitySet/FieldTags.h"
+#include "CapabilitySet/OptionTypes.h"
 
 struct _xmlNode;
 

@@ -1,9 +1,35 @@
-// Enumerations that option strings of capability documents stand for.
+// The option lists of capability documents, and the enumerations their options stand for.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <string>
+#include <vector>
+
+#include "CapabilitySet/CBaseCapability.h"
+#include "CapabilitySet/Export.h"
+
+struct _xmlNode;
+
 namespace CapabilitySet
 {
+
+template <class Option>
+struct OptElement;
+
+/// The options of a setting: attributes "opt" and "attri", comma lists in the document's order.
+/// Capable when either attribute stands there, be it empty.
+template <>
+struct CAPABILITYSET_API OptElement<std::string> : CBaseCapability
+{
+    std::vector<std::string> opt;    ///< entries of "opt"; empty pieces dropped, nothing trimmed
+    std::vector<std::string> attri;  ///< entries of "attri"
+
+    OptElement() = default;
+    explicit OptElement(_xmlNode* element) { Parse(element); }
+
+    /// Reads the element's attributes; a null element reads nothing.
+    void Parse(_xmlNode* element);
+};
 
 /// What a device does when an alarm comes; one bit each, a device may announce several.
 struct AlarmHandleType

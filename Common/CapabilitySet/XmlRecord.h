@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "CapabilitySet/CapabilityElements.h"
+#include "CapabilitySet/CBaseCapability.h"
 #include "CapabilitySet/Export.h"
 
 struct _xmlNode;

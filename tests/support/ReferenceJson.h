@@ -14,10 +14,10 @@
 
 #include "CapabilitySet/CapabilityElements.h"
 #include "CapabilitySet/FieldTags.h"
+#include "CapabilitySet/JsonRecord.h"
 #include "CapabilitySet/JsonTARN/JsonCap/AlarmHostCap.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/FireControl.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/HumanFeatureSearch.h"
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
 
 // What it shares with the library is the field lists. It looks one member up after the other, and

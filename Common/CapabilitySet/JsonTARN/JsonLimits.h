@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/JsonRecord.h"
 
 namespace CapabilitySet
 {

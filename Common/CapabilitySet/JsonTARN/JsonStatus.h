@@ -74,6 +74,9 @@ struct CAPABILITYSET_API JsonErrorStatus
 /// "ErrorList" of a batch request's answer, in the device's order.
 struct CAPABILITYSET_API JsonErrorStatusList
 {
+    // Kept: clients collect the errors of several requests in one list.
+    static constexpr bool kAppendsAnswers = true;
+
     std::vector<JsonErrorStatus> errorList;
 
     JsonErrorStatusList() = default;

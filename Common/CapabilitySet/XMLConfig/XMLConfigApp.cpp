@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 
-#include "CapabilitySet/private/query/RecordRequests.h"
+#include "CapabilitySet/XMLParamInterface/private/RecordRequests.h"
 #include "CapabilitySet/private/xml/XmlRecordMembers.h"
 
 namespace CapabilitySet

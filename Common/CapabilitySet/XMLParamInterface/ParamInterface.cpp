@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
 
-#include "CapabilitySet/private/query/RecordRequests.h"
+#include "CapabilitySet/XMLParamInterface/private/RecordRequests.h"
 
 namespace CapabilitySet
 {

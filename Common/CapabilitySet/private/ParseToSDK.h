@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "CapabilitySet/CapabilityElements.h"
 #include "CapabilitySet/OptionTypes.h"
 
 namespace CapabilitySet

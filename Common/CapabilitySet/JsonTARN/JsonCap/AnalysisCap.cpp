@@ -7,6 +7,14 @@
 namespace CapabilitySet
 {
 
+/// Found by the writer through its argument's namespace.
+static void WriteValue(Json::Value& target, const OptJsonElement& element)
+{
+    if (element.capable) {
+        json::WriteValue(json::ObjectOf(target)["@opt"], element.opt);
+    }
+}
+
 template struct JsonPart<IntersectionTagCap>;
 
 template struct JsonRecord<IntersectionAnalysisCap>;

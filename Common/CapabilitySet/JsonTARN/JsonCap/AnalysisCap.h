@@ -4,10 +4,10 @@
 
 #include <string>
 
-#include "CapabilitySet/CapabilityElements.h"
 #include "CapabilitySet/FieldTags.h"
+#include "CapabilitySet/JsonRecord.h"
+#include "CapabilitySet/JsonTARN/JsonElements.h"
 #include "CapabilitySet/JsonTARN/JsonLimits.h"
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
 {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "CapabilitySet/FieldTags.h"
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/JsonRecord.h"
 
 namespace CapabilitySet
 {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "CapabilitySet/FieldTags.h"
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/JsonRecord.h"
 
 namespace CapabilitySet
 {

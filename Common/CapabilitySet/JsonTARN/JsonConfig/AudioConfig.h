@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "CapabilitySet/JsonRecord.h"
 #include "CapabilitySet/JsonTARN/JsonCap/AudioCap.h"
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
 {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "CapabilitySet/FieldTags.h"
+#include "CapabilitySet/JsonRecord.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/SearchPage.h"
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
 
 namespace CapabilitySet
 {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/JsonRecord.h"
 
 namespace CapabilitySet
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/JsonRecord.h"
 #include "CapabilitySet/private/json/JsonFields.h"
 #include "CapabilitySet/private/json/JsonWriting.h"
 

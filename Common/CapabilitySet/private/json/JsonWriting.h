@@ -9,9 +9,8 @@
 
 #include <json/value.h>
 
-#include "CapabilitySet/CapabilityElements.h"
 #include "CapabilitySet/FieldTags.h"
-#include "CapabilitySet/JsonTARN/JsonRecord.h"
+#include "CapabilitySet/JsonRecord.h"
 #include "CapabilitySet/private/json/JsonReading.h"
 
 namespace CapabilitySet::json
@@ -110,19 +109,6 @@ void WriteValue(Json::Value& target, const std::vector<Item>& items);
 
 template <class Member>
 void WriteValue(Json::Value& target, const Member& member);
-
-inline void WriteValue(Json::Value& target, const OptJsonElement& element)
-{
-    if (element.capable) {
-        WriteValue(ObjectOf(target)["@opt"], element.opt);
-    }
-}
-
-inline void WriteValue(Json::Value& target, const MisinfoMinMaxElement& element)
-{
-    WriteValue(ObjectOf(target)["@min"], element.min);
-    WriteValue(target["@max"], element.max);
-}
 
 template <class Member>
 void WriteValue(Json::Value& target, const Member& member)

@@ -8,7 +8,6 @@
 #include <utility>
 #include <variant>
 
-#include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/private/json/JsonReading.h"
 #include "CapabilitySet/private/query/QueryFrame.h"
 
@@ -77,8 +76,7 @@ template <class Out, class MakeBody = NoBody>
 bool AskJson(Out& out, unsigned int& err, int userID, const log::Place& place, LineParts parts,
              MakeBody&& makeBody = {}, const JsonOptions& options = {})
 {
-    // Kept: clients collect the errors of several requests in one list.
-    constexpr bool kResets = !std::is_same_v<Out, JsonErrorStatusList>;
+    constexpr bool kResets = !requires { requires Out::kAppendsAnswers; };
     const bool filled = Guarded(err, [&] {
         const json::OperationScope scope;
         if constexpr (kResets) {

@@ -7,7 +7,6 @@
 #include <type_traits>
 #include <vector>
 
-#include "CapabilitySet/CapabilityElements.h"
 #include "CapabilitySet/FieldTags.h"
 #include "CapabilitySet/OptionTypes.h"
 #include "CapabilitySet/private/xml/FieldIndex.h"
@@ -121,7 +120,10 @@ bool ReadValue(xmlNode* node, Value& value, as::Noted<bool> how)
     return ReadValue(node, value, as::plain);
 }
 
-inline bool ReadValue(xmlNode* node, MinMaxElement& value, as::Attributes /*how*/)
+/// An element type whose attributes can be read in place of its children.
+template <class Element>
+    requires requires(Element& value, xmlNode* node) { value.ParseProp(node); }
+bool ReadValue(xmlNode* node, Element& value, as::Attributes /*how*/)
 {
     value.ParseProp(node);
     return true;
@@ -131,10 +133,7 @@ inline bool ReadValue(xmlNode* node, MinMaxElement& value, as::Attributes /*how*
 template <ParsesNode Nested>
 bool ReadValue(xmlNode* node, Nested& value, as::Plain /*how*/)
 {
-    constexpr bool kFromFirstChild =
-        TakesFirstChild<Nested> || std::is_same_v<Nested, MinMaxElement> ||
-        std::is_same_v<Nested, RangeElement> || std::is_same_v<Nested, MinMaxOrRangeElement>;
-    value.Parse(kFromFirstChild ? node->children : node);
+    value.Parse(TakesFirstChild<Nested> ? node->children : node);
     return true;
 }
 
