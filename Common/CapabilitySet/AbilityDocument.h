@@ -1,4 +1,4 @@
-// The record of a family whose members are the device's own: everything the device said.
+// Records whose members the device defines: the whole answer as a tree of elements.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -14,47 +14,48 @@ struct _xmlNode;
 namespace CapabilitySet
 {
 
-/// An element of an ability document.
+/// One element of an ability document.
 struct CAPABILITYSET_API AbilityElement
 {
-    std::string name;
-    std::string
-        text;  ///< the element's own text; of one that holds elements only what is not blank
-    std::vector<std::pair<std::string, std::string>> attributes;  ///< in the document's order
-    std::vector<AbilityElement> children;                         ///< in the document's order
+    std::string name;  ///< element name
+    std::string text;  ///< own text; whitespace is dropped if it has children
+    std::vector<std::pair<std::string, std::string>> attributes;  ///< names and values, in document order
+    std::vector<AbilityElement> children;  ///< child elements, in document order
 
-    /// The first element at a path of names below this one ("Display/windowNum"), or an element
-    /// without a name when there is none, so that look-ups can be chained without checks.
+    /// The first element at a path of names below this one, such as "Display/windowNum". Returns an
+    /// element without a name if there is none, so look-ups can be chained without checks.
     [[nodiscard]] const AbilityElement& Find(std::string_view path) const;
 
-    /// An attribute's text, or an empty one.
+    /// The value of an attribute, empty if there is none.
     [[nodiscard]] const std::string& Attribute(std::string_view attribute) const;
 
-    /// Whether this is an element at all.
+    /// False for the element that Find returns when there is none.
     explicit operator bool() const { return !name.empty(); }
 
     friend bool operator==(const AbilityElement&, const AbilityElement&) = default;
 };
 
-/// A whole answer as an ordered tree. Capable when the answer's root is the expected one and holds
-/// an element; as in every record, a root without any reads nothing.
+/// A whole answer as an ordered tree. Capable when the root is the expected one and has at least
+/// one child element.
 struct CAPABILITYSET_API AbilityDocument : CBaseCapability
 {
-    AbilityElement root;
+    AbilityElement root;  ///< root element of the answer
 
+    /// As AbilityElement::Find, below the root.
     [[nodiscard]] const AbilityElement& Find(std::string_view path) const
     {
         return root.Find(path);
     }
 
 protected:
-    /// Reads a document whose root must bear this name; any other leaves the record as it was,
-    /// after one line in the log. Nothing is thrown.
+    /// Reads a document whose root must be named `rootName`. Any other leaves the record as it was,
+    /// after one log line. Never throws.
     void ParseDocument(const std::string& text, const char* rootName);
+    /// Reads an element as the root; null reads nothing. Never throws.
     void ParseElement(_xmlNode* element);
 };
 
-/// What every record of this kind has: construction and reading, by its own root's name `kRoot`.
+/// Construction and reading for a record whose document root is named `Record::kRoot`.
 template <class Record>
 struct AbilityRecord : AbilityDocument
 {

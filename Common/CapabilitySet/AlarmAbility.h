@@ -1,4 +1,4 @@
-// What a channel's wireless, infrared and call-for-help alarms can do, and the query for it.
+// Infrared, wireless and call-for-help alarms of a channel. Queries.h describes the query.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,20 +15,18 @@ struct _xmlNode;
 namespace CapabilitySet
 {
 
-// Members bear the names of their elements. The nested records take the first child of their
-// element, not the element itself.
-
 /// What the three kinds of alarm have in common.
 struct CAPABILITYSET_API ChannelAlarm : CBaseCapability
 {
-    bool enabled = false;        ///< the one option announced is "true"
-    unsigned int alarmTime = 0;  ///< seconds
-    bool hasAlarmTime = false;   ///< alarmTime was announced
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
+    bool enabled = false;        ///< the only option announced is "true"
+    unsigned int alarmTime = 0;  ///< a count; the device defines its unit
+    bool hasAlarmTime = false;   ///< `alarmTime` was announced
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
 
     ChannelAlarm() = default;
     explicit ChannelAlarm(_xmlNode* firstChild) { Parse(firstChild); }
 
+    /// Reads the element's children, starting at the first.
     void Parse(_xmlNode* firstChild);
 
     static constexpr bool kParseTakesFirstChild = true;
@@ -42,7 +40,7 @@ struct CAPABILITYSET_API ChannelAlarm : CBaseCapability
     }
 };
 
-/// Infrared motion alarm.
+/// Passive infrared motion alarm.
 struct CAPABILITYSET_API PIRAlarm : ChannelAlarm
 {
     using ChannelAlarm::ChannelAlarm;
@@ -54,7 +52,7 @@ struct CAPABILITYSET_API WirelessAlarm : ChannelAlarm
     using ChannelAlarm::ChannelAlarm;
 };
 
-/// Call for help.
+/// Call-for-help alarm.
 struct CAPABILITYSET_API CallHelpAlarm : ChannelAlarm
 {
     using ChannelAlarm::ChannelAlarm;
@@ -63,14 +61,15 @@ struct CAPABILITYSET_API CallHelpAlarm : ChannelAlarm
 /// The alarms of one channel.
 struct CAPABILITYSET_API channelEntry : CBaseCapability
 {
-    unsigned int channelID = 0;
-    PIRAlarm pirAlarm;
-    WirelessAlarm wirelessAlarm;
-    CallHelpAlarm callHelpAlarm;
+    unsigned int channelID = 0;   ///< the protocol's number of the channel
+    PIRAlarm pirAlarm;            ///< infrared motion alarm
+    WirelessAlarm wirelessAlarm;  ///< alarm of a wireless detector
+    CallHelpAlarm callHelpAlarm;  ///< call-for-help alarm
 
     channelEntry() = default;
     explicit channelEntry(_xmlNode* firstChild) { Parse(firstChild); }
 
+    /// Reads the element's children, starting at the first.
     void Parse(_xmlNode* firstChild);
 
     static constexpr bool kParseTakesFirstChild = true;
@@ -85,25 +84,26 @@ struct CAPABILITYSET_API channelEntry : CBaseCapability
     }
 };
 
-/// The alarm ability document.
+/// The alarm ability document, root "AlarmAbility".
 struct CAPABILITYSET_API AlarmAbility : CBaseCapability
 {
     static constexpr const char* kRoot = "AlarmAbility";
 
-    std::vector<std::shared_ptr<channelEntry>> entries;
+    std::vector<std::shared_ptr<channelEntry>>
+        entries;  ///< one entry per channel, in document order
 
     AlarmAbility() = default;
     explicit AlarmAbility(const std::string& text) { Parse(text); }
     explicit AlarmAbility(_xmlNode* element) { Parse(element); }
 
-    /// Reads a whole document; entries are appended to those already there.
+    /// Reads a whole document. Appends to `entries`.
     void Parse(const std::string& text);
+    /// Reads the children that begin with this one. Appends to `entries`.
     void Parse(_xmlNode* element);
 
-    /// Asks for a channel by the SDK's number. A channel that the SDK cannot convert is a failure
-    /// before anything is sent. One device's alarm ability is asked for at a time: the handling
-    /// options of the answer are completed from the device's basic capability, by a login that is
-    /// kept once for the process.
+    /// Device ability 10, AlarmAbility/channelID with the protocol's channel number. If the SDK
+    /// cannot convert the channel, nothing is sent and `err` is the SDK's number.
+    // Kept: one alarm query at a time; the login that completes handling options is process-wide.
     static bool GetAlarmAbility(AlarmAbility& out, unsigned int& err, const int userID,
                                 const unsigned int channel);
 

@@ -7,15 +7,16 @@
 namespace CapabilitySet
 {
 
-/// The flag that every capability record and element begins with: the device announced this
-/// setting in a usable form. Each type documents what counts as usable.
+/// Base of capability records and elements: tells whether the device announced the setting in a
+/// usable form. Each type says what it counts as usable.
 class CAPABILITYSET_API CBaseCapability
 {
 public:
-    bool capable = false;
+    bool capable = false;  ///< the setting was announced
 
     CBaseCapability() = default;
 
+    /// Whether the setting was announced.
     [[nodiscard]] bool Capable() const { return capable; }
 
 protected:

@@ -1,4 +1,4 @@
-// The element types that capability records share: option lists, ranges, defaults, and their flag.
+// Element types that capability records share: ranges and defaults.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,38 +15,39 @@ struct _xmlNode;
 namespace CapabilitySet
 {
 
-/// A range of whole numbers with an optional default.
+/// A range of whole numbers with an optional default. The unit is that of the setting.
 struct CAPABILITYSET_API MinMaxElement : CBaseCapability
 {
     static constexpr bool kParseTakesFirstChild = true;
 
-    unsigned int min = 0;
-    unsigned int max = 0;
-    bool hasDefault = false;  ///< a default was announced
-    unsigned int def = 0;
+    unsigned int min = 0;     ///< smallest value allowed
+    unsigned int max = 0;     ///< largest value allowed
+    bool hasDefault = false;  ///< `def` was announced
+    unsigned int def = 0;     ///< default value
 
     MinMaxElement() = default;
     explicit MinMaxElement(_xmlNode* firstChild) { Parse(firstChild); }
 
-    /// Reads the children "Min", "Max" and "Default" from the element's first child on. Capable
-    /// when both bounds hold text; only then a default is looked for.
+    /// Reads the children "Min", "Max" and "Default", starting at the element's first child.
+    /// Capable when both bounds have text; the default is read only then.
     void Parse(_xmlNode* firstChild);
 
-    /// Reads the element's attributes "min" and "max". Capable when both hold text and are not
-    /// both zero.
+    /// Reads the attributes "min" and "max" of the element. Capable when both have text and at
+    /// least one is not zero.
     void ParseProp(_xmlNode* element);
 };
 
-/// A range in the attributes "min" and "max". Capable when both hold text, zeros included.
+/// A range in the attributes "min" and "max". Capable when both have text, even if both are zero.
 struct CAPABILITYSET_API MinMaxPropElement : CBaseCapability
 {
-    unsigned int min = 0;
-    unsigned int max = 0;
+    unsigned int min = 0;  ///< smallest value allowed
+    unsigned int max = 0;  ///< largest value allowed
 
     MinMaxPropElement() = default;
     // Kept: clients rely on this constructor reading nothing.
     explicit MinMaxPropElement(_xmlNode* /*element*/) {}
 
+    /// Reads the element's attributes; null reads nothing.
     void Parse(_xmlNode* element);
 };
 
@@ -55,14 +56,14 @@ struct CAPABILITYSET_API RangeElement : CBaseCapability
 {
     static constexpr bool kParseTakesFirstChild = true;
 
-    std::vector<int> range;
-    bool hasDefault = false;
-    unsigned int def = 0;
+    std::vector<int> range;   ///< values allowed, in document order
+    bool hasDefault = false;  ///< `def` was announced
+    unsigned int def = 0;     ///< default value
 
     RangeElement() = default;
     explicit RangeElement(_xmlNode* start) { Parse(start); }
 
-    /// Looks for "Range" from `start` on. A default is taken only when `start` itself is a
+    /// Searches for "Range" from `start` on. The default is read only if `start` itself is a
     /// "Default" element.
     void Parse(_xmlNode* start);
 };
@@ -72,20 +73,22 @@ struct CAPABILITYSET_API MinMaxOrRangeElement : CBaseCapability
 {
     static constexpr bool kParseTakesFirstChild = true;
 
-    MinMaxElement minMax;
-    RangeElement range;  ///< never carries a default
+    MinMaxElement minMax;  ///< the bounds
+    RangeElement range;    ///< the list; never has a default
 
     MinMaxOrRangeElement() = default;
     explicit MinMaxOrRangeElement(_xmlNode* firstChild) { Parse(firstChild); }
 
+    /// Reads "Min", "Max", "Default" and "Range", starting at the element's first child.
     void Parse(_xmlNode* firstChild);
 };
 
-/// A default value; the record that owns it fills it.
+/// A default value, filled by the record that owns it.
 struct CAPABILITYSET_API DefaultElement : CBaseCapability
 {
-    std::int32_t value = 0;
+    std::int32_t value = 0;  ///< default, in the unit of the setting
 
+    /// Marks the default as announced.
     void SetCapable() { capable = true; }
 };
 

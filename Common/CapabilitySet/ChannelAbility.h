@@ -1,4 +1,4 @@
-// What a video channel can do: picture, streams, input, pan and tilt.
+// Abilities of a video channel: picture, streams, input, PTZ. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,10 +10,6 @@
 namespace CapabilitySet
 {
 
-// How every query below behaves: docs/errors.md tells the error numbers. `out` is reset first and
-// stays at its defaults on failure; true means that the device answered. Every
-// query may be called from any thread.
-
 /// Identity and functions of a channel.
 struct CAPABILITYSET_API ChannelInfoAbility : AbilityRecord<ChannelInfoAbility>
 {
@@ -21,7 +17,7 @@ struct CAPABILITYSET_API ChannelInfoAbility : AbilityRecord<ChannelInfoAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel; the device type is not sent.
+    /// Standard ability 4360. `deviceType` is not sent.
     static bool GetChannelInfoAbility(ChannelInfoAbility& out, unsigned int& err, const int userID,
                                       const int channel, const std::string& deviceType);
 };
@@ -33,8 +29,8 @@ struct CAPABILITYSET_API ChannelInputAbility : AbilityRecord<ChannelInputAbility
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel, or for none in particular when it is negative; the device type is not
-    /// sent.
+    /// Device ability 17, ChannelInputAbility/channelNO. Accepts a negative channel. `deviceType`
+    /// is not sent.
     static bool GetChannelInputAbility(ChannelInputAbility& out, unsigned int& err,
                                        const int userID, const int channel,
                                        const std::string& deviceType);
@@ -47,20 +43,21 @@ struct CAPABILITYSET_API VideoPicAbility : AbilityRecord<VideoPicAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel, or for none in particular when it is negative; the device type is not
-    /// sent.
+    /// Device ability 14, VideoPicAbility/channelNO. Accepts a negative channel. `deviceType` is
+    /// not sent.
     static bool GetVideoPicAbility(VideoPicAbility& out, unsigned int& err, const int userID,
                                    const int channel, const std::string& deviceType);
 };
 
-/// Camera front-end settings: exposure, white balance, day and night.
+/// Camera settings: exposure, white balance, day and night.
 struct CAPABILITYSET_API CameraPara : AbilityRecord<CameraPara>
 {
     static constexpr const char* kRoot = "CameraPara";
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for several channels at once; an empty list asks for the device as a whole.
+    /// Device ability 9, CAMERAPARA/ChannelNumber without a version, one child per channel. An
+    /// empty list sends one child "0xff": the device as a whole.
     static bool GetCameraParam(CameraPara& out, unsigned int& err, const int userID,
                                const std::vector<int>& channels);
 };
@@ -72,7 +69,8 @@ struct CAPABILITYSET_API AudioVideoCompressInfo : AbilityRecord<AudioVideoCompre
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for an audio, a two-way audio and a video channel.
+    /// Device ability 8, AudioVideoCompressInfo without a version, with the children
+    /// AudioChannelNumber, VoiceTalkChannelNumber (two-way audio) and VideoChannelNumber.
     static bool GetAudioVideoCompressInfo(AudioVideoCompressInfo& out, unsigned int& err,
                                           const int userID, const unsigned int audioChannel,
                                           const unsigned int voiceTalkChannel,
@@ -86,21 +84,22 @@ struct CAPABILITYSET_API CustomStreamCap : AbilityRecord<CustomStreamCap>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel by the protocol's number. An answer that is no such document is
-    /// error 23.
+    /// GET /TARN/Streaming/channels/{channel}/customStream/capabilities. `channel` is already the
+    /// protocol's number. Error 23 if the answer is not this document.
     static bool GetCustomStreamAbility(CustomStreamCap& out, unsigned int& err, const int userID,
                                        const int channel);
 };
 
-/// Pan, tilt, zoom and their automations.
+/// Pan, tilt, zoom and their automatic functions.
 struct CAPABILITYSET_API PTZAbility : AbilityRecord<PTZAbility>
 {
     static constexpr const char* kRoot = "PTZAbility";
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel, or for the device as a whole when it is negative. Error 1001 does not
-    /// grow the buffer, and 1000 stays 1000.
+    /// Device ability 17, PTZAbility/channelNO. A negative channel is sent as "0xff": the device as
+    /// a whole. Error 43 above 1,024,000 bytes.
+    // Kept: the SDK's 1000 and 1001 are passed on unchanged; only 43 grows the buffer.
     static bool GetPTZAbility(PTZAbility& out, unsigned int& err, const int userID,
                               const int channel);
 };
@@ -112,7 +111,8 @@ struct CAPABILITYSET_API FishEyeAbility : AbilityRecord<FishEyeAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel; the device version is not sent.
+    /// Device ability 1792, FishEyeIPCAbility/channelNO.
+    /// `deviceVersion` is not sent.
     static bool GetFishEyeAbility(FishEyeAbility& out, unsigned int& err, const int userID,
                                   const unsigned int channel, const std::string& deviceVersion);
 };

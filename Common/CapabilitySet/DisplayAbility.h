@@ -1,4 +1,4 @@
-// What a device can decode and show: decoders, video walls, video platforms.
+// Abilities of decoders, video walls and video platforms. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,10 +9,6 @@
 namespace CapabilitySet
 {
 
-// How every query below behaves: docs/errors.md tells the error numbers. `out` is reset first and
-// stays at its defaults on failure; true means that the device answered. Every
-// query may be called from any thread.
-
 /// Decoding channels and display outputs.
 struct CAPABILITYSET_API DecoderAbility : AbilityRecord<DecoderAbility>
 {
@@ -20,7 +16,7 @@ struct CAPABILITYSET_API DecoderAbility : AbilityRecord<DecoderAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for the decoding functions.
+    /// Device ability 609, DecoderAbility.
     static bool GetDecoderAbility(DecoderAbility& out, unsigned int& err, const int userID);
 };
 
@@ -31,7 +27,8 @@ struct CAPABILITYSET_API WallAbility : AbilityRecord<WallAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a wall and one of its outputs.
+    /// Device ability 530, WallAbility with the children wallNO {wall} and channelNO {output}, the
+    /// device's numbers of the wall and its output.
     static bool GetWallAbility(WallAbility& out, unsigned int& err, const int userID,
                                const unsigned int wall, const unsigned int output);
 };
@@ -43,7 +40,8 @@ struct CAPABILITYSET_API VideoPlatformAbility : AbilityRecord<VideoPlatformAbili
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for one part by its element name; an empty one asks for all.
+    /// Device ability 17, VideoPlatformAbility/{part}, an empty element. Without a part, all are
+    /// asked for.
     static bool GetVideoPlatformAbility(VideoPlatformAbility& out, unsigned int& err,
                                         const int userID, const std::string& part);
 };
@@ -55,7 +53,7 @@ struct CAPABILITYSET_API CodeSubSystemAbility : AbilityRecord<CodeSubSystemAbili
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel of the subsystem; the device type is not sent.
+    /// Device ability 17, VideoPlatformAbility/channelNO. `deviceType` is not sent.
     static bool GetCodeSubSystemAbility(CodeSubSystemAbility& out, unsigned int& err,
                                         const int userID, const unsigned int channel,
                                         const std::string& deviceType);

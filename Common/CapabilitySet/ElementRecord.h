@@ -1,4 +1,4 @@
-// What records have that are the image of one element inside a document.
+// Base of records that are read from one element inside a document.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,12 +10,12 @@ struct _xmlNode;
 namespace CapabilitySet
 {
 
-/// A record that is read from one element by its field list, and never from a whole document.
+/// A record read from one element by its field list, never from a whole document.
 template <class Record>
 struct CAPABILITYSET_API ElementRecord : CBaseCapability
 {
-    /// Reads the record's element, or what begins with its first child where the record's comment
-    /// says so; null reads nothing. Never throws.
+    /// Reads the record's element, or its children from the first child on if the record says so;
+    /// null reads nothing. Never throws.
     void Parse(_xmlNode* node);
 };
 

@@ -431,7 +431,7 @@ struct CAPABILITYSET_API EventAbility : CBaseCapability
         field("VoiceDetection", r.voiceDetection);
         field("TraversingVirtualPlane", r.traversingVirtualPlane);
         field("FieldDetection", r.fieldDetection);
-        // Kept: devices spell it so.
+        // Kept: devices spell it this way.
         field("DefousDetection", r.defousDetection);
         field("SceneChangeDetection", r.sceneChangeDetection);
         field("VCADetection", r.vcaDetection);

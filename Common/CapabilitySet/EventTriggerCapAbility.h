@@ -13,8 +13,6 @@ struct _xmlNode;
 namespace CapabilitySet
 {
 
-// Members bear the names of their elements.
-
 /// The reactions that one kind of event may start. A flag whose text is neither "true" nor "false"
 /// keeps its value; each element present makes the record capable.
 struct CAPABILITYSET_API EventTriggerCapType : ElementRecord<EventTriggerCapType>

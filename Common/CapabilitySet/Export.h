@@ -1,4 +1,4 @@
-// Marks what the library exports.
+// Marks the symbols that the library exports.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 

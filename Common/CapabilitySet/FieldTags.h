@@ -1,4 +1,4 @@
-// How a field is read where its type alone does not tell: the third argument of a field list.
+// Tags for field lists: the third argument says how a field is read if its type does not.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,90 +10,90 @@ struct OptionCodes;
 namespace as
 {
 
-/// What the type itself tells; the same as no tag.
+/// Read as the type says; the same as no tag.
 struct Plain
 {
 };
 inline constexpr Plain plain;
 
-/// A range read from the element's attributes instead of its children.
+/// A range in the element's attributes instead of its children.
 struct Attributes
 {
 };
 inline constexpr Attributes attributes;
 
-/// A flag that is true when the element exists, whatever it holds.
+/// A flag that is true if the element exists, whatever it contains.
 struct Presence
 {
 };
 inline constexpr Presence presence;
 
-/// As presence, but the element does not make its record count as read.
+/// As Presence, but the element does not make its record valid.
 struct Marker
 {
 };
 inline constexpr Marker marker;
 
-/// A flag announced by options: true or false when "opt" holds one entry, else left as it is.
+/// A flag in an option list: set from "opt" if that has exactly one entry, else unchanged.
 struct EnabledFlag
 {
 };
 inline constexpr EnabledFlag enabledFlag;
 
-/// A list of the elements of this name among the record's own children.
+/// A list of all elements of this name among the record's children.
 struct Repeated
 {
 };
 inline constexpr Repeated repeated;
 
-/// A list inside an element of its own: the elements named `item` among its children.
+/// A list wrapped in an element of its own: the children named `item`.
 struct Items
 {
-    const char* item;
+    const char* item;  ///< name of the elements in the list
 };
 
-/// A number that is read but does not make its record count as read.
+/// A number that does not make its record valid.
 struct Quiet
 {
 };
 inline constexpr Quiet quiet;
 
-/// A flag announced by options: whether the first entry of "opt" is "true".
+/// A flag in an option list: whether the first entry of "opt" is "true".
 struct FirstOption
 {
 };
 inline constexpr FirstOption firstOption;
 
-/// A flag that is true for exactly the text "true".
+/// A flag that is true only for the text "true".
 struct TextFlag
 {
 };
 inline constexpr TextFlag textFlag;
 
-/// A flag for the texts "true" and "false"; any other leaves it as it is.
+/// A flag for the texts "true" and "false"; any other text leaves it unchanged.
 struct TrueOrFalse
 {
 };
 inline constexpr TrueOrFalse trueOrFalse;
 
-/// Options that stand for codes of a table.
+/// Options converted to the codes of a table.
 struct Codes
 {
-    const OptionCodes& table;
+    const OptionCodes& table;  ///< strings and their codes
 };
 
-/// Alarm handling options; in the answer to an alarm ability query with that query's login.
+/// Alarm handling options, converted to AlarmHandleType values.
 struct HandleTypes
 {
-    bool withAlarmLogin;
+    bool withAlarmLogin;  ///< ask the device of the alarm query in progress for FTP upload
 };
 inline constexpr HandleTypes handleTypes{false};
 inline constexpr HandleTypes handleTypesOfLogin{true};
 
-/// A JSON array of objects that each hold the item under this key.
+/// A JSON array of objects that each hold the item under `key`.
 struct Wrapped
 {
-    const char* key;
+    const char* key;  ///< key of the item in each object
 };
 
 /// A JSON value of any kind, kept as its styled text.
@@ -102,17 +102,17 @@ struct StyledText
 };
 inline constexpr StyledText styledText;
 
-/// A number that JSON documents hold as a text of decimal digits.
+/// A number that JSON documents may hold as decimal text.
 struct DecimalText
 {
 };
 inline constexpr DecimalText decimalText;
 
-/// A value with a companion flag that is set when it was read.
+/// A value with a companion flag that is set when the value is read.
 template <class Flag>
 struct Noted
 {
-    Flag& flag;
+    Flag& flag;  ///< the companion flag
 };
 template <class Flag>
 Noted(Flag&) -> Noted<Flag>;

@@ -1,4 +1,4 @@
-// What a video intercom station can do.
+// Abilities of a video intercom station. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,10 +9,6 @@
 namespace CapabilitySet
 {
 
-// How every query below behaves: docs/errors.md tells the error numbers. `out` is reset first and
-// stays at its defaults on failure; true means that the device answered. Every
-// query may be called from any thread.
-
 /// Notices and videos shown on a station.
 struct CAPABILITYSET_API IntercomNoticeVideoAbility : AbilityRecord<IntercomNoticeVideoAbility>
 {
@@ -20,7 +16,7 @@ struct CAPABILITYSET_API IntercomNoticeVideoAbility : AbilityRecord<IntercomNoti
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel, or for the station as a whole when it is negative.
+    /// Device ability 20, IntercomNoticeVideoAbility/channelNO. Accepts a negative channel.
     static bool GetNoticeVideoCapability(IntercomNoticeVideoAbility& out, unsigned int& err,
                                          const int userID, int channel);
 };
@@ -32,7 +28,7 @@ struct CAPABILITYSET_API IntercomDeviceIpViewAbility : AbilityRecord<IntercomDev
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel, or for the station as a whole when it is negative.
+    /// Device ability 20, IpViewDevAbility/channelNO. Accepts a negative channel.
     static bool GetIntercomDeviceIpViewAbility(IntercomDeviceIpViewAbility& out, unsigned int& err,
                                                const int userID, int channel);
 };

@@ -1,4 +1,4 @@
-// What a device can record and store.
+// Recording and storage abilities of a device. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,10 +9,6 @@
 namespace CapabilitySet
 {
 
-// How every query below behaves: docs/errors.md tells the error numbers. `out` is reset first and
-// stays at its defaults on failure; true means that the device answered. Every
-// query may be called from any thread.
-
 /// Recording: schedules, modes, streams, redundancy.
 struct CAPABILITYSET_API RecordAbility : AbilityRecord<RecordAbility>
 {
@@ -20,7 +16,7 @@ struct CAPABILITYSET_API RecordAbility : AbilityRecord<RecordAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for the recording functions.
+    /// Device ability 17, RecordAbility.
     static bool GetRecordAbility(RecordAbility& out, unsigned int& err, const int userID);
 };
 
@@ -31,7 +27,7 @@ struct CAPABILITYSET_API CVRAbility : AbilityRecord<CVRAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for the central storage functions.
+    /// Device ability 17, CVRAbility.
     static bool GetCVRAbility(CVRAbility& out, unsigned int& err, const int userID);
 };
 

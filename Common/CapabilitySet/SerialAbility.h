@@ -1,4 +1,4 @@
-// What the serial ports of a device can do.
+// Serial port abilities of a device.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,21 +11,21 @@
 namespace CapabilitySet
 {
 
-/// The serial ability document, which the client fetches itself.
+/// The serial ability document, root "SerialAbility". The client fetches it itself.
 struct CAPABILITYSET_API SerialAbility : AbilityDocument
 {
     static constexpr const char* kRoot = "SerialAbility";
 
-    std::vector<WorkModeType> workMode;          ///< options of the first "workMode" at any depth
-    std::vector<OutPutDataType> outputDataType;  ///< of the first "outputDataType" at any depth
+    std::vector<WorkModeType> workMode;          ///< from the first "workMode" at any depth
+    std::vector<OutPutDataType> outputDataType;  ///< from the first "outputDataType" at any depth
 
     SerialAbility() = default;
     explicit SerialAbility(const std::string& text) { Parse(text); }
     explicit SerialAbility(_xmlNode* element) { Parse(element); }
 
-    /// Reads a whole document; an empty text reads nothing.
+    /// Reads a whole document.
     void Parse(const std::string& text);
-    /// Reads the record's own element; null reads nothing.
+    /// Reads the root element.
     void Parse(_xmlNode* element);
 
 private:

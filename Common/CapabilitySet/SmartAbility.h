@@ -1,4 +1,4 @@
-// What a channel can analyse: smart events, regions, vehicles.
+// Analysis abilities of a channel: events, regions, vehicles. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,10 +9,6 @@
 namespace CapabilitySet
 {
 
-// How every query below behaves: docs/errors.md tells the error numbers. `out` is reset first and
-// stays at its defaults on failure; true means that the device answered. Every
-// query may be called from any thread.
-
 /// Video content analysis of a channel.
 struct CAPABILITYSET_API VcaAbility : AbilityRecord<VcaAbility>
 {
@@ -20,7 +16,7 @@ struct CAPABILITYSET_API VcaAbility : AbilityRecord<VcaAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel, or for none in particular when it is negative.
+    /// Device ability 17, VcaChanAbility/channelNO. Accepts a negative channel.
     static bool GetVcaAbility(VcaAbility& out, unsigned int& err, const int userID,
                               const int channel);
 };
@@ -32,20 +28,20 @@ struct CAPABILITYSET_API SmartCap : AbilityRecord<SmartCap>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel.
+    /// Standard ability 3500.
     static bool GetSmartCapAbility(SmartCap& out, unsigned int& err, const int userID,
                                    const unsigned int channel);
 };
 
-/// Detection of someone leaving a region.
+/// Detection of targets leaving a region.
 struct CAPABILITYSET_API RegionExitingCap : AbilityRecord<RegionExitingCap>
 {
     static constexpr const char* kRoot = "RegionExitingCap";
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel. Clients pass the error slot by value, so they learn of a failure from
-    /// the result and Keel::Error::GetLastError() alone.
+    /// Standard ability 3511.
+    // Kept: `err` is taken by value, here and in the three queries below.
     static bool GetRegionExitingAbility(RegionExitingCap& out, unsigned int err, int userID,
                                         unsigned int channel);
 };
@@ -57,8 +53,7 @@ struct CAPABILITYSET_API RegionParkingCap : AbilityRecord<RegionParkingCap>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel. Clients pass the error slot by value, so they learn of a failure from
-    /// the result and Keel::Error::GetLastError() alone.
+    /// Standard ability 3547.
     static bool GetRegionParkingAbility(RegionParkingCap& out, unsigned int err, int userID,
                                         unsigned int channel);
 };
@@ -70,8 +65,7 @@ struct CAPABILITYSET_API RegionUnBaggageCap : AbilityRecord<RegionUnBaggageCap>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel. Clients pass the error slot by value, so they learn of a failure from
-    /// the result and Keel::Error::GetLastError() alone.
+    /// Standard ability 3556.
     static bool GetRegionUnBaggageAbility(RegionUnBaggageCap& out, unsigned int err, int userID,
                                           unsigned int channel);
 };
@@ -83,20 +77,19 @@ struct CAPABILITYSET_API RegionBaggageCap : AbilityRecord<RegionBaggageCap>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel. Clients pass the error slot by value, so they learn of a failure from
-    /// the result and Keel::Error::GetLastError() alone.
+    /// Standard ability 3565.
     static bool GetRegionBaggageAbility(RegionBaggageCap& out, unsigned int err, int userID,
                                         unsigned int channel);
 };
 
-/// What is told of a recognised vehicle.
+/// What is reported about a recognised vehicle.
 struct CAPABILITYSET_API VehicleInfoResultCap : AbilityRecord<VehicleInfoResultCap>
 {
     static constexpr const char* kRoot = "VehicleInfoResultCap";
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel.
+    /// Standard ability 3951.
     static bool GetVehicleInfoResultCapAbility(VehicleInfoResultCap& out, unsigned int& err,
                                                const int userID, const int channel);
 };

@@ -1,4 +1,4 @@
-// What a device is as a whole: its system, network services, users, security and clustering.
+// Abilities of a whole device: system, network, users, security. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,10 +9,6 @@
 namespace CapabilitySet
 {
 
-// How every query below behaves: docs/errors.md tells the error numbers. `out` is reset first and
-// stays at its defaults on failure; true means that the device answered. Every
-// query may be called from any thread.
-
 /// System functions of a device.
 struct CAPABILITYSET_API DeviceCap : AbilityRecord<DeviceCap>
 {
@@ -20,8 +16,7 @@ struct CAPABILITYSET_API DeviceCap : AbilityRecord<DeviceCap>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for the system capabilities. An answer that is no such document is
-    /// error 23.
+    /// GET /TARN/System/capabilities. Error 23 if the answer is not this document.
     static bool GetDeviceCapability(DeviceCap& out, unsigned int& err, const int userID);
 };
 
@@ -33,8 +28,8 @@ struct CAPABILITYSET_API SystemDeviceCap : AbilityRecord<SystemDeviceCap>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for the system capabilities. Error 1001 does not grow the buffer, and 1000 stays 1000.
-    /// An answer that is no such document is error 23.
+    /// GET /TARN/System/capabilities. Error 23 if the answer is not this document.
+    // Kept: the SDK's 1000 and 1001 are passed on unchanged; only 43 grows the buffer.
     static bool GetSystemDeviceAbility(SystemDeviceCap& out, unsigned int& err, const int userID);
 };
 
@@ -45,20 +40,19 @@ struct CAPABILITYSET_API ClusterCapability : AbilityRecord<ClusterCapability>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for the clustering capabilities. An answer that is no such document is
-    /// error 23.
+    /// GET /TARN/ContentMgmt/Cluster/capabilities. Error 23 if the answer is not this document.
     static bool GetClusterCap(ClusterCapability& out, unsigned int& err, const int userID);
 };
 
-/// The ways in which a device can be discovered on a network.
+/// Protocols by which a device can be discovered on a network.
 struct CAPABILITYSET_API DiscoveryModeCap : AbilityRecord<DiscoveryModeCap>
 {
     static constexpr const char* kRoot = "DiscoveryModeCap";
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for the discovery modes. An answer that is no such document is
-    /// error 23.
+    /// GET /TARN/System/discoveryMode/capabilities. Error 23 if the answer is not this document.
+    // Kept: the line is sent without CR LF.
     static bool getDiscoveryModeAbility(DiscoveryModeCap& out, unsigned int& err, const int userID);
 };
 
@@ -69,7 +63,7 @@ struct CAPABILITYSET_API SecurityAbility : AbilityRecord<SecurityAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for the security functions; devices expect channel 1.
+    /// Device ability 17, SecurityAbility/channelNO, always with channel 1.
     static bool GetSecurityAbility(SecurityAbility& out, unsigned int& err, const int userID);
 };
 
@@ -80,19 +74,20 @@ struct CAPABILITYSET_API UserAbility : AbilityRecord<UserAbility>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for one part of user management by its element name; an empty one asks for all.
+    /// Device ability 12, UserAbility/{part}, an empty element. Without a part, all are asked for.
     static bool GetUserAbility(UserAbility& out, unsigned int& err, const int userID,
                                const std::string& part);
 };
 
-/// Network applications: time, mail, dynamic names, platform access.
+/// Network applications: time, mail, dynamic DNS, platform access.
 struct CAPABILITYSET_API NetAppAbility : AbilityRecord<NetAppAbility>
 {
     static constexpr const char* kRoot = "NetAppAbility";
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for one application by its element name; an empty one asks for all.
+    /// Device ability 13, NetAppAbility/{application}, an empty element. Without an application,
+    /// all are asked for.
     static bool GetNetAppAbility(NetAppAbility& out, unsigned int& err, const int userID,
                                  const std::string& application);
 };

@@ -1,4 +1,4 @@
-// What a thermal channel can measure.
+// Abilities of a thermal channel. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,10 +9,6 @@
 namespace CapabilitySet
 {
 
-// How every query below behaves: docs/errors.md tells the error numbers. `out` is reset first and
-// stays at its defaults on failure; true means that the device answered. Every
-// query may be called from any thread.
-
 /// Thermal functions of a channel.
 struct CAPABILITYSET_API ThermalCap : AbilityRecord<ThermalCap>
 {
@@ -20,19 +16,19 @@ struct CAPABILITYSET_API ThermalCap : AbilityRecord<ThermalCap>
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel.
+    /// Standard ability 3634.
     static bool GetThermalCapability(ThermalCap& out, unsigned int& err, const int userID,
                                      int channel);
 };
 
-/// Temperature measurement by hand.
+/// Manual temperature measurement.
 struct CAPABILITYSET_API ManualThermometryCap : AbilityRecord<ManualThermometryCap>
 {
     static constexpr const char* kRoot = "ManualThermometryCap";
 
     using AbilityRecord::AbilityRecord;
 
-    /// Asks for a channel.
+    /// Standard ability 6707.
     static bool GetManualThermometryAbility(ManualThermometryCap& out, unsigned int& err,
                                             const int userID, unsigned int channel);
 };

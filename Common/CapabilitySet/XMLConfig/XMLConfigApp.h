@@ -14,8 +14,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their elements.
-
 /// The tracks to search, such as "101" for the main stream of channel 1.
 struct CAPABILITYSET_API TrackIDList : XmlRecord<TrackIDList>
 {

@@ -12,8 +12,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their elements.
-
 /// An application installed on a device.
 struct CAPABILITYSET_API App : XmlRecord<App>
 {

@@ -13,8 +13,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their elements.
-
 /// The gateway of a switch.
 struct CAPABILITYSET_API SwitchGateway : XmlRecord<SwitchGateway>
 {

@@ -12,8 +12,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their elements.
-
 /// By which protocols a device can be found.
 struct CAPABILITYSET_API DiscoveryMode : XmlRecord<DiscoveryMode>
 {

@@ -9,8 +9,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their elements.
-
 /// Keys of a protected network.
 struct CAPABILITYSET_API WPA : XmlRecord<WPA>
 {

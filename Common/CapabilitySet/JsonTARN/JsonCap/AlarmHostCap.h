@@ -9,8 +9,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// How many partitions, zones and relays a host has.
 struct CAPABILITYSET_API AlarmHostTARNCapability : JsonRecord<AlarmHostTARNCapability>
 {

@@ -12,8 +12,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// What a marked spot of a crossing can have.
 struct CAPABILITYSET_API IntersectionTagCap : JsonPart<IntersectionTagCap>
 {

@@ -10,8 +10,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// Searching detected sounds.
 struct CAPABILITYSET_API AudioDetectionSearchCapability : JsonTree<AudioDetectionSearchCapability>
 {

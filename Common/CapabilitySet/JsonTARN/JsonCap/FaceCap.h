@@ -10,8 +10,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// Comparing two pictures of faces.
 struct CAPABILITYSET_API ImagesComparisionCapbility : JsonRecord<ImagesComparisionCapbility>
 {

@@ -10,8 +10,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// Fibre converters in a crate.
 struct CAPABILITYSET_API FiberConvertCap : JsonRecord<FiberConvertCap>
 {

@@ -11,8 +11,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// How the host reaches its centre.
 struct CAPABILITYSET_API AlarmHostCommunicationStatus : JsonRecord<AlarmHostCommunicationStatus>
 {

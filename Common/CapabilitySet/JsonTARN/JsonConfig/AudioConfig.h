@@ -10,8 +10,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// Audio detection of a channel. Read it, change `root`, and set it.
 struct CAPABILITYSET_API CAudioDectionCfg : JsonTree<CAudioDectionCfg>
 {

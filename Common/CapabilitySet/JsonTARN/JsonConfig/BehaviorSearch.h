@@ -10,8 +10,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// Which analysed behaviour to search; tasks, kinds and the like stand in `root`.
 struct CAPABILITYSET_API DeeplyThinkBehaviorDescription
     : JsonRecord<DeeplyThinkBehaviorDescription>,

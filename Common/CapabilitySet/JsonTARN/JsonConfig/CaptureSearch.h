@@ -12,8 +12,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// What a face looks like: the filters of a search, and what the device saw. Words are those that
 /// the device's capability lists; an empty one in a search filters nothing.
 struct CAPABILITYSET_API FaceAttributes

@@ -12,8 +12,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys where there is no other note.
-
 /// Whose attendance to search, and when.
 struct CAPABILITYSET_API FDLibAttendanceSearch : JsonPart<FDLibAttendanceSearch>
 {

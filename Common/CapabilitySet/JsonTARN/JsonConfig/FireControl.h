@@ -12,8 +12,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// State of one sensor of a detector, sent as an object with "status" or as the bare word.
 /// Parse throws what JsonCpp throws for a value of the wrong kind.
 struct CAPABILITYSET_API DetectorSensor

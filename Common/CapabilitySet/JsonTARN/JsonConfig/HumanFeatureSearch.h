@@ -10,8 +10,6 @@
 namespace CapabilitySet
 {
 
-// Members bear the names of their keys.
-
 /// The task that compares captures with libraries. What else the device says of it stands in
 /// `root`.
 struct CAPABILITYSET_API HFPDCaptureLibCollisionTask : JsonRecord<HFPDCaptureLibCollisionTask>
