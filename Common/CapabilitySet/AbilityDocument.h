@@ -19,7 +19,8 @@ struct CAPABILITYSET_API AbilityElement
 {
     std::string name;  ///< element name
     std::string text;  ///< own text; whitespace is dropped if it has children
-    std::vector<std::pair<std::string, std::string>> attributes;  ///< names and values, in document order
+    /// Names and values of the attributes, in document order.
+    std::vector<std::pair<std::string, std::string>> attributes;
     std::vector<AbilityElement> children;  ///< child elements, in document order
 
     /// The first element at a path of names below this one, such as "Display/windowNum". Returns an

@@ -89,8 +89,7 @@ struct CAPABILITYSET_API AlarmAbility : CBaseCapability
 {
     static constexpr const char* kRoot = "AlarmAbility";
 
-    std::vector<std::shared_ptr<channelEntry>>
-        entries;  ///< one entry per channel, in document order
+    std::vector<std::shared_ptr<channelEntry>> entries;  ///< one per channel
 
     AlarmAbility() = default;
     explicit AlarmAbility(const std::string& text) { Parse(text); }
@@ -98,7 +97,7 @@ struct CAPABILITYSET_API AlarmAbility : CBaseCapability
 
     /// Reads a whole document. Appends to `entries`.
     void Parse(const std::string& text);
-    /// Reads the children that begin with this one. Appends to `entries`.
+    /// Reads the root element. Appends to `entries`.
     void Parse(_xmlNode* element);
 
     /// Device ability 10, AlarmAbility/channelID with the protocol's channel number. If the SDK

@@ -1,4 +1,4 @@
-// What a channel can detect and how it can react, the query for it, and the memory of tracking.
+// What a channel can detect and how it can react. Queries.h describes the query.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -16,11 +16,9 @@ struct _xmlNode;
 namespace CapabilitySet
 {
 
-// Members bear the names of their elements. In every record `capable` is raised by the first
-// element read, or by a nested record that is capable itself. Parse(_xmlNode*) takes the record's
-// element; null reads nothing.
+// A record is capable once an element was read or a nested record is capable.
 
-/// The tables that turn option strings into codes.
+/// Tables that convert option strings to codes. Unknown options are logged and skipped.
 namespace option_codes
 {
 
@@ -28,7 +26,7 @@ namespace option_codes
 /// "badVideo" 6, "recordingFailure" 7, "raid" 8, "resolutionMismatch" 9, "spareException" 11,
 /// "temperatureException" 12, "subsystemException" 13, "fanException" 14, "POEPoweException" 15.
 extern CAPABILITYSET_API const OptionCodes kExceptionTypes;
-/// Seconds "5" 0, "10" 1, "30" 2, "60" 3, "120" 4, "300" 5, "600" 6, and "manual" 7.
+/// Seconds: "5" 0, "10" 1, "30" 2, "60" 3, "120" 4, "300" 5, "600" 6, and "manual" 7.
 extern CAPABILITYSET_API const OptionCodes kPulseDurations;
 /// "normalTrack" 0, "highSpeedRoadTrack" 1, "urbanRoadTrack" 2.
 extern CAPABILITYSET_API const OptionCodes kTrackTypes;
@@ -39,11 +37,11 @@ extern CAPABILITYSET_API const OptionCodes kCrossDirections;
 
 }  // namespace option_codes
 
-/// Exceptions of a device and the reactions to them.
+/// Device faults and the reactions to them.
 struct CAPABILITYSET_API ExceptionAlarm : ElementRecord<ExceptionAlarm>
 {
-    std::vector<int> exceptionType;  ///< option_codes::kExceptionTypes
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
+    std::vector<int> exceptionType;  ///< faults, codes of option_codes::kExceptionTypes
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
 
     ExceptionAlarm() = default;
     explicit ExceptionAlarm(_xmlNode* element) { Parse(element); }
@@ -59,8 +57,8 @@ struct CAPABILITYSET_API ExceptionAlarm : ElementRecord<ExceptionAlarm>
 /// Alarm inputs.
 struct CAPABILITYSET_API AlarmIn : ElementRecord<AlarmIn>
 {
-    unsigned int alarmTime = 0;  ///< seconds
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
+    unsigned int alarmTime = 0;  ///< a count; the device defines its unit
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
 
     AlarmIn() = default;
     explicit AlarmIn(_xmlNode* element) { Parse(element); }
@@ -76,8 +74,8 @@ struct CAPABILITYSET_API AlarmIn : ElementRecord<AlarmIn>
 /// Alarm outputs.
 struct CAPABILITYSET_API AlarmOut : ElementRecord<AlarmOut>
 {
-    unsigned int alarmTime = 0;      ///< seconds
-    std::vector<int> pulseDuration;  ///< option_codes::kPulseDurations
+    unsigned int alarmTime = 0;      ///< a count; the device defines its unit
+    std::vector<int> pulseDuration;  ///< pulse lengths, codes of option_codes::kPulseDurations
 
     AlarmOut() = default;
     explicit AlarmOut(_xmlNode* element) { Parse(element); }
@@ -93,11 +91,11 @@ struct CAPABILITYSET_API AlarmOut : ElementRecord<AlarmOut>
 /// Face detection.
 struct CAPABILITYSET_API FaceDetection : ElementRecord<FaceDetection>
 {
-    bool detectFaceEnable = false;
-    MinMaxElement detectFaceSensitive;
-    unsigned int alarmTime = 0;  ///< seconds
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
-    bool triggerRecord = false;
+    bool detectFaceEnable = false;      ///< detection can be enabled
+    MinMaxElement detectFaceSensitive;  ///< range of the sensitivity
+    unsigned int alarmTime = 0;         ///< a count; the device defines its unit
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
+    bool triggerRecord = false;                                ///< detection can start a recording
 
     FaceDetection() = default;
     explicit FaceDetection(_xmlNode* element) { Parse(element); }
@@ -113,11 +111,11 @@ struct CAPABILITYSET_API FaceDetection : ElementRecord<FaceDetection>
     }
 };
 
-/// Tracking by hand.
+/// Manual tracking.
 struct CAPABILITYSET_API ManualTrace : ElementRecord<ManualTrace>
 {
-    bool enabled = false;
-    std::vector<int> trackType;  ///< option_codes::kTrackTypes
+    bool enabled = false;        ///< manual tracking is available
+    std::vector<int> trackType;  ///< kinds of track, codes of option_codes::kTrackTypes
 
     ManualTrace() = default;
     explicit ManualTrace(_xmlNode* element) { Parse(element); }
@@ -130,13 +128,13 @@ struct CAPABILITYSET_API ManualTrace : ElementRecord<ManualTrace>
     }
 };
 
-/// Tracking of a target.
+/// Tracking of moving targets.
 struct CAPABILITYSET_API Track : ElementRecord<Track>
 {
-    bool trackEnable = false;
-    bool stopTrackWhenFindFace = false;  ///< always false
-    MinMaxElement stopTrackThreshold;
-    ManualTrace manualTrace;
+    bool trackEnable = false;            ///< tracking can be enabled; see Fields
+    bool stopTrackWhenFindFace = false;  ///< always false after reading; see Fields
+    MinMaxElement stopTrackThreshold;    ///< range of the threshold that stops tracking
+    ManualTrace manualTrace;             ///< manual tracking
 
     Track() = default;
     explicit Track(_xmlNode* element) { Parse(element); }
@@ -145,18 +143,18 @@ struct CAPABILITYSET_API Track : ElementRecord<Track>
     static void Fields(Record& r, Field&& field)
     {
         field("trackEnable", r.trackEnable, as::firstOption);
-        // Kept: clients rely on this element overwriting the flag before it; its own stays false.
+        // Kept: clients rely on this element overwriting trackEnable; its own member stays false.
         field("stopTrackWhenFindFace", r.trackEnable, as::firstOption);
         field("stopTrackThreshold", r.stopTrackThreshold, as::attributes);
         field("ManualTrace", r.manualTrace);
     }
 };
 
-/// A steep drop of sound.
+/// Sudden drop of the sound level.
 struct CAPABILITYSET_API AudioSteepDrop : ElementRecord<AudioSteepDrop>
 {
-    OptElement<std::string> enable;
-    MinMaxElement sensitivityLevel;
+    OptElement<std::string> enable;  ///< options of the switch
+    MinMaxElement sensitivityLevel;  ///< range of the sensitivity
 
     AudioSteepDrop() = default;
     explicit AudioSteepDrop(_xmlNode* element) { Parse(element); }
@@ -172,10 +170,10 @@ struct CAPABILITYSET_API AudioSteepDrop : ElementRecord<AudioSteepDrop>
 /// Abnormal sound.
 struct CAPABILITYSET_API Abnormal : ElementRecord<Abnormal>
 {
-    MinMaxElement sensitivityLevel;
-    std::vector<int> audioMode;  ///< option_codes::kAudioModes
-    bool enable = false;
-    MinMaxElement threshold;
+    MinMaxElement sensitivityLevel;  ///< range of the sensitivity
+    std::vector<int> audioMode;      ///< detection modes, codes of option_codes::kAudioModes
+    bool enable = false;             ///< detection can be enabled
+    MinMaxElement threshold;         ///< range of the sound threshold
 
     Abnormal() = default;
     explicit Abnormal(_xmlNode* element) { Parse(element); }
@@ -193,11 +191,11 @@ struct CAPABILITYSET_API Abnormal : ElementRecord<Abnormal>
 /// Audio detection.
 struct CAPABILITYSET_API VoiceDetection : ElementRecord<VoiceDetection>
 {
-    bool enable = false;
-    Abnormal abnormal;
-    unsigned int alarmTime = 0;  ///< seconds
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
-    AudioSteepDrop audioSteepDrop;
+    bool enable = false;         ///< detection can be enabled
+    Abnormal abnormal;           ///< abnormal sound
+    unsigned int alarmTime = 0;  ///< a count; the device defines its unit
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
+    AudioSteepDrop audioSteepDrop;                             ///< sudden drop of the sound level
 
     VoiceDetection() = default;
     explicit VoiceDetection(_xmlNode* element) { Parse(element); }
@@ -213,12 +211,12 @@ struct CAPABILITYSET_API VoiceDetection : ElementRecord<VoiceDetection>
     }
 };
 
-/// One line whose crossing is detected.
+/// One line for crossing detection.
 struct CAPABILITYSET_API AlertLine : ElementRecord<AlertLine>
 {
-    int id = 0;
-    std::vector<int> crossDirection;  ///< option_codes::kCrossDirections
-    MinMaxElement sensitivityLevel;
+    int id = 0;                       ///< line number
+    std::vector<int> crossDirection;  ///< directions, codes of option_codes::kCrossDirections
+    MinMaxElement sensitivityLevel;   ///< range of the sensitivity
 
     AlertLine() = default;
     explicit AlertLine(_xmlNode* element) { Parse(element); }
@@ -232,17 +230,17 @@ struct CAPABILITYSET_API AlertLine : ElementRecord<AlertLine>
     }
 };
 
-/// Line crossing.
+/// Line crossing detection.
 struct CAPABILITYSET_API TraversingVirtualPlane : ElementRecord<TraversingVirtualPlane>
 {
-    bool enable = false;
-    OptElement<std::string> enableDualVca;
-    unsigned int alertlineNum = 0;
-    MinMaxElement alertlineID;
-    std::vector<std::shared_ptr<AlertLine>> alertLine;
-    unsigned int alarmTime = 0;  ///< seconds
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
-    OptElement<std::string> recogRuleType;
+    bool enable = false;                                ///< detection can be enabled
+    OptElement<std::string> enableDualVca;              ///< options of the dual analysis switch
+    unsigned int alertlineNum = 0;                      ///< number of lines
+    MinMaxElement alertlineID;                          ///< range of the line numbers
+    std::vector<std::shared_ptr<AlertLine>> alertLine;  ///< the lines
+    unsigned int alarmTime = 0;                         ///< a count; the device defines its unit
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
+    OptElement<std::string> recogRuleType;  ///< recognition rules the device offers
 
     TraversingVirtualPlane() = default;
     explicit TraversingVirtualPlane(_xmlNode* element) { Parse(element); }
@@ -261,14 +259,14 @@ struct CAPABILITYSET_API TraversingVirtualPlane : ElementRecord<TraversingVirtua
     }
 };
 
-/// One region whose intrusion is detected.
+/// One region for intrusion detection.
 struct CAPABILITYSET_API Intrusiongion : ElementRecord<Intrusiongion>
 {
-    int id = 0;
-    MinMaxElement regionNum;
-    MinMaxElement duration;
-    MinMaxElement sensitivityLevel;
-    MinMaxElement rate;
+    int id = 0;                      ///< region number
+    MinMaxElement regionNum;         ///< range of "regionNum", as the device defines it
+    MinMaxElement duration;          ///< range of the time a target must stay
+    MinMaxElement sensitivityLevel;  ///< range of the sensitivity
+    MinMaxElement rate;              ///< range of "rate", as the device defines it
 
     Intrusiongion() = default;
     explicit Intrusiongion(_xmlNode* element) { Parse(element); }
@@ -284,16 +282,16 @@ struct CAPABILITYSET_API Intrusiongion : ElementRecord<Intrusiongion>
     }
 };
 
-/// Region intrusion.
+/// Region intrusion detection.
 struct CAPABILITYSET_API FieldDetection : ElementRecord<FieldDetection>
 {
-    bool enable = false;
-    OptElement<std::string> enableDualVca;
-    unsigned int intrusiongionNum = 0;
-    MinMaxElement intrusiongionID;
-    std::vector<std::shared_ptr<Intrusiongion>> intrusiongion;
-    unsigned int alarmTime = 0;  ///< seconds
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
+    bool enable = false;                    ///< detection can be enabled
+    OptElement<std::string> enableDualVca;  ///< options of the dual analysis switch
+    unsigned int intrusiongionNum = 0;      ///< number of regions
+    MinMaxElement intrusiongionID;          ///< range of the region numbers
+    std::vector<std::shared_ptr<Intrusiongion>> intrusiongion;  ///< the regions
+    unsigned int alarmTime = 0;  ///< a count; the device defines its unit
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
 
     FieldDetection() = default;
     explicit FieldDetection(_xmlNode* element) { Parse(element); }
@@ -303,7 +301,7 @@ struct CAPABILITYSET_API FieldDetection : ElementRecord<FieldDetection>
     {
         field("enable", r.enable, as::firstOption);
         field("enableDualVca", r.enableDualVca);
-        // Kept: devices spell it so, here and below.
+        // Kept: devices spell it this way, here and below.
         field("intrusiongionNum", r.intrusiongionNum);
         field("intrusiongionID", r.intrusiongionID);
         field("Intrusiongion", r.intrusiongion, as::repeated);
@@ -312,12 +310,12 @@ struct CAPABILITYSET_API FieldDetection : ElementRecord<FieldDetection>
     }
 };
 
-/// Defocus of the lens.
+/// Defocus detection.
 struct CAPABILITYSET_API DefousDetection : ElementRecord<DefousDetection>
 {
-    bool enable = false;
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
-    MinMaxElement sensitivityLevel;
+    bool enable = false;                                       ///< detection can be enabled
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
+    MinMaxElement sensitivityLevel;                            ///< range of the sensitivity
 
     DefousDetection() = default;
     explicit DefousDetection(_xmlNode* element) { Parse(element); }
@@ -331,14 +329,14 @@ struct CAPABILITYSET_API DefousDetection : ElementRecord<DefousDetection>
     }
 };
 
-/// Change of the scene.
+/// Scene change detection.
 struct CAPABILITYSET_API SceneChangeDetection : ElementRecord<SceneChangeDetection>
 {
-    bool enable = false;
-    MinMaxElement sensitiveLevel;
-    unsigned int alarmTime = 0;  ///< seconds
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
-    bool sceneChangeDetectionRecord = false;
+    bool enable = false;           ///< detection can be enabled
+    MinMaxElement sensitiveLevel;  ///< range of the sensitivity
+    unsigned int alarmTime = 0;    ///< a count; the device defines its unit
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
+    bool sceneChangeDetectionRecord = false;                   ///< detection can start a recording
 
     SceneChangeDetection() = default;
     explicit SceneChangeDetection(_xmlNode* element) { Parse(element); }
@@ -347,7 +345,7 @@ struct CAPABILITYSET_API SceneChangeDetection : ElementRecord<SceneChangeDetecti
     static void Fields(Record& r, Field&& field)
     {
         field("enable", r.enable, as::firstOption);
-        // Kept: devices name it differently from the other events.
+        // Kept: devices do not call it "sensitivityLevel" here.
         field("sensitiveLevel", r.sensitiveLevel);
         field("alarmTime", r.alarmTime);
         field("alarmHandleType", r.alarmHandleType, as::handleTypes);
@@ -358,12 +356,12 @@ struct CAPABILITYSET_API SceneChangeDetection : ElementRecord<SceneChangeDetecti
 /// Reactions to content analysis.
 struct CAPABILITYSET_API VCADetection : ElementRecord<VCADetection>
 {
-    bool enable = false;
-    unsigned int alarmTime = 0;  ///< seconds
-    std::vector<AlarmHandleType::HandleType> alarmHandleType;
-    bool preset = false;
-    bool cruise = false;
-    bool ptzTrack = false;
+    bool enable = false;         ///< analysis can be enabled
+    unsigned int alarmTime = 0;  ///< a count; the device defines its unit
+    std::vector<AlarmHandleType::HandleType> alarmHandleType;  ///< reactions the device offers
+    bool preset = false;                                       ///< can call a preset
+    bool cruise = false;                                       ///< can start a patrol
+    bool ptzTrack = false;                                     ///< can start PTZ tracking
 
     VCADetection() = default;
     explicit VCADetection(_xmlNode* element) { Parse(element); }
@@ -380,42 +378,43 @@ struct CAPABILITYSET_API VCADetection : ElementRecord<VCADetection>
     }
 };
 
-/// The event ability document of a channel.
+/// The event ability document of a channel, root "EventAbility".
 struct CAPABILITYSET_API EventAbility : CBaseCapability
 {
     static constexpr const char* kRoot = "EventAbility";
 
-    unsigned int channelNO = 0;
-    ExceptionAlarm exceptionAlarm;
-    AlarmIn alarmIn;
-    AlarmOut alarmOut;
-    FaceDetection faceDetection;
-    Track track;
-    VoiceDetection voiceDetection;
-    TraversingVirtualPlane traversingVirtualPlane;
-    FieldDetection fieldDetection;
-    DefousDetection defousDetection;
-    SceneChangeDetection sceneChangeDetection;
-    VCADetection vcaDetection;
+    unsigned int channelNO = 0;                     ///< channel the document is about
+    ExceptionAlarm exceptionAlarm;                  ///< device faults
+    AlarmIn alarmIn;                                ///< alarm inputs
+    AlarmOut alarmOut;                              ///< alarm outputs
+    FaceDetection faceDetection;                    ///< face detection
+    Track track;                                    ///< tracking of moving targets
+    VoiceDetection voiceDetection;                  ///< audio detection
+    TraversingVirtualPlane traversingVirtualPlane;  ///< line crossing
+    FieldDetection fieldDetection;                  ///< region intrusion
+    DefousDetection defousDetection;                ///< defocus
+    SceneChangeDetection sceneChangeDetection;      ///< scene change
+    VCADetection vcaDetection;                      ///< reactions to content analysis
 
     EventAbility() = default;
     explicit EventAbility(const std::string& text) { Parse(text); }
     explicit EventAbility(_xmlNode* element) { Parse(element); }
 
-    /// Reads a whole document, root "EventAbility".
+    /// Reads a whole document.
     void Parse(const std::string& text);
+    /// Reads the root element.
     void Parse(_xmlNode* element);
 
-    /// Asks for a channel. True when the device answered; `out.capable` is not examined.
+    /// Device ability 17, EventAbility/channelNO. True even if the document could not be read.
     static bool GetEventAbility(EventAbility& out, unsigned int& err, const int userID,
                                 const unsigned int channel);
 
-    /// Remembers for the process how a channel tracks, under two texts of the caller's choice and
-    /// the channel. The first record saved for a key is kept. Returns true. The memory has no
-    /// lock: callers keep saves and reads from overlapping.
+    /// Caches for the process how a channel tracks. The key is the channel and two texts of the
+    /// caller's choice. The first record saved for a key is kept. Always returns true. No lock: the
+    /// caller must not let cache calls overlap.
     static bool SaveTrackAbility(const Track& track, const std::string& key1,
                                  const std::string& key2, unsigned int channel);
-    /// The remembered record; false, with `out` left alone, when none was saved for the key.
+    /// The cached record. False, with `out` unchanged, if none was saved for the key.
     static bool GetTrackAbility(Track& out, const std::string& key1, const std::string& key2,
                                 unsigned int channel);
 

@@ -1,4 +1,4 @@
-// Which reactions each kind of event may start, and which kinds of event there are.
+// Event triggers: the kinds of event and the reactions to each. Queries.h describes the query.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,23 +13,23 @@ struct _xmlNode;
 namespace CapabilitySet
 {
 
-/// The reactions that one kind of event may start. A flag whose text is neither "true" nor "false"
-/// keeps its value; each element present makes the record capable.
+/// The reactions that one kind of event can trigger. A flag whose text is neither "true" nor
+/// "false" keeps its value. Any element present makes the record capable.
 struct CAPABILITYSET_API EventTriggerCapType : ElementRecord<EventTriggerCapType>
 {
-    bool isSupportCenter = false;           ///< tells the monitoring centre
-    bool isSupportRecord = false;           ///< starts recording
-    bool isSupportMonitorAlarm = false;     ///< warns on the local display
-    bool isSupportBeep = false;             ///< beeps
-    bool isSupportIO = false;               ///< switches outputs
-    bool isSupportFTP = false;              ///< sends pictures to an FTP server
-    bool isSupportEmail = false;            ///< sends mail
-    bool isSupportLightAudioAlarm = false;  ///< lights and sounds
-    bool isSupportFocus = false;            ///< focuses
-    bool isSupportPTZ = false;              ///< moves the camera
-    int maxPresetActionNum = 0;             ///< preset calls that one event may start
-    int maxPatrolActionNum = 0;             ///< patrols
-    int maxPatternActionNum = 0;            ///< patterns
+    bool isSupportCenter = false;           ///< notify the monitoring centre
+    bool isSupportRecord = false;           ///< start recording
+    bool isSupportMonitorAlarm = false;     ///< warn on the local display
+    bool isSupportBeep = false;             ///< beep
+    bool isSupportIO = false;               ///< trigger alarm outputs
+    bool isSupportFTP = false;              ///< upload pictures to an FTP server
+    bool isSupportEmail = false;            ///< send e-mail
+    bool isSupportLightAudioAlarm = false;  ///< flash lights and sound an alarm
+    bool isSupportFocus = false;            ///< focus
+    bool isSupportPTZ = false;              ///< move the camera
+    int maxPresetActionNum = 0;             ///< maximum presets that one event can call
+    int maxPatrolActionNum = 0;             ///< maximum patrols that one event can start
+    int maxPatternActionNum = 0;            ///< maximum patterns that one event can start
 
     EventTriggerCapType() = default;
     explicit EventTriggerCapType(_xmlNode* element) { Parse(element); }
@@ -53,47 +53,48 @@ struct CAPABILITYSET_API EventTriggerCapType : ElementRecord<EventTriggerCapType
     }
 };
 
-/// The event trigger capability document of a channel.
+/// The event trigger capability document of a channel, root "EventTriggersCap".
 struct CAPABILITYSET_API EventTriggerCap : CBaseCapability
 {
     static constexpr const char* kRoot = "EventTriggersCap";
 
-    EventTriggerCapType DiskfullTriggerCap;
-    EventTriggerCapType DiskerrorTriggerCap;
-    EventTriggerCapType NicbrokenTriggerCap;
-    EventTriggerCapType IpconflictTriggerCap;
-    EventTriggerCapType IllaccesTriggerCap;
-    EventTriggerCapType BadvideoTriggerCap;
-    EventTriggerCapType VideomismatchTriggerCap;
-    EventTriggerCapType IOTriggerCap;
-    EventTriggerCapType RegionEntranceTriggerCap;
-    EventTriggerCapType RegionExitingTriggerCap;
-    EventTriggerCapType LoiteringTriggerCap;
-    EventTriggerCapType GroupDetectionTriggerCap;
-    EventTriggerCapType RapidMoveTriggerCap;
-    EventTriggerCapType ParkingTriggerCap;
-    EventTriggerCapType UnattendedBaggageTriggerCap;
-    EventTriggerCapType AttendedBaggageTriggerCap;
-    EventTriggerCapType ThermometryCap;
-    EventTriggerCapType FaceLibTriggerCap;
-    EventTriggerCapType WhiteListTriggerCap;
-    EventTriggerCapType FaceContrastSuccessTriggerCap;
-    EventTriggerCapType FaceContrastFailureTriggerCap;
-    EventTriggerCapType FramesPeopleCountingTriggerCap;
-    EventTriggerCapType HFPDTriggerCap;
-    EventTriggerCapType ObjectsThrownDetectionTriggerCap;
+    EventTriggerCapType DiskfullTriggerCap;                ///< disk full
+    EventTriggerCapType DiskerrorTriggerCap;               ///< disk error
+    EventTriggerCapType NicbrokenTriggerCap;               ///< network interface down
+    EventTriggerCapType IpconflictTriggerCap;              ///< IP address conflict
+    EventTriggerCapType IllaccesTriggerCap;                ///< illegal access
+    EventTriggerCapType BadvideoTriggerCap;                ///< bad video signal
+    EventTriggerCapType VideomismatchTriggerCap;           ///< video standard mismatch
+    EventTriggerCapType IOTriggerCap;                      ///< alarm input
+    EventTriggerCapType RegionEntranceTriggerCap;          ///< entering a region
+    EventTriggerCapType RegionExitingTriggerCap;           ///< leaving a region
+    EventTriggerCapType LoiteringTriggerCap;               ///< loitering
+    EventTriggerCapType GroupDetectionTriggerCap;          ///< people gathering
+    EventTriggerCapType RapidMoveTriggerCap;               ///< fast movement
+    EventTriggerCapType ParkingTriggerCap;                 ///< parking
+    EventTriggerCapType UnattendedBaggageTriggerCap;       ///< unattended baggage
+    EventTriggerCapType AttendedBaggageTriggerCap;         ///< attended baggage
+    EventTriggerCapType ThermometryCap;                    ///< temperature measurement
+    EventTriggerCapType FaceLibTriggerCap;                 ///< face library
+    EventTriggerCapType WhiteListTriggerCap;               ///< face on the allow list
+    EventTriggerCapType FaceContrastSuccessTriggerCap;     ///< face comparison succeeded
+    EventTriggerCapType FaceContrastFailureTriggerCap;     ///< face comparison failed
+    EventTriggerCapType FramesPeopleCountingTriggerCap;    ///< people counting in the picture
+    EventTriggerCapType HFPDTriggerCap;                    ///< human-feature search
+    EventTriggerCapType ObjectsThrownDetectionTriggerCap;  ///< thrown objects
 
     EventTriggerCap() = default;
     explicit EventTriggerCap(const std::string& text) { Parse(text); }
     explicit EventTriggerCap(_xmlNode* element) { Parse(element); }
 
-    /// Reads a whole document, root "EventTriggersCap".
+    /// Reads a whole document.
     void Parse(const std::string& text);
+    /// Reads the root element.
     void Parse(_xmlNode* element);
 
-    /// Asks for a channel. True when the device answered and `out` is capable. Clients pass the
-    /// error slot by value, so they learn of a failure from the result and
-    /// Keel::Error::GetLastError() alone.
+    /// Standard ability 3501. True if the device answered and `out` is capable. The answer may have
+    /// 16,384,000 bytes.
+    // Kept: `err` is taken by value, so callers see the result and the last error only.
     static bool GetEventTriggerCapAbility(EventTriggerCap& out, unsigned int err, int userID,
                                           unsigned int channel);
 
@@ -116,7 +117,7 @@ struct CAPABILITYSET_API EventTriggerCap : CBaseCapability
         field("ParkingTriggerCap", r.ParkingTriggerCap);
         field("UnattendedBaggageTriggerCap", r.UnattendedBaggageTriggerCap);
         field("AttendedBaggageTriggerCap", r.AttendedBaggageTriggerCap);
-        // Kept: devices name this one without "Trigger".
+        // Kept: devices leave "Trigger" out of this name.
         field("ThermometryCap", r.ThermometryCap);
         field("FaceLibTriggerCap", r.FaceLibTriggerCap);
         field("WhiteListTriggerCap", r.WhiteListTriggerCap);
@@ -128,33 +129,35 @@ struct CAPABILITYSET_API EventTriggerCap : CBaseCapability
     }
 };
 
-/// The kinds of event that a device announces in the protocol's own trigger document, root
-/// "EventTriggersCap", which the client fetches itself: true for each element that is present.
+/// The kinds of event in the protocol's own trigger document, root "EventTriggersCap", which the
+/// client fetches itself. A member is true if its element is present.
 struct CAPABILITYSET_API EventTARNAbility : CBaseCapability
 {
     static constexpr const char* kRoot = "EventTriggersCap";
 
-    bool DiskfullTriggerCap = false;
-    bool DiskerrorTriggerCap = false;
-    bool IllaccesTriggerCap = false;
-    bool BlackListTriggerCap = false;
-    bool WhiteListTriggerCap = false;
-    bool VehicleDetectionTriggerCap = false;
-    bool SafetyHelmetDetectionTriggerCap = false;
-    bool HighHDTemperatureTriggerCap = false;
-    bool LowHDTemperatureTriggerCap = false;
-    bool HDImpactTriggerCap = false;
-    bool HDBadBlockTriggerCap = false;
-    bool SevereHDFailureTriggerCap = false;
-    bool WirelessSmokeTriggerCap = false;
-    bool AbnormalRebootTriggerCap = false;
-    bool LogExceptionTriggerCap = false;
+    bool DiskfullTriggerCap = false;               ///< disk full
+    bool DiskerrorTriggerCap = false;              ///< disk error
+    bool IllaccesTriggerCap = false;               ///< illegal access
+    bool BlackListTriggerCap = false;              ///< match on the block list
+    bool WhiteListTriggerCap = false;              ///< match on the allow list
+    bool VehicleDetectionTriggerCap = false;       ///< vehicle detection
+    bool SafetyHelmetDetectionTriggerCap = false;  ///< safety helmet detection
+    bool HighHDTemperatureTriggerCap = false;      ///< disk too hot
+    bool LowHDTemperatureTriggerCap = false;       ///< disk too cold
+    bool HDImpactTriggerCap = false;               ///< shock to a disk
+    bool HDBadBlockTriggerCap = false;             ///< bad blocks on a disk
+    bool SevereHDFailureTriggerCap = false;        ///< severe disk failure
+    bool WirelessSmokeTriggerCap = false;          ///< wireless smoke detector
+    bool AbnormalRebootTriggerCap = false;         ///< unexpected reboot
+    bool LogExceptionTriggerCap = false;           ///< log fault
 
     EventTARNAbility() = default;
     explicit EventTARNAbility(const std::string& text) { Parse(text); }
     explicit EventTARNAbility(_xmlNode* element) { Parse(element); }
 
+    /// Reads a whole document.
     void Parse(const std::string& text);
+    /// Reads the root element.
     void Parse(_xmlNode* element);
 
     template <class Record, class Field>
@@ -178,19 +181,21 @@ struct CAPABILITYSET_API EventTARNAbility : CBaseCapability
     }
 };
 
-/// The event types of a channel, root "ChannelEventCap", a document that the client fetches
-/// itself. Capable when "eventType" is present, be its list empty.
+/// The event types of a channel, root "ChannelEventCap", a document that the client fetches itself.
+/// Capable if "eventType" is present, even if its list is empty.
 struct CAPABILITYSET_API ChannelEventAbility : CBaseCapability
 {
     static constexpr const char* kRoot = "ChannelEventCap";
 
-    OptElement<std::string> eventType;
+    OptElement<std::string> eventType;  ///< event types, as the device names them
 
     ChannelEventAbility() = default;
     explicit ChannelEventAbility(const std::string& text) { Parse(text); }
     explicit ChannelEventAbility(_xmlNode* element) { Parse(element); }
 
+    /// Reads a whole document.
     void Parse(const std::string& text);
+    /// Reads the root element.
     void Parse(_xmlNode* element);
 
     template <class Record, class Field>

@@ -27,9 +27,9 @@ struct CAPABILITYSET_API XmlRecord : CBaseCapability
     /// it until it links it into a parent or a document. Null when memory ran out.
     [[nodiscard]] _xmlNode* CreateXmlNodePtr() const;
 
-    /// The record as a request body; the root gets a "version" attribute unless the version is empty.
-    /// Texts are taken to be in the client's ANSI code page and end at their first NUL; characters
-    /// that XML cannot hold are dropped. Empty when memory ran out.
+    /// The record as a request body; the root gets a "version" attribute unless the version is
+    /// empty. Texts are taken to be in the client's ANSI code page and end at their first NUL;
+    /// characters that XML cannot hold are dropped. Empty when memory ran out.
     [[nodiscard]] std::string createXml() const
         requires requires { Record::kVersion; };
 };

@@ -1,4 +1,4 @@
-// Presets, patterns and patrols of a pan-tilt-zoom channel, and its auto-tracking switch.
+// Presets, patterns and patrols of a PTZ channel, and its auto-tracking switch.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,32 +13,31 @@ struct _xmlNode;
 namespace CapabilitySet
 {
 
-// The client fetches the lists itself and hands the answer's text to the records. A list is
-// appended to, never cleared. A malformed text leaves a list as it was after one error line; a
-// text with another root leaves it so silently.
+// The client fetches the lists itself and passes their text to the records. Parse appends to a
+// list. A malformed text leaves the list as it was, after one error line; a text with another root
+// does so silently. CVelTarnPTZPresetList, CVelTarnPTZPatternList, CVelTarnPTZPatrolList and
+// CVelTarnPTZPatrol read every text as UTF-8, whatever encoding it declares.
 //
-// Clients rely on the order of steps of the readers of CVelTarnPTZPresetList,
-// CVelTarnPTZPatternList and CVelTarnPTZPatrolList, in which the cursor moves on only after an item
-// that has children: an item without any ("<PTZPreset/>") makes them search for ever. A caller that
-// does not trust a device asks HasEmptyItem first. These three and CVelTarnPTZPatrol take every
-// text for UTF-8, whatever it declares.
+// Kept: the first three of these never return from Parse if an item has no children.
+// Clients rely on the order of steps that causes this. Call HasEmptyItem first if the device is not
+// trusted.
 
-/// Whether a preset, pattern or patrol list holds an item without children, on which the readers
-/// named above would never end. False for a text that is no such list. Never throws; a text that
-/// cannot be judged for want of memory counts as one with an empty item.
+/// Whether a preset, pattern or patrol list has an item without children, on which the lists
+/// named above never finish reading. False for a text that is no such list; true if memory runs
+/// out. Never throws.
 CAPABILITYSET_API bool HasEmptyItem(const std::string& text);
 
 /// One preset of the preset configuration list.
 struct CAPABILITYSET_API CPTZPresetCfg : CBaseCapability
 {
-    bool enabled = false;
-    std::string id;
-    std::string presetName;
+    bool enabled = false;    ///< the preset is set
+    std::string id;          ///< preset number, as text
+    std::string presetName;  ///< name shown to users
 
     CPTZPresetCfg() = default;
     explicit CPTZPresetCfg(_xmlNode* firstChild) { Parse(firstChild); }
 
-    /// Reads the item's elements from its first child on; null reads nothing.
+    /// Reads the item's children, starting at the first.
     void Parse(_xmlNode* firstChild);
 
     static constexpr bool kParseTakesFirstChild = true;
@@ -52,17 +51,18 @@ struct CAPABILITYSET_API CPTZPresetCfg : CBaseCapability
     }
 };
 
-/// The preset configuration list, root "PTZPresetList". An item without children is a preset of
-/// defaults.
+/// The preset configuration list, root "PTZPresetList". An item without children becomes a preset
+/// with default values.
 struct CAPABILITYSET_API CPTZPresetListCfg
 {
     static constexpr const char* kRoot = "PTZPresetList";
 
-    std::vector<CPTZPresetCfg> presets;
+    std::vector<CPTZPresetCfg> presets;  ///< presets, in document order
 
     CPTZPresetListCfg() = default;
     explicit CPTZPresetListCfg(const std::string& text) { Parse(text); }
 
+    /// Appends the items of a document.
     void Parse(const std::string& text);
 
     template <class Record, class Field>
@@ -75,18 +75,17 @@ struct CAPABILITYSET_API CPTZPresetListCfg
 /// One preset with its absolute position.
 struct CAPABILITYSET_API CVelTarnPTZPresetInfo
 {
-    bool enabled = false;
-    std::string id;
+    bool enabled = false;    ///< the preset is set
+    std::string id;          ///< preset number, as text
     std::string presetName;  ///< for the client's use, never read from a document
-    int elevation = 0;       ///< tenths of a degree
-    int azimuth = 0;         ///< tenths of a degree
-    int absoluteZoom = 0;    ///< tenths
+    int elevation = 0;       ///< tilt, tenths of a degree
+    int azimuth = 0;         ///< pan, tenths of a degree
+    int absoluteZoom = 0;    ///< zoom, tenths
 
     CVelTarnPTZPresetInfo() = default;
     explicit CVelTarnPTZPresetInfo(_xmlNode* firstChild) { Parse(firstChild); }
 
-    /// Reads the item's elements from its first child on; the position stands in a nested
-    /// "AbsoluteHigh". Null reads nothing.
+    /// Reads the item's children, starting at the first; the position is in "AbsoluteHigh".
     void Parse(_xmlNode* firstChild);
 
     static constexpr bool kParseTakesFirstChild = true;
@@ -107,11 +106,12 @@ struct CAPABILITYSET_API CVelTarnPTZPresetList
 {
     static constexpr const char* kRoot = "PTZPresetList";
 
-    std::vector<CVelTarnPTZPresetInfo> presets;
+    std::vector<CVelTarnPTZPresetInfo> presets;  ///< presets, in document order
 
     CVelTarnPTZPresetList() = default;
     explicit CVelTarnPTZPresetList(const std::string& text) { Parse(text); }
 
+    /// Appends the items of a document.
     void Parse(const std::string& text);
 
     template <class Record, class Field>
@@ -124,13 +124,14 @@ struct CAPABILITYSET_API CVelTarnPTZPresetList
 /// One recorded movement.
 struct CAPABILITYSET_API CVelTarnPTZPattern
 {
-    bool enabled = false;
-    int id = 0;
-    int space = 0;  ///< memory that is left for it, percent
+    bool enabled = false;  ///< the pattern is set
+    int id = 0;            ///< pattern number
+    int space = 0;         ///< recording space, percent
 
     CVelTarnPTZPattern() = default;
     explicit CVelTarnPTZPattern(_xmlNode* firstChild) { Parse(firstChild); }
 
+    /// Reads the item's children, starting at the first.
     void Parse(_xmlNode* firstChild);
 
     static constexpr bool kParseTakesFirstChild = true;
@@ -149,11 +150,12 @@ struct CAPABILITYSET_API CVelTarnPTZPatternList
 {
     static constexpr const char* kRoot = "PTZPatternList";
 
-    std::vector<CVelTarnPTZPattern> patterns;
+    std::vector<CVelTarnPTZPattern> patterns;  ///< patterns, in document order
 
     CVelTarnPTZPatternList() = default;
     explicit CVelTarnPTZPatternList(const std::string& text) { Parse(text); }
 
+    /// Appends the items of a document.
     void Parse(const std::string& text);
 
     template <class Record, class Field>
@@ -166,13 +168,14 @@ struct CAPABILITYSET_API CVelTarnPTZPatternList
 /// One step of a patrol.
 struct CAPABILITYSET_API CVelTarnPTZPatrolPresetInfo
 {
-    std::string presetID;
-    std::string seqSpeed;
-    int delay = 0;  ///< milliseconds at the preset
+    std::string presetID;  ///< number of the preset, as text
+    std::string seqSpeed;  ///< speed of the move, as the device defines it
+    int delay = 0;         ///< stay at the preset; the device defines the unit
 
     CVelTarnPTZPatrolPresetInfo() = default;
     explicit CVelTarnPTZPatrolPresetInfo(_xmlNode* firstChild) { Parse(firstChild); }
 
+    /// Reads the item's children, starting at the first.
     void Parse(_xmlNode* firstChild);
 
     static constexpr bool kParseTakesFirstChild = true;
@@ -186,21 +189,22 @@ struct CAPABILITYSET_API CVelTarnPTZPatrolPresetInfo
     }
 };
 
-/// A sequence of presets.
+/// A sequence of presets, root "PTZPatrol".
 struct CAPABILITYSET_API CVelTarnPTZPatrol
 {
     static constexpr const char* kRoot = "PTZPatrol";
 
-    bool enabled = false;
-    std::string id;
-    std::vector<CVelTarnPTZPatrolPresetInfo> steps;
+    bool enabled = false;                            ///< the patrol is set
+    std::string id;                                  ///< patrol number, as text
+    std::vector<CVelTarnPTZPatrolPresetInfo> steps;  ///< "PatrolSequenceList", in order
 
     CVelTarnPTZPatrol() = default;
     explicit CVelTarnPTZPatrol(const std::string& text) { Parse(text); }
     explicit CVelTarnPTZPatrol(_xmlNode* firstChild) { Parse(firstChild); }
 
-    /// Reads a whole document, root "PTZPatrol".
+    /// Reads a whole document. Appends to `steps`.
     void Parse(const std::string& text);
+    /// Reads the item's children, starting at the first.
     void Parse(_xmlNode* firstChild);
 
     static constexpr bool kParseTakesFirstChild = true;
@@ -219,11 +223,12 @@ struct CAPABILITYSET_API CVelTarnPTZPatrolList
 {
     static constexpr const char* kRoot = "PTZPatrolList";
 
-    std::vector<CVelTarnPTZPatrol> patrols;
+    std::vector<CVelTarnPTZPatrol> patrols;  ///< patrols, in document order
 
     CVelTarnPTZPatrolList() = default;
     explicit CVelTarnPTZPatrolList(const std::string& text) { Parse(text); }
 
+    /// Appends the items of a document.
     void Parse(const std::string& text);
 
     template <class Record, class Field>
@@ -236,19 +241,20 @@ struct CAPABILITYSET_API CVelTarnPTZPatrolList
 /// Whether a channel follows moving targets by itself.
 struct CAPABILITYSET_API CVelTarnPTZAutoTracking
 {
-    bool enabled = false;
+    bool enabled = false;  ///< auto-tracking is on
 
     CVelTarnPTZAutoTracking() = default;
     explicit CVelTarnPTZAutoTracking(const std::string& text) { Parse(text); }
 
-    /// Reads a JSON answer. False, with the flag left alone, when it holds no readable
+    /// Reads a JSON answer. False, with the flag unchanged, if it has no readable
     /// "MoveAutoTracking". Never throws.
     bool Parse(const std::string& text);
 
-    /// Switches tracking on or off. Failures are told by false and log lines alone; the channel is
-    /// the SDK's number.
+    /// PUT /TARN/PTZCtrl/channels/{channel}/moveAutoTracking?format=json, with the switch as body.
+    /// Failures are reported by false and log lines only.
     static bool SetAutoTrackingState(const int userID, const int channel, bool enable);
-    /// Reads the switch into `out`, which is left alone on failure.
+    /// GET /TARN/PTZCtrl/channels/{channel}/moveAutoTracking?format=json. Leaves `out` unchanged on
+    /// failure, which is reported as above.
     static bool GetAutoTrackingState(const int userID, const int channel,
                                      CVelTarnPTZAutoTracking& out);
 

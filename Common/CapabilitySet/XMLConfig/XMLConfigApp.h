@@ -14,12 +14,12 @@
 namespace CapabilitySet
 {
 
-/// The tracks to search, such as "101" for the main stream of channel 1.
+/// The tracks to search.
 struct CAPABILITYSET_API TrackIDList : XmlRecord<TrackIDList>
 {
     static constexpr const char* kElement = "trackIDList";
 
-    std::vector<std::string> trackID;
+    std::vector<std::string> trackID;  ///< such as "101", the main stream of channel 1
 
     TrackIDList() = default;
     explicit TrackIDList(_xmlNode* element) { Parse(element); }
@@ -31,13 +31,13 @@ struct CAPABILITYSET_API TrackIDList : XmlRecord<TrackIDList>
     }
 };
 
-/// A span of time, each end as "2020-01-01T00:00:00Z".
+/// A span of time.
 struct CAPABILITYSET_API TimeSpan : XmlRecord<TimeSpan>
 {
     static constexpr const char* kElement = "timeSpan";
 
-    std::string startTime;
-    std::string endTime;
+    std::string startTime;  ///< ISO 8601, such as "2020-01-01T00:00:00Z"
+    std::string endTime;    ///< ISO 8601, likewise
 
     TimeSpan() = default;
     explicit TimeSpan(_xmlNode* element) { Parse(element); }
@@ -50,11 +50,12 @@ struct CAPABILITYSET_API TimeSpan : XmlRecord<TimeSpan>
     }
 };
 
+/// The time spans to search.
 struct CAPABILITYSET_API SearchTimeSpanList : XmlRecord<SearchTimeSpanList>
 {
     static constexpr const char* kElement = "timeSpanList";
 
-    std::vector<std::shared_ptr<TimeSpan>> timeSpan;
+    std::vector<std::shared_ptr<TimeSpan>> timeSpan;  ///< spans, in order
 
     SearchTimeSpanList() = default;
     explicit SearchTimeSpanList(_xmlNode* element) { Parse(element); }
@@ -66,12 +67,12 @@ struct CAPABILITYSET_API SearchTimeSpanList : XmlRecord<SearchTimeSpanList>
     }
 };
 
-/// One kind of content, by the slot it is stored in.
+/// A kind of content, by its slot.
 struct CAPABILITYSET_API ContentType : XmlRecord<ContentType>
 {
     static constexpr const char* kElement = "contentType";
 
-    int slotNo = 0;
+    int slotNo = 0;  ///< slot number, as the device defines it
 
     ContentType() = default;
     explicit ContentType(_xmlNode* element) { Parse(element); }
@@ -83,11 +84,12 @@ struct CAPABILITYSET_API ContentType : XmlRecord<ContentType>
     }
 };
 
+/// The kinds of content to search.
 struct CAPABILITYSET_API ContentTypeList : XmlRecord<ContentTypeList>
 {
     static constexpr const char* kElement = "contentTypeList";
 
-    std::vector<std::shared_ptr<ContentType>> contentType;
+    std::vector<std::shared_ptr<ContentType>> contentType;  ///< kinds, in order
 
     ContentTypeList() = default;
     explicit ContentTypeList(_xmlNode* element) { Parse(element); }
@@ -99,12 +101,12 @@ struct CAPABILITYSET_API ContentTypeList : XmlRecord<ContentTypeList>
     }
 };
 
-/// One kind of metadata, by the slot it is stored in.
+/// A kind of metadata, by its slot.
 struct CAPABILITYSET_API MetaData : XmlRecord<MetaData>
 {
     static constexpr const char* kElement = "metadataDescriptor";
 
-    int slotNo = 0;
+    int slotNo = 0;  ///< slot number, as the device defines it
 
     MetaData() = default;
     explicit MetaData(_xmlNode* element) { Parse(element); }
@@ -116,11 +118,12 @@ struct CAPABILITYSET_API MetaData : XmlRecord<MetaData>
     }
 };
 
+/// The kinds of metadata to search.
 struct CAPABILITYSET_API MetaDataList : XmlRecord<MetaDataList>
 {
     static constexpr const char* kElement = "metadataList";
 
-    std::vector<std::shared_ptr<MetaData>> metadataDescriptor;
+    std::vector<std::shared_ptr<MetaData>> metadataDescriptor;  ///< kinds, in order
 
     MetaDataList() = default;
     explicit MetaDataList(_xmlNode* element) { Parse(element); }
@@ -138,13 +141,13 @@ struct CAPABILITYSET_API CMSearchDescription : XmlRecord<CMSearchDescription>
     static constexpr const char* kElement = "CMSearchDescription";
     static constexpr const char* kVersion = "1.0";
 
-    std::string searchID;  ///< of the client's choice, the same for all pages of one search
-    TrackIDList trackIDList;
-    SearchTimeSpanList timeSpanList;
-    ContentTypeList contentTypeList;
-    int maxResults = 0;            ///< size of a page
-    int searchResultPosition = 0;  ///< index of the first result wanted
-    MetaDataList metadataList;
+    std::string searchID;             ///< chosen by the client, the same for all pages of a search
+    TrackIDList trackIDList;          ///< tracks to search
+    SearchTimeSpanList timeSpanList;  ///< time spans to search
+    ContentTypeList contentTypeList;  ///< kinds of content to search
+    int maxResults = 0;               ///< page size
+    int searchResultPosition = 0;     ///< index of the first result wanted, from 0
+    MetaDataList metadataList;        ///< kinds of metadata to search
 
     CMSearchDescription() = default;
     explicit CMSearchDescription(const std::string& text) { Parse(text); }
@@ -163,7 +166,7 @@ struct CAPABILITYSET_API CMSearchDescription : XmlRecord<CMSearchDescription>
     }
 };
 
-/// One page of a search's result, as the device tells it.
+/// One page of a search result.
 struct CAPABILITYSET_API CMSearchResult : AbilityRecord<CMSearchResult>
 {
     static constexpr const char* kRoot = "CMSearchResult";
@@ -178,8 +181,8 @@ public:
     /// The body of a content search; empty when memory ran out.
     static std::string MakeSearchDesXML(const CMSearchDescription& description);
 
-    /// Asks for one page of a search. `out` is reset first and stays at its defaults on failure; a
-    /// device that answers with anything but a search result is error 23 of type 2.
+    /// POST /TARN/ContentMgmt/search, with the description as body. Fills one page. See
+    /// ParamInterface for results and errors.
     static ParseXmlHelper::InterfaceRet SearchContent(const CMSearchDescription& description,
                                                       CMSearchResult& out, const int userID);
 };

@@ -12,22 +12,22 @@
 namespace CapabilitySet
 {
 
-/// An application installed on a device.
+/// One application installed on a device.
 struct CAPABILITYSET_API App : XmlRecord<App>
 {
     static constexpr const char* kElement = "App";
     static constexpr const char* kVersion = "2.0";
 
-    int id = 0;         ///< its place in the list, from 1
-    std::string AppID;  ///< its name in the whole world
-    std::string packageName;
-    std::string softVersion;
+    int id = 0;                 ///< place in the list, from 1
+    std::string AppID;          ///< identifier, unique worldwide
+    std::string packageName;    ///< name of the package
+    std::string softVersion;    ///< version, such as "V1.4.0"
     std::string runStatus;      ///< such as "running" or "stopped"
     std::string licenseStatus;  ///< such as "licensed", "trial" or "expired"
-    std::string expireTime;     ///< of the licence; empty: never
+    std::string expireTime;     ///< ISO 8601, end of the licence; empty if it does not end
     int cpuUtilization = 0;     ///< percent
-    double memoryUsage = 0;     ///< megabytes
-    double diskUsage = 0;       ///< megabytes
+    double memoryUsage = 0;     ///< MB
+    double diskUsage = 0;       ///< MB
 
     App() = default;
     explicit App(const std::string& text) { Parse(text); }
@@ -49,12 +49,13 @@ struct CAPABILITYSET_API App : XmlRecord<App>
     }
 };
 
+/// The applications installed on a device.
 struct CAPABILITYSET_API AppList : XmlRecord<AppList>
 {
     static constexpr const char* kElement = "AppList";
     static constexpr const char* kVersion = "2.0";
 
-    std::vector<std::shared_ptr<App>> app;
+    std::vector<std::shared_ptr<App>> app;  ///< one per application
 
     AppList() = default;
     explicit AppList(const std::string& text) { Parse(text); }

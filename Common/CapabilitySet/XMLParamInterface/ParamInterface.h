@@ -1,4 +1,4 @@
-// Settings and states of switches, wireless links and systems, asked for and set.
+// Settings and states of switches, wireless links and systems.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,35 +11,50 @@
 namespace CapabilitySet
 {
 
-/// Requests through SDKInterfaceManager, whose callbacks hear of what the SDK or the device refuse.
+/// Requests sent through SDKInterfaceManager; its callbacks are told what the SDK or the device
+/// refuses.
 ///
-/// A query resets `out` first; it stays at its defaults on failure. Error 23 of type 2 stands for
-/// an answer that is no document of the record asked for, for memory that ran out, and for a
-/// setting that could not be written; the callbacks do not hear of these. A setting is sent whole,
-/// each member as it stands, in the record's version: a client that changes one member asks for the
-/// others first. Every operation may be called from any thread.
+/// A query resets `out` first; `out` stays at its defaults on failure. Error 23 of type 2 means
+/// that the answer is not the record asked for, that memory ran out, or that a setting could not be
+/// written; the callbacks are not told of these. Settings are sent whole, in the record's version:
+/// to change one member, get the record first. Every operation may be called from any thread.
 class CAPABILITYSET_API ParamInterface
 {
 public:
+    /// GET /TARN/Transfers/Switches/basicInfo
     static ParseXmlHelper::InterfaceRet GetSwitchesBasicInfo(SwitchesBasicInfo& out,
                                                              const int userID);
+    /// PUT /TARN/Transfers/Switches/basicInfo
     static ParseXmlHelper::InterfaceRet SetSwitchesBasicInfo(const SwitchesBasicInfo& info,
                                                              const int userID);
+    /// GET /TARN/Transfers/Switches/portCfg/portRate/
+    // Kept: switches answer this path only with its trailing slash, here and below.
     static ParseXmlHelper::InterfaceRet GetPortRates(PortRateList& out, const int userID);
+    /// PUT /TARN/Transfers/Switches/portCfg/portRate/
     static ParseXmlHelper::InterfaceRet SetPortRates(const PortRateList& rates, const int userID);
+    /// GET /TARN/Transfers/Switches/portCfg/portInfo
     static ParseXmlHelper::InterfaceRet GetPortInfo(PortInfoList& out, const int userID);
+    /// POST /TARN/Transfers/Switches/workState/search, with the condition as body. Fills one page.
     static ParseXmlHelper::InterfaceRet SearchSwitchesWorkState(
         const SwitchesWorkStateSearchCond& condition, SwitchesWorkStateSearchResult& out,
         const int userID);
+    /// GET /TARN/Transfers/Switches/wireless
     static ParseXmlHelper::InterfaceRet GetWireless(Wireless& out, const int userID);
+    /// PUT /TARN/Transfers/Switches/wireless
     static ParseXmlHelper::InterfaceRet SetWireless(const Wireless& wireless, const int userID);
+    /// GET /TARN/Transfers/Switches/region
     static ParseXmlHelper::InterfaceRet GetBridgeRegion(CBridgeRegion& out, const int userID);
+    /// PUT /TARN/Transfers/Switches/region
     static ParseXmlHelper::InterfaceRet SetBridgeRegion(const CBridgeRegion& region,
                                                         const int userID);
+    /// GET /TARN/System/discoveryMode
     static ParseXmlHelper::InterfaceRet GetDiscoveryMode(DiscoveryMode& out, const int userID);
+    /// PUT /TARN/System/discoveryMode
     static ParseXmlHelper::InterfaceRet SetDiscoveryMode(const DiscoveryMode& mode,
                                                          const int userID);
+    /// GET /TARN/System/status
     static ParseXmlHelper::InterfaceRet GetDeviceStatus(DeviceStatus& out, const int userID);
+    /// GET /TARN/System/App
     static ParseXmlHelper::InterfaceRet GetApps(AppList& out, const int userID);
 };
 

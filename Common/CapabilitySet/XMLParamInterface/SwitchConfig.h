@@ -18,7 +18,7 @@ struct CAPABILITYSET_API SwitchGateway : XmlRecord<SwitchGateway>
 {
     static constexpr const char* kElement = "DefaultGateway";
 
-    std::string ipAddress;
+    std::string ipAddress;  ///< address of the gateway
 
     SwitchGateway() = default;
     explicit SwitchGateway(_xmlNode* element) { Parse(element); }
@@ -30,16 +30,16 @@ struct CAPABILITYSET_API SwitchGateway : XmlRecord<SwitchGateway>
     }
 };
 
-/// How a switch is reached.
+/// The network address of a switch.
 struct CAPABILITYSET_API SwitchAddress : XmlRecord<SwitchAddress>
 {
     static constexpr const char* kElement = "IPAddress";
 
-    std::string ipVersion;       ///< "v4", "v6" or "dual"
-    std::string addressingType;  ///< "static" or "dynamic"
-    std::string ipAddress;
-    std::string subnetMask;
-    SwitchGateway DefaultGateway;
+    std::string ipVersion;         ///< "v4", "v6" or "dual"
+    std::string addressingType;    ///< "static" or "dynamic"
+    std::string ipAddress;         ///< address of the switch
+    std::string subnetMask;        ///< such as "255.255.255.0"
+    SwitchGateway DefaultGateway;  ///< the gateway
 
     SwitchAddress() = default;
     explicit SwitchAddress(_xmlNode* element) { Parse(element); }
@@ -55,18 +55,18 @@ struct CAPABILITYSET_API SwitchAddress : XmlRecord<SwitchAddress>
     }
 };
 
-/// What a switch is, and its settings as a whole.
+/// Type and settings of a switch.
 struct CAPABILITYSET_API SwitchesBasicInfo : XmlRecord<SwitchesBasicInfo>
 {
     static constexpr const char* kElement = "SwitchesBasicInfo";
     static constexpr const char* kVersion = "v2.0";
 
-    int devType = 0;  ///< the maker's number of the kind of switch
-    std::string strDevTypeName;
-    int portNum = 0;     ///< number of ports
-    int macAging = 0;    ///< seconds that an idle address stays in the table
-    int manageVlan = 0;  ///< VLAN of the management address
-    SwitchAddress IPAddress;
+    int devType = 0;             ///< type number, as the maker assigns it
+    std::string strDevTypeName;  ///< name of the type
+    int portNum = 0;             ///< number of ports
+    int macAging = 0;            ///< seconds an idle address stays in the table
+    int manageVlan = 0;          ///< VLAN of the management address
+    SwitchAddress IPAddress;     ///< network address
 
     SwitchesBasicInfo() = default;
     explicit SwitchesBasicInfo(const std::string& text) { Parse(text); }
@@ -84,14 +84,14 @@ struct CAPABILITYSET_API SwitchesBasicInfo : XmlRecord<SwitchesBasicInfo>
     }
 };
 
-/// The limits of one port.
+/// The rate limits of one port.
 struct CAPABILITYSET_API PortRate : XmlRecord<PortRate>
 {
     static constexpr const char* kElement = "PortRate";
 
-    int id = 0;            ///< number of the port, from 1
-    int uplinkRate = 0;    ///< into the switch, kbit/s, 0: no limit
-    int downlinkRate = 0;  ///< out of the switch, kbit/s, 0: no limit
+    int id = 0;            ///< port number, from 1
+    int uplinkRate = 0;    ///< into the switch, kbit/s; 0: no limit
+    int downlinkRate = 0;  ///< out of the switch, kbit/s; 0: no limit
 
     PortRate() = default;
     explicit PortRate(_xmlNode* element) { Parse(element); }
@@ -105,12 +105,13 @@ struct CAPABILITYSET_API PortRate : XmlRecord<PortRate>
     }
 };
 
+/// The rate limits of all ports.
 struct CAPABILITYSET_API PortRateList : XmlRecord<PortRateList>
 {
     static constexpr const char* kElement = "PortRateList";
     static constexpr const char* kVersion = "v2.0";
 
-    std::vector<std::shared_ptr<PortRate>> portRate;
+    std::vector<std::shared_ptr<PortRate>> portRate;  ///< one per port
 
     PortRateList() = default;
     explicit PortRateList(const std::string& text) { Parse(text); }
@@ -123,15 +124,15 @@ struct CAPABILITYSET_API PortRateList : XmlRecord<PortRateList>
     }
 };
 
-/// One port.
+/// Name and link of one port.
 struct CAPABILITYSET_API PortInfo : XmlRecord<PortInfo>
 {
     static constexpr const char* kElement = "PortInfo";
 
-    int id = 0;  ///< number of the port, from 1
-    std::string portName;
-    std::string speed;     ///< as the switch words it, such as "1000M"
-    std::string portType;  ///< as the switch words it, such as "electric" or "optical"
+    int id = 0;            ///< port number, from 1
+    std::string portName;  ///< name shown to users
+    std::string speed;     ///< such as "1000M", or "down"
+    std::string portType;  ///< such as "electric" or "optical"
 
     PortInfo() = default;
     explicit PortInfo(_xmlNode* element) { Parse(element); }
@@ -146,11 +147,12 @@ struct CAPABILITYSET_API PortInfo : XmlRecord<PortInfo>
     }
 };
 
+/// Name and link of all ports.
 struct CAPABILITYSET_API PortInfoList : XmlRecord<PortInfoList>
 {
     static constexpr const char* kElement = "PortInfoList";
 
-    std::vector<std::shared_ptr<PortInfo>> portInfo;
+    std::vector<std::shared_ptr<PortInfo>> portInfo;  ///< one per port
 
     PortInfoList() = default;
     explicit PortInfoList(const std::string& text) { Parse(text); }
@@ -163,15 +165,15 @@ struct CAPABILITYSET_API PortInfoList : XmlRecord<PortInfoList>
     }
 };
 
-/// Which page of the switches' work states.
+/// Which page of the switches' work states to search.
 struct CAPABILITYSET_API SwitchesWorkStateSearchCond : XmlRecord<SwitchesWorkStateSearchCond>
 {
     static constexpr const char* kElement = "SwitchesWorkStateSearchCond";
     static constexpr const char* kVersion = "v2.0";
 
-    std::string searchID;     ///< of the client's choice, the same for all pages of one search
-    int maxMatchResults = 0;  ///< size of a page
-    int searchResultsPosition = 0;  ///< index of the first result wanted
+    std::string searchID;           ///< chosen by the client, the same for all pages
+    int maxMatchResults = 0;        ///< page size
+    int searchResultsPosition = 0;  ///< index of the first result wanted, from 0
 
     SwitchesWorkStateSearchCond() = default;
     explicit SwitchesWorkStateSearchCond(const std::string& text) { Parse(text); }
@@ -186,7 +188,7 @@ struct CAPABILITYSET_API SwitchesWorkStateSearchCond : XmlRecord<SwitchesWorkSta
     }
 };
 
-/// One page of the switches' work states, as the device tells it.
+/// One page of the switches' work states.
 struct CAPABILITYSET_API SwitchesWorkStateSearchResult
     : AbilityRecord<SwitchesWorkStateSearchResult>
 {

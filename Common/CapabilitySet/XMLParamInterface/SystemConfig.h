@@ -1,4 +1,4 @@
-// How a device is found on the network, and how it is doing.
+// Discovery settings and system status of a device.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,22 +12,22 @@
 namespace CapabilitySet
 {
 
-/// By which protocols a device can be found.
+/// The protocols by which a device can be discovered.
 struct CAPABILITYSET_API DiscoveryMode : XmlRecord<DiscoveryMode>
 {
     static constexpr const char* kElement = "DiscoveryMode";
     static constexpr const char* kVersion = "v2.0";
 
-    bool ONVIFDiscoveryMode = false;
-    bool TARNDiscoveryMode = false;  ///< the device protocol's own
-    bool PcapMode = false;           ///< answers raw frames
-    bool SADP = false;
+    bool ONVIFDiscoveryMode = false;  ///< ONVIF discovery
+    bool TARNDiscoveryMode = false;   ///< the device protocol's own discovery
+    bool PcapMode = false;            ///< discovery by raw frames
+    bool SADP = false;                ///< the device discovery protocol
 
     DiscoveryMode() = default;
     explicit DiscoveryMode(const std::string& text) { Parse(text); }
     explicit DiscoveryMode(_xmlNode* element) { Parse(element); }
 
-    /// The same as createXml(), under the name that clients know.
+    /// The same as createXml(), under the name that clients use.
     [[nodiscard]] std::string createString() const { return createXml(); }
 
     template <class Record, class Field>
@@ -40,12 +40,13 @@ struct CAPABILITYSET_API DiscoveryMode : XmlRecord<DiscoveryMode>
     }
 };
 
+/// One temperature sensor.
 struct CAPABILITYSET_API TemperatureSensor : XmlRecord<TemperatureSensor>
 {
     static constexpr const char* kElement = "Temperature";
 
-    std::string tempSensorDescription;
-    double temperature = 0;  ///< degrees Celsius
+    std::string tempSensorDescription;  ///< where the sensor is
+    double temperature = 0;             ///< degrees Celsius
 
     TemperatureSensor() = default;
     explicit TemperatureSensor(_xmlNode* element) { Parse(element); }
@@ -58,12 +59,13 @@ struct CAPABILITYSET_API TemperatureSensor : XmlRecord<TemperatureSensor>
     }
 };
 
+/// One fan.
 struct CAPABILITYSET_API FanStatus : XmlRecord<FanStatus>
 {
     static constexpr const char* kElement = "Fan";
 
-    std::string fanDescription;
-    int speed = 0;  ///< turns a minute
+    std::string fanDescription;  ///< which fan it is
+    int speed = 0;               ///< revolutions per minute
 
     FanStatus() = default;
     explicit FanStatus(_xmlNode* element) { Parse(element); }
@@ -76,12 +78,13 @@ struct CAPABILITYSET_API FanStatus : XmlRecord<FanStatus>
     }
 };
 
+/// One pressure sensor.
 struct CAPABILITYSET_API PressureSensor : XmlRecord<PressureSensor>
 {
     static constexpr const char* kElement = "Pressure";
 
-    std::string pressureSensorDescription;
-    double pressure = 0;  ///< kilopascal
+    std::string pressureSensorDescription;  ///< where the sensor is
+    double pressure = 0;                    ///< kPa
 
     PressureSensor() = default;
     explicit PressureSensor(_xmlNode* element) { Parse(element); }
@@ -94,16 +97,16 @@ struct CAPABILITYSET_API PressureSensor : XmlRecord<PressureSensor>
     }
 };
 
-/// How a device is doing.
+/// The system status of a device.
 struct CAPABILITYSET_API DeviceStatus : XmlRecord<DeviceStatus>
 {
     static constexpr const char* kElement = "DeviceStatus";
 
-    std::string currentDeviceTime;  ///< such as "2020-01-01T00:00:00+01:00"
-    int deviceUpTime = 0;           ///< seconds
-    std::vector<std::shared_ptr<TemperatureSensor>> TemperatureList;
-    std::vector<std::shared_ptr<FanStatus>> FanList;
-    std::vector<std::shared_ptr<PressureSensor>> PressureList;
+    std::string currentDeviceTime;  ///< ISO 8601, such as "2020-01-01T00:00:00+01:00"
+    int deviceUpTime = 0;           ///< seconds since the device started
+    std::vector<std::shared_ptr<TemperatureSensor>> TemperatureList;  ///< temperature sensors
+    std::vector<std::shared_ptr<FanStatus>> FanList;                  ///< fans
+    std::vector<std::shared_ptr<PressureSensor>> PressureList;        ///< pressure sensors
 
     DeviceStatus() = default;
     explicit DeviceStatus(const std::string& text) { Parse(text); }
