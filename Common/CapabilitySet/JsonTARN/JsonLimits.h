@@ -1,4 +1,4 @@
-// The limits and options of a JSON capability member.
+// Limits and options of a JSON capability member.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,14 +10,14 @@
 namespace CapabilitySet
 {
 
-/// The keys "@min", "@max", "@def" and "@opt" of a member; those that are missing are 0 or empty.
+/// The keys "@min", "@max", "@def" and "@opt" of a member. A missing key reads as 0 or empty.
 template <class Limit, class Default>
 struct CAPABILITYSET_API JsonLimitsOf : JsonPart<JsonLimitsOf<Limit, Default>>
 {
-    Limit min{};
-    Limit max{};
-    Default def{};
-    std::vector<std::string> opt;
+    Limit min{};                   ///< "@min": lower limit
+    Limit max{};                   ///< "@max": upper limit
+    Default def{};                 ///< "@def": default
+    std::vector<std::string> opt;  ///< "@opt": options, in the device's order
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -29,11 +29,11 @@ struct CAPABILITYSET_API JsonLimitsOf : JsonPart<JsonLimitsOf<Limit, Default>>
     }
 };
 
-/// Of a number.
+/// Limits of a number.
 using JsonLimits = JsonLimitsOf<int, int>;
-/// Of a text: how long it is, and what it is unless told.
+/// Limits of a text: its length, and its default.
 using JsonTextLimits = JsonLimitsOf<int, std::string>;
-/// Of a time; limits and default are as the device writes them.
+/// Limits of a time, as the device writes times.
 using JsonTimeLimits = JsonLimitsOf<std::string, std::string>;
 
 }  // namespace CapabilitySet

@@ -1,4 +1,4 @@
-// The device's response status in JSON: the answer to a request that changes something.
+// The protocol's JSON response status: the answer to a request that changes something.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -16,23 +16,24 @@ class Value;
 namespace CapabilitySet
 {
 
-/// What a device says of a request it carried out or refused. The library never judges it: an
-/// operation that was answered returns true whatever the status holds.
+/// What a device says about a request it carried out or refused. Operations do not judge it: they
+/// return true whenever the device answered.
 struct CAPABILITYSET_API JsonStatus
 {
-    std::string requestURL;
-    std::int32_t statusCode = 0;  ///< 1 stands for success; 0 when the device sent none
-    std::string statusString;
-    // Kept: devices send words here, so it is text beside two numbers.
-    std::string subStatusCode;
-    std::int32_t errorCode = 0;
-    std::string errorMsg;
+    std::string requestURL;       ///< target of the request
+    std::int32_t statusCode = 0;  ///< 1: success; 0: the device sent none
+    std::string statusString;     ///< status in words
+    // Kept: text beside two numbers, because devices send a word.
+    std::string subStatusCode;   ///< reason, a word such as "badParameters"
+    std::int32_t errorCode = 0;  ///< error number, as the device defines it
+    std::string errorMsg;        ///< error in words
 
     JsonStatus() = default;
+    /// Reads an answer; an empty text gives the defaults.
     explicit JsonStatus(const std::string& text);
 
-    /// Resets the record, then reads an answer. At a member of the wrong kind reading ends: those
-    /// before it keep what was read, those after it their defaults. Never throws.
+    /// Resets the record, then reads an answer. Reading ends at a member of the wrong kind: members
+    /// before it keep what was read, the others their defaults. Never throws.
     void Parse(const std::string& text);
 
     /// Always empty: a status is never sent.
@@ -53,14 +54,15 @@ struct CAPABILITYSET_API JsonStatus
 /// One entry of the error list of a batch request.
 struct CAPABILITYSET_API JsonErrorStatus
 {
-    std::string id;             ///< decimal number of the entry that failed
-    std::string subStatusCode;  ///< always empty
+    std::string id;             ///< number of the entry that failed, in decimal
+    std::string subStatusCode;  ///< always empty after Parse
 
     JsonErrorStatus() = default;
+    /// Reads one entry, as Parse does.
     explicit JsonErrorStatus(const Json::Value& value);
 
-    /// Reads one element of the list; null reads nothing. Throws what JsonCpp throws for a member
-    /// of the wrong kind.
+    /// Reads one entry of the list; null reads nothing. Throws what JsonCpp throws for a member of
+    /// the wrong kind.
     void Parse(const Json::Value& value);
 
     template <class Record, class Field>
@@ -71,18 +73,18 @@ struct CAPABILITYSET_API JsonErrorStatus
     }
 };
 
-/// "ErrorList" of a batch request's answer, in the device's order.
+/// "ErrorList" in the answer to a batch request.
 struct CAPABILITYSET_API JsonErrorStatusList
 {
-    // Kept: clients collect the errors of several requests in one list.
+    // Kept: never cleared, so that one list can collect the errors of several requests.
     static constexpr bool kAppendsAnswers = true;
 
-    std::vector<JsonErrorStatus> errorList;
+    std::vector<JsonErrorStatus> errorList;  ///< entries, in the device's order
 
     JsonErrorStatusList() = default;
     explicit JsonErrorStatusList(const std::string& text) { Parse(text); }
 
-    /// Appends the entries of an answer to the list, which is never cleared. Never throws.
+    /// Appends the entries of an answer. Never throws.
     void Parse(const std::string& text);
 
     template <class Record, class Field>

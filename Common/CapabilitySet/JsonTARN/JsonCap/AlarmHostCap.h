@@ -1,4 +1,4 @@
-// What an alarm host has, takes as commands, and tells of its state.
+// Capabilities of an alarm host: its parts, its commands, the states it reports.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,18 +9,18 @@
 namespace CapabilitySet
 {
 
-/// How many partitions, zones and relays a host has.
+/// Numbers of partitions, zones and relays.
 struct CAPABILITYSET_API AlarmHostTARNCapability : JsonRecord<AlarmHostTARNCapability>
 {
     static constexpr const char* kKey = "SecurityCPCap";
 
-    int partitionNum = 0;
-    int localZoneNum = 0;   ///< zones wired to the host
-    int extendZoneNum = 0;  ///< zones on extension modules
-    int wirelessZoneNum = 0;
-    int localRelayNum = 0;   ///< relays on the host
-    int extendRelayNum = 0;  ///< relays on extension modules
-    int wirelessRelayNum = 0;
+    int partitionNum = 0;      ///< partitions (subsystems)
+    int localZoneNum = 0;      ///< zones wired to the host
+    int extendZoneNum = 0;     ///< zones on extension modules
+    int wirelessZoneNum = 0;   ///< wireless zones
+    int localRelayNum = 0;     ///< relays on the host
+    int extendRelayNum = 0;    ///< relays on extension modules
+    int wirelessRelayNum = 0;  ///< wireless relays
 
     AlarmHostTARNCapability() = default;
     explicit AlarmHostTARNCapability(const std::string& text) { Parse(text); }
@@ -38,11 +38,12 @@ struct CAPABILITYSET_API AlarmHostTARNCapability : JsonRecord<AlarmHostTARNCapab
     }
 };
 
-/// Commands to subsystems. The members are the device's own: see `root`.
+/// Commands to subsystems. The device defines the members.
 struct CAPABILITYSET_API SubSysOperateCapability : JsonPart<SubSysOperateCapability>
 {
-    Json::Value root;  ///< everything the device said of the part
+    Json::Value root;  ///< everything the device sent
 
+    /// Reads the part; null reads nothing.
     void Parse(const Json::Value& value);
 
     template <class Record, class Field>
@@ -54,10 +55,10 @@ struct CAPABILITYSET_API SubSysOperateCapability : JsonPart<SubSysOperateCapabil
 /// Commands to zones.
 struct CAPABILITYSET_API ZoneOperateCapability : JsonPart<ZoneOperateCapability>
 {
-    bool isSptBypass = false;              ///< one zone can be bypassed
-    bool isSptBypassBatch = false;         ///< several at once
-    bool isSptBypassRecover = false;       ///< one zone can be taken back from bypass
-    bool isSptBypassRecoverBatch = false;  ///< several at once
+    bool isSptBypass = false;              ///< bypass one zone
+    bool isSptBypassBatch = false;         ///< bypass several zones at once
+    bool isSptBypassRecover = false;       ///< end the bypass of one zone
+    bool isSptBypassRecoverBatch = false;  ///< end the bypass of several zones at once
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -69,16 +70,16 @@ struct CAPABILITYSET_API ZoneOperateCapability : JsonPart<ZoneOperateCapability>
     }
 };
 
-/// Commands that a host takes.
+/// Commands that a host accepts.
 struct CAPABILITYSET_API AlarmHostOperateTARNCapability : JsonRecord<AlarmHostOperateTARNCapability>
 {
     static constexpr const char* kKey = "HostControlCap";
 
-    SubSysOperateCapability SubSysCap;
-    ZoneOperateCapability ZoneCap;
-    bool isSptOutputsCtrl = false;       ///< one output can be switched
-    bool isSptOutputsCtrlBatch = false;  ///< several at once
-    bool isSptRadarFieldPreviewCtrl = false;
+    SubSysOperateCapability SubSysCap;        ///< commands to subsystems
+    ZoneOperateCapability ZoneCap;            ///< commands to zones
+    bool isSptOutputsCtrl = false;            ///< switch one output
+    bool isSptOutputsCtrlBatch = false;       ///< switch several outputs at once
+    bool isSptRadarFieldPreviewCtrl = false;  ///< control the preview of a radar field
 
     AlarmHostOperateTARNCapability() = default;
     explicit AlarmHostOperateTARNCapability(const std::string& text) { Parse(text); }
@@ -94,17 +95,17 @@ struct CAPABILITYSET_API AlarmHostOperateTARNCapability : JsonRecord<AlarmHostOp
     }
 };
 
-/// States that a host tells.
+/// States that a host reports.
 struct CAPABILITYSET_API AlarmHostStatusTARNCapability : JsonRecord<AlarmHostStatusTARNCapability>
 {
     static constexpr const char* kKey = "HostStatusCap";
 
-    bool isSptZones = false;
-    bool isSptSubSystems = false;
-    bool isSptExDev = false;  ///< of extension devices
-    bool isSptBatteries = false;
-    bool isSptCommunication = false;
-    bool isSptAllHost = false;  ///< of everything in one answer
+    bool isSptZones = false;          ///< zones
+    bool isSptSubSystems = false;     ///< subsystems
+    bool isSptExDev = false;          ///< extension devices
+    bool isSptBatteries = false;      ///< batteries
+    bool isSptCommunication = false;  ///< connections
+    bool isSptAllHost = false;        ///< everything in one answer
 
     AlarmHostStatusTARNCapability() = default;
     explicit AlarmHostStatusTARNCapability(const std::string& text) { Parse(text); }

@@ -1,4 +1,4 @@
-// What a device can analyse and search: crossings, city management, behaviour, false alarms.
+// Capabilities of analysis and search: intersections, city management, behaviour, false alarms.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,11 +12,11 @@
 namespace CapabilitySet
 {
 
-/// What a marked spot of a crossing can have.
+/// What a tagged spot of an intersection can have.
 struct CAPABILITYSET_API IntersectionTagCap : JsonPart<IntersectionTagCap>
 {
     bool isSupportID = false;           ///< a number
-    bool isSupportIDPoint = false;      ///< a place in the picture
+    bool isSupportIDPoint = false;      ///< a position in the picture
     bool isSupportIDDirection = false;  ///< a direction
 
     template <class Record, class Field>
@@ -28,13 +28,13 @@ struct CAPABILITYSET_API IntersectionTagCap : JsonPart<IntersectionTagCap>
     }
 };
 
-/// Analysis of the traffic at a crossing.
+/// Traffic analysis at an intersection.
 struct CAPABILITYSET_API IntersectionAnalysisCap : JsonRecord<IntersectionAnalysisCap>
 {
     static constexpr const char* kKey = "IntersectionAnalysisCap";
 
-    IntersectionTagCap TagID;
-    JsonTextLimits searchReportType;  ///< kinds of report that a search can give
+    IntersectionTagCap TagID;         ///< tagged spots
+    JsonTextLimits searchReportType;  ///< kinds of report, such as "day" or "week"
 
     IntersectionAnalysisCap() = default;
     explicit IntersectionAnalysisCap(const std::string& text) { Parse(text); }
@@ -47,7 +47,7 @@ struct CAPABILITYSET_API IntersectionAnalysisCap : JsonRecord<IntersectionAnalys
     }
 };
 
-/// Searching city management events.
+/// Search for city management events.
 struct CAPABILITYSET_API CityManagementCapability : JsonRecord<CityManagementCapability>
 {
     static constexpr const char* kKey = "SearchDescription";
@@ -55,7 +55,7 @@ struct CAPABILITYSET_API CityManagementCapability : JsonRecord<CityManagementCap
     JsonLimits maxResultNumber;   ///< results of a whole search
     JsonLimits maxResults;        ///< results of one page
     JsonTextLimits subEventType;  ///< kinds of event
-    int channelID = 0;
+    int channelID = 0;            ///< channel number
 
     CityManagementCapability() = default;
     explicit CityManagementCapability(const std::string& text) { Parse(text); }
@@ -70,15 +70,15 @@ struct CAPABILITYSET_API CityManagementCapability : JsonRecord<CityManagementCap
     }
 };
 
-/// Searching the results of behaviour analysis.
+/// Search in the results of behaviour analysis.
 struct CAPABILITYSET_API DeeplyThinkBehaviorCap : JsonRecord<DeeplyThinkBehaviorCap>
 {
     static constexpr const char* kKey = "SearchCap";
 
-    JsonTimeLimits startTime;
-    JsonTimeLimits endTime;
-    Json::Value CountByTask;  ///< counting by task, as the device tells it
-    Json::Value CountByTime;  ///< counting by time, as the device tells it
+    JsonTimeLimits startTime;  ///< limits of the start time
+    JsonTimeLimits endTime;    ///< limits of the end time
+    Json::Value CountByTask;   ///< counting by task, in the device's form
+    Json::Value CountByTime;   ///< counting by time, in the device's form
 
     DeeplyThinkBehaviorCap() = default;
     explicit DeeplyThinkBehaviorCap(const std::string& text) { Parse(text); }
@@ -99,7 +99,7 @@ struct CAPABILITYSET_API MisinfoConfirmCap : JsonRecord<MisinfoConfirmCap>
     static constexpr const char* kKey = "misinfoConfirmCap";
 
     OptJsonElement eventType;  ///< kinds of event
-    OptJsonElement state;      ///< judgements that the device takes
+    OptJsonElement state;      ///< judgements, such as "right" or "wrong"
 
     MisinfoConfirmCap() = default;
     explicit MisinfoConfirmCap(const std::string& text) { Parse(text); }

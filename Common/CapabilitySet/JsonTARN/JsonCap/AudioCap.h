@@ -1,4 +1,4 @@
-// What a device can do with sounds: searching detected ones, importing libraries of them.
+// Capabilities for sounds: searching detected ones, importing them into a library.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,17 +10,17 @@
 namespace CapabilitySet
 {
 
-/// Searching detected sounds.
+/// Search for detected sounds.
 struct CAPABILITYSET_API AudioDetectionSearchCapability : JsonTree<AudioDetectionSearchCapability>
 {
     AudioDetectionSearchCapability() = default;
     explicit AudioDetectionSearchCapability(const std::string& text) { Parse(text); }
 };
 
-/// What names the sounds to import.
+/// How the sound to import is named.
 struct CAPABILITYSET_API AudioImportSourceCap : JsonPart<AudioImportSourceCap>
 {
-    JsonTextLimits UUID;
+    JsonTextLimits UUID;  ///< limits of the sound's identifier
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -29,15 +29,15 @@ struct CAPABILITYSET_API AudioImportSourceCap : JsonPart<AudioImportSourceCap>
     }
 };
 
-/// Where an imported sound goes, and under which names: of a capability, or of a request.
+/// A place in the audio library: its limits in a capability, its values in a request.
 template <class Member>
 struct AudioLibPlace
 {
-    Member audioLibID;
-    Member audioSampleID;
-    Member audioID;
-    Member sampleName;
-    Member sampleType;
+    Member audioLibID;     ///< the library
+    Member audioSampleID;  ///< the sample
+    Member audioID;        ///< the sound
+    Member sampleName;     ///< name of the sample
+    Member sampleType;     ///< kind of sound, such as "glassBreak"
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -50,20 +50,20 @@ struct AudioLibPlace
     }
 };
 
-/// What can be told of such a place.
+/// Limits of a place in the library.
 struct CAPABILITYSET_API AudioImportDestinationCap : JsonPart<AudioImportDestinationCap>,
                                                      AudioLibPlace<JsonTextLimits>
 {
 };
 
-/// Importing sounds into a library.
+/// Import of detected sounds into a library.
 struct CAPABILITYSET_API ImportAudioLibCap : JsonRecord<ImportAudioLibCap>
 {
     static constexpr const char* kKey = "ImportAudioLibCap";
     static constexpr bool kMayLackKey = true;
 
-    AudioImportSourceCap SourceData;
-    AudioImportDestinationCap DestinationData;
+    AudioImportSourceCap SourceData;            ///< the sound
+    AudioImportDestinationCap DestinationData;  ///< its place in the library
 
     ImportAudioLibCap() = default;
     explicit ImportAudioLibCap(const std::string& text) { Parse(text); }

@@ -1,4 +1,4 @@
-// What a device can do with faces and people: comparing pictures, searching by features.
+// Capabilities for faces and people: comparing pictures, searching by features.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,12 +10,12 @@
 namespace CapabilitySet
 {
 
-/// Comparing two pictures of faces.
+/// Comparing the faces in pictures.
 struct CAPABILITYSET_API ImagesComparisionCapbility : JsonRecord<ImagesComparisionCapbility>
 {
     static constexpr const char* kKey = "imagesComparision";
 
-    JsonTextLimits dataType;  ///< how pictures can be handed over
+    JsonTextLimits dataType;  ///< how pictures are passed, such as "URL" or "binary"
 
     ImagesComparisionCapbility() = default;
     explicit ImagesComparisionCapbility(const std::string& text) { Parse(text); }
@@ -27,7 +27,7 @@ struct CAPABILITYSET_API ImagesComparisionCapbility : JsonRecord<ImagesComparisi
     }
 };
 
-/// Searching people by the features and the frequency of their appearance.
+/// Search for people by their features and how often they appear.
 struct CAPABILITYSET_API HFPDCapbility : JsonRecord<HFPDCapbility>
 {
     static constexpr const char* kKey = "HFPDCap";

@@ -1,4 +1,4 @@
-// The capability queries of the protocol's JSON flavour.
+// Capability queries in the protocol's JSON form. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,50 +11,49 @@
 namespace CapabilitySet
 {
 
-/// How every query behaves: the record and the error slot are reset first. True means that the
-/// device answered; an answer that is no such document leaves the record at its defaults. On false
-/// the error slot holds 43 (the answer is larger than 16,384,000 bytes), 23 (memory ran out), or
-/// the SDK's own error number, and but for 43 and 23 Keel::Error::GetLastError() tells more; the
-/// record stays at its defaults. Queries may be called from any thread.
+/// As in Queries.h, with these differences: only the SDK's 43 grows the buffer, its 1000 and 1001
+/// are passed on unchanged, and 23 means that memory ran out. An answer that is not the document
+/// leaves the record at its defaults and returns true.
 class CAPABILITYSET_API JsonCapApp
 {
 public:
-    /// Comparing two pictures of faces.
+    /// GET /TARN/Intelligent/imagesComparision/face/capabilities?format=json
     static bool GetImagesComparisionCapability(ImagesComparisionCapbility& out, unsigned int& error,
                                                const int userID);
-    /// Searching people by their features.
+    /// GET /TARN/SDT/HFPD/capabilities?format=json
     static bool GetHFPDCapability(HFPDCapbility& out, unsigned int& error, const int userID);
-    /// What an alarm host has.
+    /// GET /TARN/SecurityCP/capabilities?format=json
     static bool GetAlarmHostTARNCapability(AlarmHostTARNCapability& out, unsigned int& error,
                                            const int userID);
-    /// Commands that an alarm host takes.
+    /// GET /TARN/SecurityCP/control/capabilities?format=json
     static bool GetAlarmHostOperateCapability(AlarmHostOperateTARNCapability& out,
                                               unsigned int& error, const int userID);
-    /// States that an alarm host tells.
+    /// GET /TARN/SecurityCP/status/capabilities?format=json
     static bool GetAlarmHostStatusCapability(AlarmHostStatusTARNCapability& out,
                                              unsigned int& error, const int userID);
-    /// Analysis of the traffic at the crossing that a channel shows.
-    /// The channel is the SDK's number; one that the SDK cannot convert is false with error 0, and
-    /// nothing is sent.
+    /// GET /TARN/Intelligent/channels/{channel}/intersectionAnalysis/capabilities?format=json
+    /// If the SDK cannot convert the channel: false with error 0, and nothing is sent.
     static bool GetIntersectionAnalysisCap(IntersectionAnalysisCap& out, unsigned int& error,
                                            const unsigned int userID, const unsigned int channel);
-    /// Fibre converters.
+    /// GET /TARN/Transfers/FiberConvert/capabilities?format=json
     static bool getFiberConvertCapability(FiberConvertCap& out, unsigned int& error, int userID);
-    /// Power over Ethernet. Tells no error number: see Keel::Error::GetLastError().
+    /// GET /TARN/Transfers/Switches/portCfg/portPOEInfo/capabilities?format=json
+    /// Has no error argument: see Keel::Error::GetLastError().
     static bool GetPortPoeInfoListCap(PortPoeInfoListCap& out, int userID);
-    /// Searching city management events.
+    /// GET /TARN/Intelligent/cityManagement/search/capabilities?format=json
     static bool GetCityManagementCap(CityManagementCapability& out, unsigned int& error,
                                      const unsigned int userID);
-    /// Searching the results of behaviour analysis.
+    /// GET /TARN/SDT/Management/analysisResult/capabilities?format=json
     static bool getDeeplyThinkAnalysisCap(DeeplyThinkBehaviorCap& out, unsigned int& error,
                                           const unsigned int userID);
-    /// Confirming alarms. A failure leaves the last error as it was.
+    /// /TARN/Intelligent/misinfoFilter/confirmation/capabilities?format=json
+    // Kept: the line is sent without a method and CR LF; a failure does not set the last error.
     static bool getmisinfoConfirmCap(MisinfoConfirmCap& out, unsigned int& error,
                                      const unsigned int userID);
-    /// Searching detected sounds.
+    /// GET /TARN/Intelligent/AIOpenPlatform/audioDetectionSearch/capabilities?format=json
     static bool GetAudioDetectionSearchCap(AudioDetectionSearchCapability& out, unsigned int& error,
                                            const unsigned int userID);
-    /// Importing sounds into a library.
+    /// GET /TARN/Intelligent/AIOpenPlatform/audioDetection/importAudioLib/capabilities?format=json
     static bool GetImportAudioLibCap(ImportAudioLibCap& out, unsigned int& error,
                                      const unsigned int userID);
 };

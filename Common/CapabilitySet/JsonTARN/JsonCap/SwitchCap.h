@@ -1,4 +1,4 @@
-// What fibre converters and the ports of a network switch can do.
+// Capabilities of fibre converters and of switch ports.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,7 +15,7 @@ struct CAPABILITYSET_API FiberConvertCap : JsonRecord<FiberConvertCap>
 {
     static constexpr const char* kKey = "FiberConvertCap";
 
-    bool isSupportCrateSlotStatus = false;  ///< the state of the slots can be asked for
+    bool isSupportCrateSlotStatus = false;  ///< reports the state of the slots
 
     FiberConvertCap() = default;
     explicit FiberConvertCap(const std::string& text) { Parse(text); }
@@ -27,20 +27,20 @@ struct CAPABILITYSET_API FiberConvertCap : JsonRecord<FiberConvertCap>
     }
 };
 
-/// Power over Ethernet of one port.
+/// Power over Ethernet at one port.
 struct CAPABILITYSET_API PortPoeInfoCap : JsonTree<PortPoeInfoCap>
 {
     PortPoeInfoCap() = default;
     explicit PortPoeInfoCap(const std::string& text) { Parse(text); }
 };
 
-/// Power over Ethernet of a switch's ports.
+/// Power over Ethernet at the ports of a switch.
 struct CAPABILITYSET_API PortPoeInfoListCap : JsonRecord<PortPoeInfoListCap>
 {
     static constexpr const char* kKey = "PortPOEInfoListCap";
 
-    std::string PortPOEInfo;  ///< the member as styled JSON text; empty when there is none
-    PortPoeInfoCap port;      ///< the same, read
+    std::string PortPOEInfo;  ///< the member as styled JSON text; empty if it is missing
+    PortPoeInfoCap port;      ///< the same, parsed; key "PortPOEInfo"
 
     PortPoeInfoListCap() = default;
     explicit PortPoeInfoListCap(const std::string& text) { Parse(text); }

@@ -1,4 +1,4 @@
-// What a client tells an alarm host to do: bypass zones, switch outputs, search the log, arm.
+// Commands to an alarm host: bypass zones, switch outputs, arm, search the log.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -16,7 +16,7 @@ struct CAPABILITYSET_API AlarmHostBypassCfg : JsonRecord<AlarmHostBypassCfg>
 {
     static constexpr const char* kKey = "";
 
-    std::string zone;  ///< zone numbers, as the device's capability lists the form
+    std::string zone;  ///< zone numbers, in a form that the host's capability lists
 
     AlarmHostBypassCfg() = default;
     explicit AlarmHostBypassCfg(const std::string& text) { Parse(text); }
@@ -28,18 +28,18 @@ struct CAPABILITYSET_API AlarmHostBypassCfg : JsonRecord<AlarmHostBypassCfg>
     }
 };
 
-/// Outputs to switch, and how.
+/// The outputs to switch, and how.
 struct CAPABILITYSET_API AlarmHostOutputCfg : JsonRecord<AlarmHostOutputCfg>
 {
     static constexpr const char* kKey = "OutputsCtrl";
 
-    std::string switchState;  ///< key "switch": "open" or "close"
-    std::vector<int> ids;     ///< numbers of the outputs
+    std::string switchState;  ///< "switch": "open" or "close"
+    std::vector<int> ids;     ///< "List" of "id": output numbers
 
     AlarmHostOutputCfg() = default;
     explicit AlarmHostOutputCfg(const std::string& text) { Parse(text); }
 
-    /// Empty, "switch" included, when there are no outputs to switch.
+    /// The request body; empty if `ids` is empty or memory ran out.
     [[nodiscard]] std::string Make() const;
 
     template <class Record, class Field>
@@ -53,13 +53,14 @@ struct CAPABILITYSET_API AlarmHostOutputCfg : JsonRecord<AlarmHostOutputCfg>
 /// Which part of the host's log to search, and which page of the result.
 struct CAPABILITYSET_API AlarmHostLogConditionDescription
 {
-    std::string searchID;  ///< of the client's choice, the same for all pages of one search
-    std::string startTime;
-    std::string endTime;
-    int searchResultPosition = 0;  ///< index of the first entry wanted
-    int maxResults = 0;            ///< size of a page
+    std::string searchID;          ///< chosen by the client, the same for all pages
+    std::string startTime;         ///< ISO 8601
+    std::string endTime;           ///< ISO 8601
+    int searchResultPosition = 0;  ///< index of the first entry wanted, from 0
+    int maxResults = 0;            ///< page size
 
     /// The request body; empty when memory ran out.
+    // Kept: the body has the keys "endTIme" and "searchResultPostion", and numbers as text.
     [[nodiscard]] std::string Make() const;
 };
 
@@ -68,7 +69,7 @@ struct CAPABILITYSET_API DetectorSilence : JsonRecord<DetectorSilence>
 {
     static constexpr const char* kKey = "DetectorAlarm";
 
-    std::string cmd;  ///< one of DetectorSilenceCap's
+    std::string cmd;  ///< a command of DetectorSilenceCap, such as "silence"
 
     DetectorSilence() = default;
     explicit DetectorSilence(const std::string& text) { Parse(text); }
@@ -83,9 +84,9 @@ struct CAPABILITYSET_API DetectorSilence : JsonRecord<DetectorSilence>
 /// A subsystem to arm, disarm or clear.
 struct CAPABILITYSET_API OperateSubSystem : JsonPart<OperateSubSystem>
 {
-    int id = 0;
-    std::string armType;
-    std::string devIndex;
+    int id = 0;            ///< subsystem number
+    std::string armType;   ///< way of arming, as the host's capability lists it
+    std::string devIndex;  ///< the device it belongs to
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -99,11 +100,12 @@ struct CAPABILITYSET_API OperateSubSystem : JsonPart<OperateSubSystem>
 /// Subsystems to arm, disarm or clear together. The client sends the bodies itself.
 struct CAPABILITYSET_API OperateSubSystemsInfo
 {
-    std::vector<OperateSubSystem> subSystems;
+    std::vector<OperateSubSystem> subSystems;  ///< "SubSysList": the subsystems
 
     // Kept: clients rely on the bodies being made of the argument, not of the record called on.
 
-    /// The body that arms `info`'s subsystems.
+    /// The body that arms the subsystems of `info`. Empty when memory ran out.
+    // Kept: both bodies are built from the argument, not from this record.
     [[nodiscard]] std::string CreatArmJsonParser(const OperateSubSystemsInfo& info) const;
     /// The body that disarms or clears them: the same without "armType".
     [[nodiscard]] std::string CreatDisarmAndClearAlarmJsonParser(

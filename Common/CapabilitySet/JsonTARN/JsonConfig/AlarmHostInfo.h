@@ -1,4 +1,4 @@
-// What an alarm host tells beyond the library's own queries: the client fetches these itself.
+// Further alarm host documents, which the client fetches itself.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -16,7 +16,7 @@ struct CAPABILITYSET_API AlarmSirenCfg : JsonTree<AlarmSirenCfg>
     explicit AlarmSirenCfg(const std::string& text) { Parse(text); }
 };
 
-/// Contact-ID reporting settings.
+/// Contact ID reporting settings.
 struct CAPABILITYSET_API AlarmHostCIDAlarmCfg : JsonTree<AlarmHostCIDAlarmCfg>
 {
     AlarmHostCIDAlarmCfg() = default;

@@ -1,4 +1,4 @@
-// What an alarm host tells of its communication, zones, subsystems, outputs and log.
+// States and settings of an alarm host: communication, zones, subsystems, outputs, log.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,18 +11,18 @@
 namespace CapabilitySet
 {
 
-/// How the host reaches its centre.
+/// The host's connections to its centre.
 struct CAPABILITYSET_API AlarmHostCommunicationStatus : JsonRecord<AlarmHostCommunicationStatus>
 {
     static constexpr const char* kKey = "CommuniStatus";
 
     std::string wired;        ///< state of the wired network
-    std::string wifi;         ///< state of the wireless network
-    int wifiSignal = 0;       ///< strength, percent
+    std::string wifi;         ///< state of Wi-Fi
+    int wifiSignal = 0;       ///< Wi-Fi signal, percent
     std::string mobile;       ///< state of the mobile network
-    int mobileSignal = 0;     ///< strength, percent
+    int mobileSignal = 0;     ///< mobile signal, percent
     double flow = 0;          ///< mobile data used this month, MB
-    double monFlowLimit = 0;  ///< mobile data a month may use, MB
+    double monFlowLimit = 0;  ///< mobile data allowed per month, MB
     std::string cloud;        ///< state of the cloud connection
     std::string wired2;       ///< state of the second wired network
 
@@ -47,11 +47,11 @@ struct CAPABILITYSET_API AlarmHostCommunicationStatus : JsonRecord<AlarmHostComm
 /// One zone.
 struct CAPABILITYSET_API AlarmHostZone : JsonPart<AlarmHostZone>
 {
-    int id = 0;
-    bool enable = false;
-    std::string zoneName;
-    int subSystemNo = 0;  ///< the subsystem it belongs to
-    std::string detectorType;
+    int id = 0;                ///< zone number
+    bool enable = false;       ///< the zone is in use
+    std::string zoneName;      ///< name shown to users
+    int subSystemNo = 0;       ///< subsystem that the zone belongs to
+    std::string detectorType;  ///< such as "magneticContact" or "PIR"
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -69,7 +69,7 @@ struct CAPABILITYSET_API AlarmHostZoneConfig : JsonRecord<AlarmHostZoneConfig>
 {
     static constexpr const char* kKey = "";
 
-    std::vector<AlarmHostZone> zones;
+    std::vector<AlarmHostZone> zones;  ///< "List" of "Zone"
 
     AlarmHostZoneConfig() = default;
     explicit AlarmHostZoneConfig(const std::string& text) { Parse(text); }
@@ -84,11 +84,11 @@ struct CAPABILITYSET_API AlarmHostZoneConfig : JsonRecord<AlarmHostZoneConfig>
 /// One subsystem.
 struct CAPABILITYSET_API AlarmHostSubSystem : JsonPart<AlarmHostSubSystem>
 {
-    int id = 0;
-    bool enabled = false;
+    int id = 0;                     ///< subsystem number
+    bool enabled = false;           ///< the subsystem is in use
     std::vector<int> linkageZones;  ///< numbers of its zones
-    bool oneKeyArmEnabled = false;
-    std::string name;
+    bool oneKeyArmEnabled = false;  ///< it can be armed with one key
+    std::string name;               ///< name shown to users
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -106,7 +106,7 @@ struct CAPABILITYSET_API AlarmHostSubSystemConfig : JsonRecord<AlarmHostSubSyste
 {
     static constexpr const char* kKey = "";
 
-    std::vector<AlarmHostSubSystem> subSystems;
+    std::vector<AlarmHostSubSystem> subSystems;  ///< "List" of "SubSys"
 
     AlarmHostSubSystemConfig() = default;
     explicit AlarmHostSubSystemConfig(const std::string& text) { Parse(text); }
@@ -121,8 +121,8 @@ struct CAPABILITYSET_API AlarmHostSubSystemConfig : JsonRecord<AlarmHostSubSyste
 /// One cause that switches an output.
 struct CAPABILITYSET_API OutputLinkage : JsonPart<OutputLinkage>
 {
-    std::string linkage;
-    std::string scenarioType;
+    std::string linkage;       ///< the cause, such as "alarm"
+    std::string scenarioType;  ///< arming in which it counts, such as "away"
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -135,14 +135,14 @@ struct CAPABILITYSET_API OutputLinkage : JsonPart<OutputLinkage>
 /// One output.
 struct CAPABILITYSET_API TriggerConfig : JsonPart<TriggerConfig>
 {
-    int id = 0;
-    std::string name;
-    bool related = false;  ///< it is linked to a module
-    int outputModuleNo = 0;
-    int channelNo = 0;  ///< its place on the module
-    std::string linkage;
-    std::string alarmEvent;
-    std::vector<OutputLinkage> linkageList;
+    int id = 0;              ///< output number
+    std::string name;        ///< name shown to users
+    bool related = false;    ///< the output is linked to a module
+    int outputModuleNo = 0;  ///< module number
+    int channelNo = 0;       ///< place on the module
+    std::string linkage;     ///< what switches it, such as "zone" or "manual"
+    std::string alarmEvent;  ///< event that switches it, such as "intrusion" or "none"
+    std::vector<OutputLinkage> linkageList;  ///< causes that switch it
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -163,7 +163,7 @@ struct CAPABILITYSET_API TriggerListConfig : JsonRecord<TriggerListConfig>
 {
     static constexpr const char* kKey = "";
 
-    std::vector<TriggerConfig> outputs;
+    std::vector<TriggerConfig> outputs;  ///< "List" of "Output"
 
     TriggerListConfig() = default;
     explicit TriggerListConfig(const std::string& text) { Parse(text); }
@@ -175,10 +175,10 @@ struct CAPABILITYSET_API TriggerListConfig : JsonRecord<TriggerListConfig>
     }
 };
 
-/// One entry of the log, as the device tells it.
+/// One entry of the log.
 struct CAPABILITYSET_API AlarmHostDeviceLogMatchItem : JsonPart<AlarmHostDeviceLogMatchItem>
 {
-    Json::Value logDescriptor;
+    Json::Value logDescriptor;  ///< the entry, in the device's form
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -192,11 +192,11 @@ struct CAPABILITYSET_API AlarmHostDeviceLogResult : JsonRecord<AlarmHostDeviceLo
 {
     static constexpr const char* kKey = "SearchResult";
 
-    std::string searchID;
-    bool responseStatus = false;
-    std::string responseStatusStrg;  ///< "OK", "MORE" when further pages follow, "NO MATCH"
+    std::string searchID;            ///< as in the condition
+    bool responseStatus = false;     ///< the search succeeded
+    std::string responseStatusStrg;  ///< "OK", "MORE" if pages follow, "NO MATCH"
     int numOfMatches = 0;            ///< entries in this page
-    std::vector<AlarmHostDeviceLogMatchItem> matchList;
+    std::vector<AlarmHostDeviceLogMatchItem> matchList;  ///< "matchList" of "searchMatchItem"
 
     AlarmHostDeviceLogResult() = default;
     explicit AlarmHostDeviceLogResult(const std::string& text) { Parse(text); }

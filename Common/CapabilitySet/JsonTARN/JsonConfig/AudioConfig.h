@@ -1,4 +1,4 @@
-// Audio detection of a channel, and the library of sounds that detection knows.
+// Audio detection of a channel and the library of known sounds.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,7 +10,7 @@
 namespace CapabilitySet
 {
 
-/// Audio detection of a channel. Read it, change `root`, and set it.
+/// Audio detection of a channel. To change it: read it, edit `root`, set it.
 struct CAPABILITYSET_API CAudioDectionCfg : JsonTree<CAudioDectionCfg>
 {
     CAudioDectionCfg() = default;
@@ -20,7 +20,7 @@ struct CAPABILITYSET_API CAudioDectionCfg : JsonTree<CAudioDectionCfg>
 /// A detected sound.
 struct CAPABILITYSET_API AudioLibSource
 {
-    std::string UUID;  ///< as the detection's result names it
+    std::string UUID;  ///< identifier from the detection's result
 
     /// Throws what JsonCpp throws for a value of the wrong kind.
     void Parse(const Json::Value& value);
@@ -32,20 +32,20 @@ struct CAPABILITYSET_API AudioLibSource
     }
 };
 
-/// A place in the audio library. Words are those that ImportAudioLibCap lists.
+/// A place in the audio library; ImportAudioLibCap lists the limits.
 struct CAPABILITYSET_API AudioLibDestination : AudioLibPlace<std::string>
 {
     /// Throws what JsonCpp throws for a value of the wrong kind.
     void Parse(const Json::Value& value);
 };
 
-/// Which detected sound to import, and where to.
+/// A detected sound to import, and its place in the library.
 struct CAPABILITYSET_API AudioImportAudioLibData : JsonRecord<AudioImportAudioLibData>
 {
     static constexpr const char* kKey = "ImportAudioLib";
 
-    AudioLibSource SourceData;
-    AudioLibDestination DestinationData;
+    AudioLibSource SourceData;            ///< the sound
+    AudioLibDestination DestinationData;  ///< its place in the library
 
     AudioImportAudioLibData() = default;
     explicit AudioImportAudioLibData(const std::string& text) { Parse(text); }
@@ -58,7 +58,7 @@ struct CAPABILITYSET_API AudioImportAudioLibData : JsonRecord<AudioImportAudioLi
     }
 };
 
-/// What became of an import.
+/// The result of an import.
 struct CAPABILITYSET_API AudioImportAudioLibResult : JsonTree<AudioImportAudioLibResult>
 {
     AudioImportAudioLibResult() = default;

@@ -1,4 +1,4 @@
-// Searching analysed behaviour, and telling the device which of its alarms were false.
+// Search in behaviour analysis, and confirming or rejecting its alarms.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,15 +10,15 @@
 namespace CapabilitySet
 {
 
-/// Which analysed behaviour to search; tasks, kinds and the like stand in `root`.
+/// What analysed behaviour to search for. Put tasks, kinds and other conditions in `root`.
 struct CAPABILITYSET_API DeeplyThinkBehaviorDescription
     : JsonRecord<DeeplyThinkBehaviorDescription>,
       SearchPage
 {
     static constexpr const char* kKey = "SearchDescription";
 
-    std::string startTime;  ///< ISO 8601, within the limits of DeeplyThinkBehaviorCap
-    std::string endTime;    ///< likewise, not before `startTime`
+    std::string startTime;  ///< ISO 8601, within DeeplyThinkBehaviorCap
+    std::string endTime;    ///< ISO 8601, not before `startTime`
 
     DeeplyThinkBehaviorDescription() = default;
     explicit DeeplyThinkBehaviorDescription(const std::string& text) { Parse(text); }
@@ -32,7 +32,7 @@ struct CAPABILITYSET_API DeeplyThinkBehaviorDescription
     }
 };
 
-/// One page of analysed behaviour. The matches stand in `root`.
+/// One page of analysed behaviour. The matches are in `root`.
 struct CAPABILITYSET_API DeeplyThinkBehaviorSearch : JsonRecord<DeeplyThinkBehaviorSearch>,
                                                      SearchResultPage
 {
@@ -42,13 +42,13 @@ struct CAPABILITYSET_API DeeplyThinkBehaviorSearch : JsonRecord<DeeplyThinkBehav
     explicit DeeplyThinkBehaviorSearch(const std::string& text) { Parse(text); }
 };
 
-/// Whether alarms were right; which ones stands in `root`.
+/// The judgement of an alarm. Put the alarm's identifier in `root`.
 struct CAPABILITYSET_API MisinfoConfirm : JsonRecord<MisinfoConfirm>
 {
     static constexpr const char* kKey = "misinfoConfirm";
 
-    std::string eventType;  ///< one of MisinfoConfirmCap's
-    std::string state;      ///< one of MisinfoConfirmCap's
+    std::string eventType;  ///< a kind of event from MisinfoConfirmCap
+    std::string state;      ///< a judgement from MisinfoConfirmCap
 
     MisinfoConfirm() = default;
     explicit MisinfoConfirm(const std::string& text) { Parse(text); }

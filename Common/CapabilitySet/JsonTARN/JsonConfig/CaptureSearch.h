@@ -1,4 +1,4 @@
-// Searching captured faces: what to look for, and one page of what was found.
+// Search for captured faces: the description and one page of results.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,23 +12,22 @@
 namespace CapabilitySet
 {
 
-/// What a face looks like: the filters of a search, and what the device saw. Words are those that
-/// the device's capability lists; an empty one in a search filters nothing.
+/// What a face looks like: filters of a search, or what the device saw. The device's capability
+/// lists the words. In a search, an empty one filters nothing.
 struct CAPABILITYSET_API FaceAttributes
 {
-    std::string ageGroup;         ///< "child", "young", "middle", "old" and the like
-    std::string gender;           ///< "male", "female", "unknown"
-    std::string glasses;          ///< "yes", "no", "unknown"
-    std::string smile;            ///< "yes", "no", "unknown"
-    std::string mask;             ///< "yes", "no", "unknown"
-    std::string beard;            ///< "yes", "no", "unknown"
-    std::string faceExpression;   ///< "neutral", "happy" and the like
-    std::string ethnic;           ///< as the capability lists it
-    std::string isInLibrary;      ///< whether the person is known: "yes", "no"
-    std::string thermometryUnit;  ///< "celsius", "fahrenheit", "kelvin"
-    double currTemperature = 0;   ///< of the skin, in that unit
-    std::string
-        temperatureCondition;  ///< "normal", "abnormal"; of a search also "greater" and such
+    std::string ageGroup;              ///< such as "child", "young", "middle", "old"
+    std::string gender;                ///< "male", "female", "unknown"
+    std::string glasses;               ///< "yes", "no", "unknown"
+    std::string smile;                 ///< "yes", "no", "unknown"
+    std::string mask;                  ///< "yes", "no", "unknown"
+    std::string beard;                 ///< "yes", "no", "unknown"
+    std::string faceExpression;        ///< such as "neutral", "happy"
+    std::string ethnic;                ///< as the device's capability lists it
+    std::string isInLibrary;           ///< the person is in a library: "yes", "no"
+    std::string thermometryUnit;       ///< "celsius", "fahrenheit", "kelvin"
+    double currTemperature = 0;        ///< skin temperature, in `thermometryUnit`
+    std::string temperatureCondition;  ///< "normal", "abnormal"; in a search also "greater"
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -48,18 +47,18 @@ struct CAPABILITYSET_API FaceAttributes
     }
 };
 
-/// Which captured faces to look for.
+/// What captured faces to search for.
 struct CAPABILITYSET_API CaptureSearchDescription : JsonRecord<CaptureSearchDescription>,
                                                     SearchPage,
                                                     FaceAttributes
 {
     static constexpr const char* kKey = "CaptureSearchDescription";
 
-    int maxSearchResults = 0;    ///< how many results all pages together may hold
-    std::string startTime;       ///< of the capture, "2020-01-01T00:00:00+08:00"
-    std::string endTime;         ///< of the capture, not before `startTime`
+    int maxSearchResults = 0;    ///< most results in all pages
+    std::string startTime;       ///< ISO 8601, such as "2020-01-01T00:00:00+08:00"
+    std::string endTime;         ///< ISO 8601, not before `startTime`
     std::vector<int> channelID;  ///< numbers of the channels to search
-    std::string choiceChannel;   ///< how channels are chosen, as the device's capability lists it
+    std::string choiceChannel;   ///< how channels are chosen, as the capability lists it
 
     CaptureSearchDescription() = default;
     explicit CaptureSearchDescription(const std::string& text) { Parse(text); }
@@ -77,13 +76,13 @@ struct CAPABILITYSET_API CaptureSearchDescription : JsonRecord<CaptureSearchDesc
     }
 };
 
-/// Where a face stands in its picture, in pixels or in parts of the picture's size (0 to 1).
+/// Position of a face in its picture, in pixels or as a fraction of the picture's size (0 to 1).
 struct CAPABILITYSET_API FaceRect : JsonPart<FaceRect>
 {
-    double height = 0;
-    double width = 0;
-    double y = 0;  ///< of the upper edge
-    double x = 0;  ///< of the left edge
+    double height = 0;  ///< height of the rectangle
+    double width = 0;   ///< width of the rectangle
+    double y = 0;       ///< upper edge
+    double x = 0;       ///< left edge
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -98,13 +97,13 @@ struct CAPABILITYSET_API FaceRect : JsonPart<FaceRect>
 /// One captured face.
 struct CAPABILITYSET_API CaptureTarget : JsonPart<CaptureTarget>, FaceAttributes
 {
-    std::string id;           ///< the device's own
+    std::string id;           ///< identifier, as the device assigns it
     std::string captureTime;  ///< ISO 8601
     std::string captureSite;  ///< name of the place
-    int channelId = 0;        ///< number of the channel; sent as a number or as its digits
-    std::string picUrl;       ///< where the whole picture is to be fetched
-    std::string subpicUrl;    ///< where the picture of the face is to be fetched
-    FaceRect face_rect;
+    int channelId = 0;        ///< channel number; devices send a number or text
+    std::string picUrl;       ///< URL of the whole picture
+    std::string subpicUrl;    ///< URL of the face picture
+    FaceRect face_rect;       ///< position of the face
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -125,7 +124,7 @@ struct CAPABILITYSET_API CaptureSearchResult : JsonRecord<CaptureSearchResult>, 
 {
     static constexpr const char* kKey = "CaptureSearchResult";
 
-    std::vector<CaptureTarget> targets;
+    std::vector<CaptureTarget> targets;  ///< the faces
 
     CaptureSearchResult() = default;
     explicit CaptureSearchResult(const std::string& text) { Parse(text); }

@@ -1,4 +1,4 @@
-// Searching face libraries: what to look for, one page of what was found, the package of it.
+// Search in face libraries: the description, one page of results, the package of results.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,15 +12,15 @@
 namespace CapabilitySet
 {
 
-/// Whose attendance to search, and when.
+/// Whose attendance to search for, and when.
 struct CAPABILITYSET_API FDLibAttendanceSearch : JsonPart<FDLibAttendanceSearch>
 {
     std::vector<int> dayOfWeek;  ///< days that count, 1 (Monday) to 7 (Sunday)
-    std::string FDID;            ///< the face library
-    std::string PID;             ///< the person in it
-    /// Working hours, as the device's capability lists the form.
+    std::string FDID;            ///< face library
+    std::string PID;             ///< person in the library
+    /// Working hours, in the form that the device's capability lists.
     Json::Value Schedules{Json::arrayValue};
-    /// When two faces count as one, likewise.
+    /// When two faces count as the same, likewise.
     Json::Value MatchFace{Json::objectValue};
 
     template <class Record, class Field>
@@ -34,27 +34,28 @@ struct CAPABILITYSET_API FDLibAttendanceSearch : JsonPart<FDLibAttendanceSearch>
     }
 };
 
-/// Whom to look for in face libraries. What else the device takes (libraries, likeness, the
-/// picture) stands in `root`.
+/// Whom to search for in face libraries. Put other conditions, such as libraries, similarity or the
+/// picture, in `root`.
 struct CAPABILITYSET_API FDLibSearchDescription : JsonRecord<FDLibSearchDescription>, SearchPage
 {
     static constexpr const char* kKey = "FDLibSearchDescription";
 
-    int maxResultNumber = 0;  ///< how many results all pages together may hold
-    std::string searchType;   ///< kind of the search; "attendance" makes `Attendance` part of it
+    int maxResultNumber = 0;  ///< most results in all pages
+    std::string searchType;   ///< "attendance" sends `Attendance` as well
 
-    // Written only on demand.
-    bool hasTimeRange = false;  ///< `startTime` and `endTime` are part of the search
-    std::string startTime;      ///< "2020-01-01T00:00:00", without a zone
-    std::string endTime;        ///< likewise, not before `startTime`
-    FDLibAttendanceSearch Attendance;
+    // Sent only if `hasTimeRange` or `searchType` asks for it.
+    bool hasTimeRange = false;         ///< sends `startTime` and `endTime`
+    std::string startTime;             ///< "2020-01-01T00:00:00", without a zone
+    std::string endTime;               ///< likewise, not before `startTime`
+    FDLibAttendanceSearch Attendance;  ///< conditions of an attendance search
 
     FDLibSearchDescription() = default;
     explicit FDLibSearchDescription(const std::string& text) { Parse(text); }
 
-    /// The request body. Times get "+08:00" appended whatever the zone here or there is. Empty when
-    /// memory ran out.
+    /// The request body. Empty when memory ran out.
+    // Kept: times are sent with "+08:00" appended, whatever the time zone.
     [[nodiscard]] std::string Make() const;
+    /// The same, under the name that search descriptions use.
     [[nodiscard]] std::string CreatJsonParser() const { return Make(); }
 
     template <class Record, class Field>
@@ -66,11 +67,11 @@ struct CAPABILITYSET_API FDLibSearchDescription : JsonRecord<FDLibSearchDescript
     }
 };
 
-/// Days on which a person came, or did not.
+/// Days on which a person checked in, or did not.
 struct CAPABILITYSET_API FDLibCheckInDays
 {
-    int checkInDay = 0;
-    int nocheckInDay = 0;
+    int checkInDay = 0;    ///< days with a check-in
+    int nocheckInDay = 0;  ///< days without one
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -85,13 +86,13 @@ struct CAPABILITYSET_API FDLibCheckIn : JsonPart<FDLibCheckIn>, FDLibCheckInDays
 {
 };
 
-/// How often a person came in time, late and so on.
+/// Days of each kind of attendance.
 struct CAPABILITYSET_API FDLibAttendStatus : JsonPart<FDLibAttendStatus>
 {
-    int normal = 0;
-    int late = 0;
-    int leaveEarly = 0;
-    int absenteeism = 0;
+    int normal = 0;         ///< days in time
+    int late = 0;           ///< days late
+    int leaveEarly = 0;     ///< days left early
+    int absenteeism = 0;    ///< days absent
     int withOutAttend = 0;  ///< days without attendance recorded
 
     template <class Record, class Field>
@@ -105,16 +106,15 @@ struct CAPABILITYSET_API FDLibAttendStatus : JsonPart<FDLibAttendStatus>
     }
 };
 
-/// A person's attendance over the time searched. Devices tell the days of check-in in `CheckIn` or
+/// A person's attendance over the time searched. Devices send the check-in days in `CheckIn` or
 /// beside it.
 struct CAPABILITYSET_API FDLibAttendance : JsonPart<FDLibAttendance>, FDLibCheckInDays
 {
-    int totalNumbers = 0;   ///< days counted
-    Json::Value dailyList;  ///< key "DaliyList": day by day, as the device tells it
-    FDLibCheckIn CheckIn;
-    FDLibAttendStatus AttendStatus;
-    std::string
-        abnormalRate;  ///< key "abnormalRate ": share of irregular days, as the device writes it
+    int totalNumbers = 0;            ///< days counted
+    Json::Value dailyList;           ///< "DaliyList": the single days, in the device's form
+    FDLibCheckIn CheckIn;            ///< check-in days
+    FDLibAttendStatus AttendStatus;  ///< days of each kind
+    std::string abnormalRate;        ///< "abnormalRate ": share of irregular days
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -133,7 +133,7 @@ struct CAPABILITYSET_API FDLibAttendance : JsonPart<FDLibAttendance>, FDLibCheck
 /// One face of a person in a library.
 struct CAPABILITYSET_API FDLibFace : JsonPart<FDLibFace>
 {
-    std::string bl_picurl;  ///< where the library's picture is to be fetched
+    std::string bl_picurl;  ///< URL of the library's picture
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -142,14 +142,14 @@ struct CAPABILITYSET_API FDLibFace : JsonPart<FDLibFace>
     }
 };
 
-/// One person of a library that a face was found to be like.
+/// One person of a library who resembles the captured face.
 struct CAPABILITYSET_API FDLibHuman : JsonPart<FDLibHuman>
 {
-    std::string human_name;
-    std::string FDID;  ///< the face library
-    FDLibAttendance Attendance;
-    std::string abnormalRate;  ///< as that of `Attendance`, which some devices send here
-    std::vector<FDLibFace> face_data;
+    std::string human_name;            ///< name of the person
+    std::string FDID;                  ///< face library
+    FDLibAttendance Attendance;        ///< attendance, in an attendance search
+    std::string abnormalRate;          ///< "abnormalRate ": some devices send it here
+    std::vector<FDLibFace> face_data;  ///< faces of the person
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -157,19 +157,19 @@ struct CAPABILITYSET_API FDLibHuman : JsonPart<FDLibHuman>
         field("human_name", r.human_name);
         field("FDID", r.FDID);
         field("Attendance", r.Attendance);
-        // Kept: the trailing blank, as above.
+        // Kept: with a trailing blank, as above.
         field("abnormalRate ", r.abnormalRate);
         field("face_data", r.face_data);
     }
 };
 
-/// One captured face with the persons it is like.
+/// One captured face with the people it resembles.
 struct CAPABILITYSET_API FDLibMatch : JsonPart<FDLibMatch>
 {
-    std::string face_picurl;  ///< where the captured picture is to be fetched
-    std::string monitorId;    ///< the camera that captured it
-    std::string alarm_date;   ///< when it was captured
-    std::vector<FDLibHuman> human_data;
+    std::string face_picurl;             ///< URL of the captured picture
+    std::string monitorId;               ///< camera that captured it
+    std::string alarm_date;              ///< time of the capture, in the device's form
+    std::vector<FDLibHuman> human_data;  ///< people it resembles
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -181,12 +181,12 @@ struct CAPABILITYSET_API FDLibMatch : JsonPart<FDLibMatch>
     }
 };
 
-/// One page of faces found.
+/// One page of a face library search.
 struct CAPABILITYSET_API FDLibSearchResult : JsonRecord<FDLibSearchResult>, SearchResultPage
 {
     static constexpr const char* kKey = "FDLibSearchResult";
 
-    std::vector<FDLibMatch> MatchList;
+    std::vector<FDLibMatch> MatchList;  ///< captured faces
 
     FDLibSearchResult() = default;
     explicit FDLibSearchResult(const std::string& text) { Parse(text); }
@@ -199,13 +199,13 @@ struct CAPABILITYSET_API FDLibSearchResult : JsonRecord<FDLibSearchResult>, Sear
     }
 };
 
-/// The task that packs the result of a search.
+/// The task that packs the results of a search.
 struct CAPABILITYSET_API FDLibFCSearchPackageByJsonResult
     : JsonRecord<FDLibFCSearchPackageByJsonResult>
 {
     static constexpr const char* kKey = "";
 
-    std::string taskID;
+    std::string taskID;  ///< identifier for GetFDLibFCSearchDataPackage
 
     FDLibFCSearchPackageByJsonResult() = default;
     explicit FDLibFCSearchPackageByJsonResult(const std::string& text) { Parse(text); }
@@ -217,13 +217,13 @@ struct CAPABILITYSET_API FDLibFCSearchPackageByJsonResult
     }
 };
 
-/// How far such a task is.
+/// Progress of such a task.
 struct CAPABILITYSET_API FDLibFCSearchPackageByTaskID : JsonRecord<FDLibFCSearchPackageByTaskID>
 {
     static constexpr const char* kKey = "";
 
     int progress = 0;  ///< percent
-    std::string URL;   ///< where the package is to be fetched, once it is whole
+    std::string URL;   ///< URL of the package once it is complete
 
     FDLibFCSearchPackageByTaskID() = default;
     explicit FDLibFCSearchPackageByTaskID(const std::string& text) { Parse(text); }

@@ -1,4 +1,4 @@
-// Fire detectors: their states, and how their alarms are silenced.
+// Fire detectors: their states and the commands to silence them.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,13 +12,13 @@
 namespace CapabilitySet
 {
 
-/// State of one sensor of a detector, sent as an object with "status" or as the bare word.
-/// Parse throws what JsonCpp throws for a value of the wrong kind.
+/// State of one sensor of a detector, sent as an object with "status" or as a bare word.
 struct CAPABILITYSET_API DetectorSensor
 {
-    bool present = false;
-    std::string status;
+    bool present = false;  ///< the device sent the sensor
+    std::string status;    ///< "normal" or "abnormal"
 
+    /// Throws what JsonCpp throws for a value of the wrong kind.
     void Parse(const Json::Value& value);
 
     template <class Record, class Field>
@@ -28,14 +28,15 @@ struct CAPABILITYSET_API DetectorSensor
     }
 };
 
-/// State of a gas sensor, which warms up before it measures and wears out: in its status, or told
-/// by flags beside it.
+/// State of a gas sensor, which warms up before it measures and wears out. Devices send that in
+/// "status" or in flags beside it.
 struct CAPABILITYSET_API GasSensor : DetectorSensor
 {
-    bool preheating = false;
-    bool preheated = false;
-    bool expired = false;
+    bool preheating = false;  ///< the sensor is warming up
+    bool preheated = false;   ///< the sensor has warmed up
+    bool expired = false;     ///< the sensor is worn out
 
+    /// Throws what JsonCpp throws for a value of the wrong kind.
     void Parse(const Json::Value& value);
 
     template <class Record, class Field>
@@ -51,13 +52,13 @@ struct CAPABILITYSET_API GasSensor : DetectorSensor
 /// State of one detector.
 struct CAPABILITYSET_API DetectorStatus : JsonPart<DetectorStatus>
 {
-    std::string status;  ///< "normal" or "abnormal"
-    GasSensor Gas;       ///< also "preheating", "preheated" or "expired"
-    DetectorSensor Temperature;
-    DetectorSensor Smoke;
-    DetectorSensor Shelter;  ///< the detector is covered
-    DetectorSensor Motion;
-    DetectorSensor Tamper;  ///< the housing was opened
+    std::string status;          ///< "normal" or "abnormal"
+    GasSensor Gas;               ///< gas; also "preheating", "preheated" or "expired"
+    DetectorSensor Temperature;  ///< temperature
+    DetectorSensor Smoke;        ///< smoke
+    DetectorSensor Shelter;      ///< whether the detector is covered
+    DetectorSensor Motion;       ///< motion
+    DetectorSensor Tamper;       ///< whether the housing was opened
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -77,7 +78,7 @@ struct CAPABILITYSET_API DetectorStates : JsonRecord<DetectorStates>
 {
     static constexpr const char* kKey = "";
 
-    std::vector<DetectorStatus> detectors;
+    std::vector<DetectorStatus> detectors;  ///< "List" of "DetectorStatus"
 
     DetectorStates() = default;
     explicit DetectorStates(const std::string& text) { Parse(text); }
@@ -89,11 +90,11 @@ struct CAPABILITYSET_API DetectorStates : JsonRecord<DetectorStates>
     }
 };
 
-/// Commands that one channel's detectors take.
+/// Commands to the detectors of one channel.
 struct CAPABILITYSET_API ChannelDetectorCap : JsonPart<ChannelDetectorCap>
 {
-    JsonLimits id;
-    JsonTextLimits cmd;
+    JsonLimits id;       ///< limits of `second` in SetDetectorSilence
+    JsonTextLimits cmd;  ///< commands
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -103,14 +104,14 @@ struct CAPABILITYSET_API ChannelDetectorCap : JsonPart<ChannelDetectorCap>
     }
 };
 
-/// Commands that detectors take.
+/// Commands to detectors.
 struct CAPABILITYSET_API DetectorSilenceCap : JsonRecord<DetectorSilenceCap>
 {
     static constexpr const char* kKey = "DetectorAlarmCap";
 
-    JsonLimits id;
-    JsonTextLimits cmd;
-    std::vector<ChannelDetectorCap> channels;
+    JsonLimits id;                             ///< limits of `first` in SetDetectorSilence
+    JsonTextLimits cmd;                        ///< commands, such as "silence"
+    std::vector<ChannelDetectorCap> channels;  ///< "ChannelDetectorCapList" of "ChannelID"
 
     DetectorSilenceCap() = default;
     explicit DetectorSilenceCap(const std::string& text) { Parse(text); }

@@ -1,4 +1,4 @@
-// Searching by human features: the search's task, its progress, its results.
+// Search by human features: its task, progress and results.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,13 +10,12 @@
 namespace CapabilitySet
 {
 
-/// The task that compares captures with libraries. What else the device says of it stands in
-/// `root`.
+/// The task that compares captured faces with libraries. `root` has the rest of the answer.
 struct CAPABILITYSET_API HFPDCaptureLibCollisionTask : JsonRecord<HFPDCaptureLibCollisionTask>
 {
     static constexpr const char* kKey = "";
 
-    std::string taskID;  ///< a number in decimal: names the task in all that follows
+    std::string taskID;  ///< task number in decimal, for the calls that follow
 
     HFPDCaptureLibCollisionTask() = default;
     explicit HFPDCaptureLibCollisionTask(const std::string& text) { Parse(text); }
@@ -28,11 +27,11 @@ struct CAPABILITYSET_API HFPDCaptureLibCollisionTask : JsonRecord<HFPDCaptureLib
     }
 };
 
-/// How much of a task is done; sent as an object with "value" or as the bare number.
+/// Progress of a task, sent as an object with "value" or as a bare number.
 struct CAPABILITYSET_API HFPDProgress
 {
-    bool present = false;
-    int value = 0;  ///< percent
+    bool present = false;  ///< the device sent the progress
+    int value = 0;         ///< percent
 
     /// Null reads nothing. Throws what JsonCpp throws for a value of the wrong kind.
     void Parse(const Json::Value& progress);
@@ -44,12 +43,12 @@ struct CAPABILITYSET_API HFPDProgress
     }
 };
 
-/// How far a search task is.
+/// Progress of a search task.
 struct CAPABILITYSET_API HFPDSearchProgress : JsonRecord<HFPDSearchProgress>
 {
     static constexpr const char* kKey = "";
 
-    HFPDProgress progress;
+    HFPDProgress progress;  ///< the progress
 
     HFPDSearchProgress() = default;
     explicit HFPDSearchProgress(const std::string& text) { Parse(text); }
@@ -61,7 +60,7 @@ struct CAPABILITYSET_API HFPDSearchProgress : JsonRecord<HFPDSearchProgress>
     }
 };
 
-/// What a search task has found. The matches stand in `root`.
+/// What a search task has found. The matches are in `root`.
 struct CAPABILITYSET_API HFPDSearchFaceResult : JsonRecord<HFPDSearchFaceResult>, SearchResultPage
 {
     static constexpr const char* kKey = "HFPDSearchFaceResult";

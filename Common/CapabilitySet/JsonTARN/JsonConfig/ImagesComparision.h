@@ -1,4 +1,4 @@
-// Comparing the faces of pictures.
+// Comparing the faces in pictures.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,14 +9,14 @@
 namespace CapabilitySet
 {
 
-// Kept: "Comparision" is how devices spell it.
+// Kept: devices spell it "Comparision".
 
-/// Which pictures to compare; they stand in `root`, in the form that `dataType` names.
+/// The pictures to compare. Put them in `root`, in the form that `dataType` names.
 struct CAPABILITYSET_API ImagesCmpDescription : JsonRecord<ImagesCmpDescription>
 {
     static constexpr const char* kKey = "imagesComparision";
 
-    std::string dataType;  ///< one of ImagesComparisionCapbility's
+    std::string dataType;  ///< a form from ImagesComparisionCapbility
 
     ImagesCmpDescription() = default;
     explicit ImagesCmpDescription(const std::string& text) { Parse(text); }
@@ -28,7 +28,7 @@ struct CAPABILITYSET_API ImagesCmpDescription : JsonRecord<ImagesCmpDescription>
     }
 };
 
-/// How alike the faces are.
+/// How similar the faces are.
 struct CAPABILITYSET_API ImagesCmpResult : JsonTree<ImagesCmpResult>
 {
     ImagesCmpResult() = default;

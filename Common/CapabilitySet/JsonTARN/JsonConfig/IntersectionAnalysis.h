@@ -1,4 +1,4 @@
-// Traffic analysis at intersections: its settings, and searching its results.
+// Traffic analysis at intersections: settings and search.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -17,7 +17,7 @@ struct CAPABILITYSET_API IntersectionAnalysisConfig : JsonTree<IntersectionAnaly
     explicit IntersectionAnalysisConfig(const std::string& text) { Parse(text); }
 };
 
-/// Which results to search; time, report type, lanes and the like stand in `root`.
+/// What results to search for. Put time, report type, lanes and other conditions in `root`.
 struct CAPABILITYSET_API IntersectionAnalysisCondition : JsonRecord<IntersectionAnalysisCondition>,
                                                          SearchPage
 {
@@ -27,7 +27,7 @@ struct CAPABILITYSET_API IntersectionAnalysisCondition : JsonRecord<Intersection
     explicit IntersectionAnalysisCondition(const std::string& text) { Parse(text); }
 };
 
-/// One page of results. The matches stand in `root`.
+/// One page of results. The matches are in `root`.
 struct CAPABILITYSET_API IntersectionAnalysisResult : JsonRecord<IntersectionAnalysisResult>,
                                                       SearchResultPage
 {

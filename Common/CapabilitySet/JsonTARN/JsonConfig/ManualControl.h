@@ -1,4 +1,4 @@
-// What a client starts by hand: face snaps, tracking, thermometry, de-icing.
+// Functions that a client starts manually: face snaps, tracking, thermometry, de-icing.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,14 +9,14 @@
 namespace CapabilitySet
 {
 
-/// How faces are snapped by hand.
+/// Settings of manual face snaps.
 struct CAPABILITYSET_API ManualFaceSnapCfg : JsonTree<ManualFaceSnapCfg>
 {
     ManualFaceSnapCfg() = default;
     explicit ManualFaceSnapCfg(const std::string& text) { Parse(text); }
 };
 
-/// Whom to track, by hand.
+/// The person to track.
 struct CAPABILITYSET_API ManualPersonArmingTrack : JsonTree<ManualPersonArmingTrack>
 {
     static constexpr const char* kKey = "ManualPersonArmingTrack";
@@ -25,7 +25,7 @@ struct CAPABILITYSET_API ManualPersonArmingTrack : JsonTree<ManualPersonArmingTr
     explicit ManualPersonArmingTrack(const std::string& text) { Parse(text); }
 };
 
-/// Where to take a temperature, by a click into the picture.
+/// The point in the picture whose temperature to measure.
 struct CAPABILITYSET_API ManualClickThermometry : JsonTree<ManualClickThermometry>
 {
     static constexpr const char* kKey = "ManualClickThermometry";
@@ -34,7 +34,7 @@ struct CAPABILITYSET_API ManualClickThermometry : JsonTree<ManualClickThermometr
     explicit ManualClickThermometry(const std::string& text) { Parse(text); }
 };
 
-/// How a pan-tilt head is freed of ice.
+/// De-icing of a pan-tilt head.
 struct CAPABILITYSET_API ManualPTDeicingCfg : JsonTree<ManualPTDeicingCfg>
 {
     ManualPTDeicingCfg() = default;

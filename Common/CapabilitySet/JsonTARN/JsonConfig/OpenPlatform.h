@@ -1,4 +1,4 @@
-// The algorithm models of the AI open platform.
+// Algorithm models of the AI open platform.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,7 +9,7 @@
 namespace CapabilitySet
 {
 
-/// The models that the device holds.
+/// The models on the device.
 struct CAPABILITYSET_API GetAIOPAlgorithmModel : JsonTree<GetAIOPAlgorithmModel>
 {
     GetAIOPAlgorithmModel() = default;

@@ -1,4 +1,4 @@
-// Searching what was counted at queues: their lengths and waiting times.
+// Search in queue statistics: lengths and waiting times.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,7 +10,7 @@
 namespace CapabilitySet
 {
 
-/// Which queue lengths to search; time, region and the like stand in `root`.
+/// What queue lengths to search for. Put time, region and other conditions in `root`.
 struct CAPABILITYSET_API PersonQueueCountingDescription
     : JsonRecord<PersonQueueCountingDescription>,
       SearchPage
@@ -21,7 +21,7 @@ struct CAPABILITYSET_API PersonQueueCountingDescription
     explicit PersonQueueCountingDescription(const std::string& text) { Parse(text); }
 };
 
-/// One page of queue lengths. The matches stand in `root`.
+/// One page of queue lengths. The matches are in `root`.
 struct CAPABILITYSET_API PersonQueueCountingResult : JsonRecord<PersonQueueCountingResult>,
                                                      SearchResultPage
 {
@@ -31,7 +31,7 @@ struct CAPABILITYSET_API PersonQueueCountingResult : JsonRecord<PersonQueueCount
     explicit PersonQueueCountingResult(const std::string& text) { Parse(text); }
 };
 
-/// Which waiting times to search; time, region and the like stand in `root`.
+/// What waiting times to search for. Put time, region and other conditions in `root`.
 struct CAPABILITYSET_API PersonQueueTimeDescription : JsonRecord<PersonQueueTimeDescription>,
                                                       SearchPage
 {
@@ -41,7 +41,7 @@ struct CAPABILITYSET_API PersonQueueTimeDescription : JsonRecord<PersonQueueTime
     explicit PersonQueueTimeDescription(const std::string& text) { Parse(text); }
 };
 
-/// One page of waiting times. The matches stand in `root`.
+/// One page of waiting times. The matches are in `root`.
 struct CAPABILITYSET_API PersonQueueTimeResult : JsonRecord<PersonQueueTimeResult>, SearchResultPage
 {
     static constexpr const char* kKey = "PersonQueueTimeResult";

@@ -1,4 +1,4 @@
-// What searches have in common: the page that is asked for, and what the answer says of it.
+// What all paged searches share: the page asked for and the page received.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,12 +9,12 @@
 namespace CapabilitySet
 {
 
-/// The page of a search that a description asks for.
+/// The page that a search asks for.
 struct CAPABILITYSET_API SearchPage
 {
-    std::string searchID;          ///< of the client's choice, the same for all pages of one search
+    std::string searchID;          ///< chosen by the client, the same for all pages of a search
     int searchResultPosition = 0;  ///< index of the first result wanted, from 0
-    int maxResults = 0;            ///< how many results the page may hold
+    int maxResults = 0;            ///< page size
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -25,16 +25,16 @@ struct CAPABILITYSET_API SearchPage
     }
 };
 
-/// What an answer says of its page.
+/// What an answer says about its page.
 struct CAPABILITYSET_API SearchResultPage
 {
-    /// Some devices answer a search without a key around the result.
+    /// Some devices send the result without a key around it.
     static constexpr bool kMayLackKey = true;
 
-    std::string responseStatusStrg;  ///< "OK", "MORE" when further pages follow, "NO MATCH"
+    std::string responseStatusStrg;  ///< "OK", "MORE" if pages follow, "NO MATCH"
     int numOfMatches = 0;            ///< results in this page
-    int totalMatches = 0;            ///< results in all pages together
-    int progress = 0;                ///< of the search on the device, percent
+    int totalMatches = 0;            ///< results in all pages
+    int progress = 0;                ///< progress of the search on the device, percent
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)

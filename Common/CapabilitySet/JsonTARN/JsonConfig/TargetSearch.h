@@ -1,4 +1,4 @@
-// Searching files by the kind of target in them, and a data centre's video tasks.
+// Search for files by target type, and for the video tasks of a data centre.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,7 +10,7 @@
 namespace CapabilitySet
 {
 
-/// Which files to search; target kind, time, channels and the like stand in `root`.
+/// What files to search for. Put target type, time, channels and other conditions in `root`.
 struct CAPABILITYSET_API TargetSearchDescription : JsonRecord<TargetSearchDescription>, SearchPage
 {
     static constexpr const char* kKey = "TargetSearchDescription";
@@ -19,7 +19,7 @@ struct CAPABILITYSET_API TargetSearchDescription : JsonRecord<TargetSearchDescri
     explicit TargetSearchDescription(const std::string& text) { Parse(text); }
 };
 
-/// One page of files. The matches stand in `root`.
+/// One page of files. The matches are in `root`.
 struct CAPABILITYSET_API TargetSearchResult : JsonRecord<TargetSearchResult>, SearchResultPage
 {
     static constexpr const char* kKey = "TargetSearchResult";
@@ -28,7 +28,7 @@ struct CAPABILITYSET_API TargetSearchResult : JsonRecord<TargetSearchResult>, Se
     explicit TargetSearchResult(const std::string& text) { Parse(text); }
 };
 
-/// Which tasks of a data centre to search; further conditions stand in `root`.
+/// What tasks of a data centre to search for. Put further conditions in `root`.
 struct CAPABILITYSET_API DataCenterTaskCond : JsonRecord<DataCenterTaskCond>, SearchPage
 {
     static constexpr const char* kKey = "DataCenterTaskCond";
@@ -37,7 +37,7 @@ struct CAPABILITYSET_API DataCenterTaskCond : JsonRecord<DataCenterTaskCond>, Se
     explicit DataCenterTaskCond(const std::string& text) { Parse(text); }
 };
 
-/// One page of tasks. The matches stand in `root`.
+/// One page of tasks. The matches are in `root`.
 struct CAPABILITYSET_API DataCenterTaskResult : JsonRecord<DataCenterTaskResult>, SearchResultPage
 {
     static constexpr const char* kKey = "DataCenterTaskResult";

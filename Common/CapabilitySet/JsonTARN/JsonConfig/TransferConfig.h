@@ -1,4 +1,4 @@
-// What transmission equipment tells of itself: slots of fibre converters, power over Ethernet.
+// Transmission equipment: slots of fibre converters, Power over Ethernet.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,19 +11,19 @@
 namespace CapabilitySet
 {
 
-/// The slots of a fibre converter's crate.
+/// The slots of a fibre converter crate.
 struct CAPABILITYSET_API FiberConvertSlotList : JsonTree<FiberConvertSlotList>
 {
     FiberConvertSlotList() = default;
     explicit FiberConvertSlotList(const std::string& text) { Parse(text); }
 };
 
-/// Power over Ethernet at each port of a switch.
+/// Power over Ethernet at the ports of a switch.
 struct CAPABILITYSET_API PortPoeInfoList : JsonRecord<PortPoeInfoList>
 {
     static constexpr const char* kKey = "";
 
-    std::vector<Json::Value> ports;  ///< one object a port, as the device tells it
+    std::vector<Json::Value> ports;  ///< "PortPOEInfoList" of "PortPOEInfo": one object per port
 
     PortPoeInfoList() = default;
     explicit PortPoeInfoList(const std::string& text) { Parse(text); }

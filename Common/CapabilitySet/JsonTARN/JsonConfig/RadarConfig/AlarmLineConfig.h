@@ -1,4 +1,4 @@
-// The alarm lines of a radar.
+// Alarm lines of a radar.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
