@@ -28,8 +28,8 @@ struct CAPABILITYSET_API JsonPart
 template <class Record>
 struct CAPABILITYSET_API JsonRecord
 {
-    Json::Value
-        root;  ///< all that the device sent under the key, also members without a field here
+    /// All that the device sent under the key, including members without a field here.
+    Json::Value root;
 
     /// Reads an answer. An empty text or one that is not JSON changes nothing. A missing member
     /// reads as false, 0 or empty; list items are appended. Reading ends at a member of the wrong

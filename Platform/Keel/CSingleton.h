@@ -5,12 +5,13 @@
 namespace Keel
 {
 
-/// Instance() makes the object on its first call, on whichever thread; later calls return it.
-/// It is never destroyed, so it may be used while other static objects go away.
+/// Holds one object of type T. It is created on first use and never destroyed, so it can be used
+/// while other static objects are destroyed.
 template <class T>
 class CSingleton
 {
 public:
+    /// The object. Safe to call from any thread.
     static T& Instance()
     {
         static T* const instance = new T;

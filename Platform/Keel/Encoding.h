@@ -1,4 +1,4 @@
-// Between UTF-8 and the client's local code page.
+// Conversion from UTF-8 to the client's local code page.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,7 +10,7 @@
 namespace Keel
 {
 
-/// UTF-8 text in the local (ANSI) code page; what the code page cannot hold becomes '?'.
+/// Converts UTF-8 to the local (ANSI) code page. Characters that it lacks become '?'.
 KEEL_API std::string UTF8ToLocal(std::string_view utf8);
 
 }  // namespace Keel

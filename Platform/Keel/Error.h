@@ -9,23 +9,23 @@
 namespace Keel::Error
 {
 
-/// Class of an SDK error number.
+/// Module of an SDK error number.
 inline constexpr int kModuleSdk = 50;
-/// Class of a device model's error code.
+/// Module of a device model error code.
 inline constexpr int kModuleDeviceModel = 72;
 
-/// What went wrong last.
+/// The last failure.
 struct ErrorCode
 {
-    int module = 0;  ///< kModuleSdk or kModuleDeviceModel
-    int code = 0;    ///< the SDK's error number or the model's error code
-    std::string description;
+    int module = 0;           ///< kModuleSdk or kModuleDeviceModel
+    int code = 0;             ///< SDK error number or device model error code
+    std::string description;  ///< left empty by this library
 };
 
-/// Stores the calling thread's last error; it stays until the next call on this thread.
+/// Sets the calling thread's last error. It stays until the next call on this thread.
 KEEL_API void SetLastError(const ErrorCode& error);
 
-/// The calling thread's last error; all zero when none was set.
+/// The calling thread's last error; all zero if none was set.
 KEEL_API const ErrorCode& GetLastError();
 
 }  // namespace Keel::Error

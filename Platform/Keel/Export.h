@@ -1,4 +1,4 @@
-// Marks what the Keel library exports.
+// Marks the symbols that the Keel library exports.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 

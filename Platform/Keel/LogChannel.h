@@ -1,4 +1,4 @@
-// One log4cxx logger of the platform, asked and written to without configuring log4cxx.
+// One log4cxx logger of the platform, used without configuring log4cxx.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,8 +12,8 @@
 namespace Keel::details
 {
 
-/// A logger by its name, found when it is first needed. Lives as long as the process: the name is
-/// a literal, the channel a static object or one that is never destroyed. Nothing is thrown.
+/// A logger found by name on first use. It lives as long as the process: the name is a literal, the
+/// channel a static object or one that is never destroyed. Never throws.
 class LogChannel
 {
 public:
@@ -21,14 +21,16 @@ public:
     LogChannel(const LogChannel&) = delete;
     LogChannel& operator=(const LogChannel&) = delete;
 
+    /// Whether a line of this level would be written.
     [[nodiscard]] bool IsEnabled(LogLevel level) const noexcept;
 
-    /// Writes the line when its level is on. `message` is UTF-8.
+    /// Writes a line if its level is enabled. `message` is UTF-8.
     void Write(LogLevel level, const std::string& message,
                const log4cxx::spi::LocationInfo& location) const noexcept;
 
-    /// The same on the logger of any name.
+    /// The same for a logger given by name.
     [[nodiscard]] static bool IsEnabled(LogLevel level, const std::string& name) noexcept;
+    /// The same for a logger given by name.
     static void Write(LogLevel level, const std::string& name, const std::string& message,
                       const log4cxx::spi::LocationInfo& location) noexcept;
 

@@ -1,4 +1,4 @@
-// Times as the protocol writes them.
+// Conversion of the protocol's time formats.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,14 +10,15 @@
 namespace Keel::TimeUtil
 {
 
-/// "2020-01-01T00:00:00", optionally with fractions (dropped) and "Z" or "+08:00", as UTC seconds.
-/// A text without a zone is local time; of a time that local clocks show twice the first is meant,
-/// one that they skip is counted on from before the change. "24:00:00" is the next day's midnight.
-/// -1 when the text is no such time; nothing may stand before or after it.
+/// Converts "2020-01-01T00:00:00", optionally with fractions (ignored) and "Z" or "+08:00", to
+/// seconds since 1970 UTC. Without a zone the time is local: one that occurs twice at a clock
+/// change means its first occurrence, one that is skipped is counted from before the change.
+/// "24:00:00" is midnight of the next day. Returns -1 for any other text; nothing may precede or
+/// follow the time.
 KEEL_API std::time_t ISODatetime2TimeT(std::string_view text);
 
-/// "2020-01-01 00:00:00", local time in the same sense, as UTC seconds; -1 when the text is no such
-/// time.
+/// Converts "2020-01-01 00:00:00", local time as above, to seconds since 1970 UTC; -1 for any other
+/// text.
 KEEL_API std::time_t StrDatetime2TimeT(std::string_view text);
 
 }  // namespace Keel::TimeUtil

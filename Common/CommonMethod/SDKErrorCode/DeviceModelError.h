@@ -1,18 +1,18 @@
-// The error codes that device models are known to report.
+// The known error codes of device models.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 namespace comm_method
 {
 
-/// Whether a device model's error code is a known one. The gaps between the codes belong to the
-/// set: clients tell a code in a gap from a known one.
+/// Whether a device model error code is known. Clients rely on the gaps: a code in a gap is not.
 constexpr bool isDeviceModelError(int code)
 {
+    /// A range of known codes.
     struct Codes
     {
-        int first;
-        int last;
+        int first;  ///< lowest code
+        int last;   ///< highest code
     };
     constexpr Codes kKnown[] = {
         {0x100001, 0x100007},   {0x100100, 0x100105}, {0x200001, 0x20000E}, {0x300001, 0x300005},

@@ -1,4 +1,4 @@
-// The SDK's last error, sorted into the two classes that the client's last-error record knows.
+// The SDK's last error as module and code, the form of Keel's last-error record.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,9 +12,10 @@
 namespace comm_method
 {
 
-/// Reads the calling thread's last SDK error: call it right after the call that failed, on the
-/// same thread. A known device model error code gives `module` 72 and that code, anything else
-/// `module` 50 and the SDK's error number. Logs both numbers at error level.
+/// Reads the calling thread's last SDK error. Call it right after the failed call, on the same
+/// thread. A known device model error code gives `module` 72 and that code; anything else gives
+/// `module` 50 and the SDK's error number. Logs both numbers at error level. The last argument has
+/// no effect.
 inline void getLastSDKError(int& module, int& code, bool /*unused*/ = false)
 {
     using Keel::details::LogLevel;

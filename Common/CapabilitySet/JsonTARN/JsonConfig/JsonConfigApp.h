@@ -1,4 +1,4 @@
-// The configuration, search and control operations of the protocol's JSON flavour.
+// Configuration, search and control in the protocol's JSON form. Queries.h describes the queries.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -28,195 +28,258 @@ struct tagNET_ORB_XML_CONFIG_OUTPUT;
 namespace CapabilitySet
 {
 
-/// How every operation behaves: output records and the error slot are reset first. True means that
-/// the device carried the request out or answered it, whatever the answer's status holds: look at
-/// the JsonStatus. On false the error slot holds 43 (the answer is larger than 16,384,000 bytes),
-/// 23 (memory ran out), or the SDK's own error number, and but for 43 and 23
-/// Keel::Error::GetLastError() tells more; output records stay at their defaults. Channels are
-/// given by the SDK's number; one that the SDK cannot convert is false with error 0, and nothing
-/// is sent. Operations may be called from any thread.
+/// As in Queries.h, with these differences: only the SDK's 43 grows the buffer, its 1000 and 1001
+/// are passed on unchanged, and 23 means that memory ran out. True means that the device answered,
+/// even if it refused: check the JsonStatus. If the SDK cannot convert a channel, the operation
+/// returns false with error 0 and sends nothing. Input records are never changed.
 class CAPABILITYSET_API JsonConfigApp
 {
 public:
-    // Alarm hosts. `subSystemID` and `zoneID` are the host's own numbers.
+    // Alarm hosts. `subSystemID`, `zoneID` and `outputID` are the host's own numbers.
 
-    /// Arms a subsystem; `ways` is one of the ways that the host's capability lists.
+    /// Arms a subsystem. The host's capability lists the `ways`, such as "away".
+    /// POST /TARN/SecurityCP/control/arm/<{subSystemID}>?ways=<{ways}>&format=json
+    // Kept: the angle brackets are sent, here and in the requests below that show them.
     static bool SetDevArming(JsonStatus& status, const std::string ways, const int subSystemID,
                              unsigned int& error, const int userID);
     /// Disarms a subsystem.
+    /// POST /TARN/SecurityCP/control/disarm/<{subSystemID}>?format=json
     static bool SetDevDisArm(JsonStatus& status, const int subSystemID, unsigned int& error,
                              const int userID);
-    /// Clears a subsystem's alarms.
+    /// Clears the alarms of a subsystem.
+    /// POST /TARN/SecurityCP/control/clearAlarm/<{subSystemID}>?format=json
     static bool SetDevClearAlarm(JsonStatus& status, const int subSystemID, unsigned int& error,
                                  const int userID);
-    /// Bypasses a zone, or with zone -1 the zones that `cfg` lists.
+    /// Bypasses a zone, or for zone -1 the zones that `cfg` lists.
+    /// POST /TARN/SecurityCP/control/bypass/<{zoneID}>?format=json
+    /// For zone -1 POST /TARN/SecurityCP/control/bypass?format=json, with `cfg` as body
     static bool SetDevBypass(const AlarmHostBypassCfg& cfg, JsonStatus& status, unsigned int& error,
                              const int zoneID, const int userID);
-    /// Takes a zone back from bypass, or with zone -1 the zones that `cfg` lists.
+    /// Ends the bypass of a zone, or for zone -1 of the zones that `cfg` lists.
+    /// POST /TARN/SecurityCP/control/bypassRecover/<{zoneID}>?format=json
+    /// For zone -1 POST /TARN/SecurityCP/control/bypassRecover?format=json, with `cfg` as body
     static bool SetDevBypassRecover(const AlarmHostBypassCfg& cfg, JsonStatus& status,
                                     unsigned int& error, const int zoneID, const int userID);
-    /// Switches an output, or with output -1 the outputs that `cfg` lists. Errors of single outputs
-    /// are appended to `errors`, which is never cleared.
+    /// Switches an output, or for output -1 the outputs that `cfg` lists. Waits up to 20 s.
+    /// PUT /TARN/SecurityCP/control/outputs/{outputID}?format=json, with `cfg` as body
+    /// For output -1 POST /TARN/SecurityCP/control/outputs?format=json, with `cfg` as body
+    /// Errors of single outputs are appended to `errors`, which is never cleared.
     static bool SetOutputControl(const AlarmHostOutputCfg& cfg, unsigned int& error,
                                  JsonErrorStatusList& errors, const int outputID, const int userID);
-    /// How the host reaches its centre.
+    /// Connections of the host to its centre.
+    /// GET /TARN/SecurityCP/status/communication?format=json
     static bool GetAlarmHostCommuniStatus(AlarmHostCommunicationStatus& out, unsigned int& error,
                                           const int userID);
-    /// The host's zones.
+    /// Zones of the host.
+    /// GET /TARN/SecurityCP/Configuration/zones?format=json
     static bool GetAlarmHostZoneConfiguration(AlarmHostZoneConfig& out, unsigned int& error,
                                               const int userID);
-    /// The host's subsystems.
+    /// Subsystems of the host.
+    /// GET /TARN/SecurityCP/Configuration/subSys?format=json
     static bool GetSubSystemConfig(AlarmHostSubSystemConfig& out, unsigned int& error,
                                    const int userID);
-    /// The host's outputs.
+    /// Outputs of the host.
+    /// GET /TARN/SecurityCP/Configuration/outputs?format=json
     static bool GetTriggerConfig(TriggerListConfig& out, unsigned int& error, const int userID);
     /// One page of the host's log.
+    /// POST /TARN/SecurityCP/Log/search?format=json, with the condition as body
     static bool GetAlarmHostDeviceLog(const AlarmHostLogConditionDescription& condition,
                                       AlarmHostDeviceLogResult& out, unsigned int& error,
                                       const int userID);
 
     // Fire detectors.
 
-    /// The states of all detectors.
+    /// States of all detectors.
+    /// GET /TARN/FireControl/Status/detectorStatus?format=json
     static bool GetDetectorStates(DetectorStates& out, unsigned int& error, const int userID);
-    /// Which commands detectors take.
+    /// Commands that detectors accept.
+    /// GET /TARN/FireControl/Control/detectorAlarm/capabilities?format=json
     static bool GetDetectorSilenceCap(DetectorSilenceCap& out, unsigned int& error,
                                       const unsigned int userID);
-    /// Commands a detector, or with a `second` that is not negative one of the detectors at it.
+    /// Sends a command to a detector. DetectorSilenceCap lists the limits of `first` and `second`.
+    /// PUT /TARN/FireControl/Control/detectorAlarm/{first}?format=json, with the command as body
+    /// For a `second` of 0 or more PUT /TARN/FireControl/Control/detectorAlarm/{first}/{second}
+    /// ?format=json, likewise
     static bool SetDetectorSilence(JsonStatus& status, DetectorSilence command, unsigned int& error,
                                    const int first, const int second, const int userID);
 
-    // What a client starts by hand. Input records are left alone, those passed by plain reference
-    // too.
+    // Functions that a client starts manually.
 
-    /// How faces are snapped by hand at a channel.
+    /// Settings of manual face snaps.
+    /// GET /TARN/Intelligent/channels/{channel}/manualFaceSnap?format=json
     static bool GetManualFaceSnapCfg(ManualFaceSnapCfg& out, unsigned int& error, const int channel,
                                      const int userID);
     /// Tracks a person.
+    /// PUT /TARN/Intelligent/channels/{channel}/manualPersonArmingTrack?format=json, with `track`
+    /// as body
+    // Kept: the line is sent without CR LF.
     static bool setManualPersonTrack(ManualPersonArmingTrack& track, unsigned int& error,
                                      const int channel, const int userID);
-    /// Measures the temperature at a point of the picture.
+    /// Measures the temperature at a point in the picture.
+    /// PUT /TARN/Thermal/channels/{channel}/clickToThermometry/rules/1?format=json, with
+    /// `thermometry` as body
     static bool SetMaunalClickThermomtry(JsonStatus& status, ManualClickThermometry thermometry,
                                          unsigned int& error, const int channel, const int userID);
-    /// How the device frees its pan-tilt head of ice. The channel is not sent.
+    /// De-icing of the pan-tilt head. `channel` is not sent.
+    /// GET /TARN/System/Hardware/PTDeicing?format=json
     static bool GetManualPTDeicingCfg(ManualPTDeicingCfg& out, unsigned int& error,
                                       const int channel, const int userID);
-    /// Sets what GetManualPTDeicingCfg gets. The channel is not sent.
+    /// Sets the de-icing of the pan-tilt head. `channel` is not sent.
+    /// PUT /TARN/System/Hardware/PTDeicing?format=json, with `cfg` as body
     static bool SetManualPTDeicingCfg(const ManualPTDeicingCfg& cfg, JsonStatus& status,
                                       unsigned int& error, const int channel, const int userID);
 
-    // Searches that are answered page by page: ask again with the same searchID and a higher
-    // searchResultPosition while the answer's responseStatusStrg is "MORE".
+    // Paged searches, each with its description or condition as body. While responseStatusStrg is
+    // "MORE", search again with the same searchID and a higher searchResultPosition.
 
-    /// Lengths of queues.
+    /// Queue lengths.
+    /// POST /TARN/Intelligent/channels/{channel}/personQueueDetection/queueCountingResult
+    /// ?format=json
     static bool SearchPersonQueueCounting(const PersonQueueCountingDescription& description,
                                           PersonQueueCountingResult& out, unsigned int& error,
                                           const int channel, const int userID);
-    /// Waiting times at queues.
+    /// Waiting times.
+    /// POST /TARN/Intelligent/channels/{channel}/personQueueDetection/queueTimeResult?format=json
     static bool SearchPersonQueueTime(const PersonQueueTimeDescription& description,
                                       PersonQueueTimeResult& out, unsigned int& error,
                                       const int channel, const int userID);
     /// Captured faces.
+    /// POST /TARN/SDT/Face/captureSearch
+    // Kept: the line is sent without "?format=json".
     static bool GetCaptureSearchResult(CaptureSearchDescription& description,
                                        CaptureSearchResult& out, unsigned int& error,
                                        const int userID);
-    /// Persons of face libraries.
+    /// People in face libraries.
+    /// POST /TARN/Intelligent/FDLib/FCSearch?format=json
     static bool GetFDLibFCSearchByJson(FDLibSearchDescription& description, FDLibSearchResult& out,
                                        unsigned int& error, const int userID);
-    /// Results of the traffic analysis at a channel.
+    /// Traffic at an intersection.
+    /// POST /TARN/Intelligent/channels/{channel}/intersectionAnalysis/search?format=json
     static bool SearchIntersectionAnalysis(const IntersectionAnalysisCondition& condition,
                                            IntersectionAnalysisResult& out, unsigned int& error,
                                            const int channel, const int userID);
-    /// Files by the kind of target in them.
+    /// Files by the type of target in them.
+    /// POST /TARN/ContentMgmt/SearchByTargetType?format=json
     static bool SearchTargetFiles(TargetSearchDescription& description, TargetSearchResult& out,
                                   unsigned int& error, const int userID);
-    /// Video tasks of a data centre. Without an error slot: Keel::Error::GetLastError() tells why
-    /// it failed, but for 43 and 23.
+    /// Video tasks of a data centre. Has no error argument: see Keel::Error::GetLastError(), which
+    /// 43 and 23 do not set.
+    /// POST /TARN/SDT/Management/Task/Video/monitorPort/search?format=json
+    // Kept: the line is sent without CR LF.
     static bool getDataCenterResource(DataCenterTaskResult& out,
                                       const DataCenterTaskCond& condition, const int userID);
     /// Analysed behaviour.
+    /// POST /TARN/SDT/Management/analysisResult/search?format=json
     static bool getDeeplyThinkBehaviorSearchResult(DeeplyThinkBehaviorDescription& description,
                                                    DeeplyThinkBehaviorSearch& out,
                                                    unsigned int& error, const int userID);
 
-    // Data packages. The answer is waited for up to two minutes and may hold 1,048,576,000 bytes
-    // (else error 43). Of `out` outBuffer and returnedSize are set: outBuffer is an array of
-    // exactly returnedSize bytes that the caller releases with
-    // `delete[] static_cast<char*>(out.outBuffer)`. On false `out` is not touched.
+    // Data packages. They wait up to two minutes and accept 1,048,576,000 bytes; a larger package
+    // is error 43. On success they set outBuffer and returnedSize of `out`: outBuffer is an array
+    // of exactly returnedSize bytes. The caller frees it, as char*, with delete[]. On failure `out`
+    // is unchanged.
 
-    /// What a search for captured faces finds, packed.
+    /// The results of a capture search.
+    /// POST /TARN/SDT/Face/captureSearch/dataPackage, with the description as body
+    // Kept: the line is sent without "?format=json".
     static bool GetFCDataPackageByJson(CaptureSearchDescription& description,
                                        tagNET_ORB_XML_CONFIG_OUTPUT& out, unsigned int& error,
                                        const int userID);
-    /// What a human-feature search has found, packed.
+    /// The results of a human-feature search.
+    /// GET /TARN/SDT/HFPD/search/dataPackage/{taskID}?format=json
     static bool GetHFPDDataPackage(tagNET_ORB_XML_CONFIG_OUTPUT& out, std::string taskID,
                                    unsigned int& error, const int userID);
 
-    // Human-feature search: a task of the device's. Poll its progress, then fetch its results or
-    // their package. Task IDs are sent as they stand.
+    // Human-feature search runs as a task on the device. Poll its progress, then fetch the results
+    // or their package.
 
-    /// The task that compares captures with libraries.
+    /// The task that compares captured faces with libraries.
+    /// GET /TARN/SDT/HFPD/searchTask/captureLibCollision?format=json
     static bool GetHFPDCaptureLibCollisionTask(HFPDCaptureLibCollisionTask& out,
                                                unsigned int& error, const int userID);
-    /// How far a task is.
+    /// Progress of a task.
+    /// GET /TARN/SDT/Management/Task/progress/{taskID}?format=json
     static bool GetHFPDSearchProgress(HFPDSearchProgress& out, std::string taskID,
                                       unsigned int& error, const int userID);
     /// What a task has found.
+    /// GET /TARN/SDT/HFPD/searchTask/result/recordData/{taskID}?format=json
     static bool GetHFPDSearchRecordData(HFPDSearchFaceResult& out, std::string taskID,
                                         unsigned int& error, const int userID);
-    /// Pauses (action 0), resumes (1), deletes (2) or cancels (3) a task. Any other action is
-    /// false with error 23, and nothing is sent.
+    /// Pauses, resumes, deletes or cancels a task:
+    /// action 0: GET /TARN/SDT/Management/Task/pause/{task}?format=json
+    /// action 1: GET /TARN/SDT/Management/Task/resume/{task}?format=json
+    /// action 2: DELETE /TARN/SDT/Management/Task/{task}?format=json
+    /// action 3: GET /TARN/SDT/Management/Task/cancel{task}?format=json
+    /// Any other action: false with error 23, and nothing is sent.
+    // Kept: no slash before the number in the line that cancels.
     static bool GetHFPDManagementTask(JsonStatus& status, int action, int task, unsigned int& error,
                                       const int userID);
 
-    // The package of a search in face libraries: get a task ID, then poll until there is a URL.
+    // Package of a face library search: get a task ID, then poll until the answer has a URL.
 
-    /// Has the device pack what a search finds.
+    /// Starts packing the results of a search.
+    /// POST /TARN/Intelligent/FDLib/FCSearch/dataPackage?format=json, with the description as body
     static bool GetFDLibFCSearchDataPackageTaskID(FDLibSearchDescription& description,
                                                   FDLibFCSearchPackageByJsonResult& out,
                                                   unsigned int& error, const int userID);
-    /// How far the packing is. The task ID is sent as it stands.
+    /// Progress of the packing, and the URL of the package once it is complete.
+    /// GET /TARN/Intelligent/FDLib/FCSearch/dataPackage/progress?format=json&taskID={taskID}
     static bool GetFDLibFCSearchDataPackage(FDLibFCSearchPackageByTaskID& out, std::string taskID,
                                             unsigned int& error, const int userID);
 
     // Analysis.
 
-    /// How alike the faces of pictures are.
+    /// How similar the faces in pictures are.
+    /// POST /TARN/Intelligent/imagesComparision/face, with the description as body
+    // Kept: the line is sent without "?format=json".
     static bool GetImagesComparision(ImagesCmpDescription& description, ImagesCmpResult& out,
                                      unsigned int& error, const int userID);
-    /// Settings of the traffic analysis at a channel.
+    /// Settings of the traffic analysis.
+    /// GET /TARN/Intelligent/channels/{channel}/intersectionAnalysis?format=json
     static bool GetIntersectionAnalysisConfig(IntersectionAnalysisConfig& out, unsigned int& error,
                                               const int channel, const int userID);
-    /// The algorithm models that the device holds.
+    /// Algorithm models on the device.
+    /// GET /TARN/Intelligent/AIOpenPlatform/algorithmModel/management?format=json
     static bool GetAIOPModel(GetAIOPAlgorithmModel& out, unsigned int& error, const int userID);
-    /// Tells the device whether alarms were right.
+    /// Tells the device whether an alarm was right.
+    /// PUT /TARN/Intelligent/misinfoFilter/confirmation?format=json, with `confirm` as body
     static bool setMisinfoConfirmConfig(const MisinfoConfirm& confirm, JsonStatus& status,
                                         unsigned int& error, const int userID);
 
-    // Audio. Channels are the client's numbers, sent as they are.
+    // Audio.
 
     /// Audio detection of a channel.
+    /// GET /TARN/System/Audio/channels/{channel}/Test?format=json
+    // Kept: both lines send the channel as passed and have no CR LF.
     static bool GetAudioDectioinCfg(CAudioDectionCfg& out, unsigned int& error, const int channel,
                                     const int userID);
-    /// Sets it. The flag is accepted and has no effect.
+    /// Sets the audio detection of a channel. `flag` has no effect.
+    /// PUT /TARN/System/Audio/channels/{channel}/Test?format=json, with `cfg` as body
     static bool SetAudioDectioinCfg(const CAudioDectionCfg& cfg, unsigned int& error,
                                     const int channel, const bool flag, const int userID);
     /// Imports a detected sound into a library.
+    /// POST /TARN/Intelligent/AIOpenPlatform/audioDetection/importAudioLib?format=json, with `data`
+    /// as body
     static bool PostAudioDetectionToAudioLib(const AudioImportAudioLibData& data,
                                              AudioImportAudioLibResult& out, unsigned int& error,
                                              const int& userID);
-    /// The audio libraries of the device.
+    /// Audio libraries of the device.
+    /// GET /TARN/Intelligent/audioLib?format=json
     static bool GetAudioLibBaseConfig(AudioLibBaseConfig& out, unsigned int& error,
                                       const int& userID);
 
     // Equipment.
 
-    /// The slots of a fibre converter's crate.
+    /// Slots of a fibre converter crate.
+    /// GET /TARN/Transfers/FiberConvert/slot?format=json
+    // Kept: the line is sent without CR LF.
     static bool getFiberConvertSlotList(FiberConvertSlotList& out, unsigned int& error,
                                         const int userID);
-    /// Power over Ethernet at each port of a switch.
+    /// Power over Ethernet at the ports of a switch.
+    /// GET /TARN/Transfers/Switches/portCfg/portPOEInfo?format=json
     static bool getPortPoeInfoCfgList(PortPoeInfoList& out, unsigned int& error, int userID);
-    /// The alarm lines of a radar.
+    /// Alarm lines of a radar.
+    /// GET /TARN/Radar/Configuration/alarmLineCfg?format=json
     static bool GetRadarAlarmLineConfiguration(AllAlarmLineCfg& out, unsigned int& error,
                                                const int userID);
 };
