@@ -1,5 +1,5 @@
-# Installs the library into a folder of its own and builds clients against it there.
-# Included by the top-level CMakeLists.txt, since it needs every target that is installed.
+# Installs the library into its own folder and builds clients against it. The top-level
+# CMakeLists.txt includes this file, since it needs every target that is installed.
 
 set(consumer_dir ${PROJECT_BINARY_DIR}/consumer)
 set(consumer_flags ${CMAKE_CXX_FLAGS})
@@ -17,7 +17,7 @@ function(consumer_test name step)
       -DCXX=${CMAKE_CXX_COMPILER} "-DFLAGS=${consumer_flags}" -DBUILD_TYPE=${CMAKE_BUILD_TYPE}
       -DLAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER} -P
       ${PROJECT_SOURCE_DIR}/tests/consumer/RunStep.cmake)
-  set_tests_properties(Consumer.${name} PROPERTIES TIMEOUT 300 ${ARGN})
+  set_tests_properties(Consumer.${name} PROPERTIES TIMEOUT 1800 ${ARGN})
 endfunction()
 
 consumer_test(Install install FIXTURES_SETUP installed)
