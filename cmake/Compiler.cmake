@@ -14,8 +14,11 @@ endif()
 
 find_program(CAPABILITYSET_CCACHE ccache)
 if(CAPABILITYSET_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CAPABILITYSET_CCACHE})
-  set(CMAKE_C_COMPILER_LAUNCHER ${CAPABILITYSET_CCACHE})
+  # What ccache must overlook to cache units that use a precompiled header.
+  set(launcher env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+               ${CAPABILITYSET_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
+  set(CMAKE_C_COMPILER_LAUNCHER ${launcher})
 endif()
 
 cmake_path(RELATIVE_PATH PROJECT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_BINARY_DIR} OUTPUT_VARIABLE from_build)
