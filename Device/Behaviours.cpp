@@ -1,9 +1,15 @@
-// The table of behaviours, and the two that every device has: channel numbers and documents.
+// All behaviours of a device, and the two that every device has: channel numbers and documents.
 // SPDX-License-Identifier: Apache-2.0
-#include "Device/AnswerTable.h"
-#include "Device/Behaviour.h"
+#include "Device/Behaviours.h"
+
+#include "Device/Settings.h"
+#include "Device/alarmhost/AlarmHost.h"
+#include "Device/document/Text.h"
+#include "Device/manifest/AnswerTable.h"
+#include "Device/search/ContentSearch.h"
 #include "Device/search/DocumentPages.h"
 #include "Device/search/JsonSearch.h"
+#include "Device/search/SearchTasks.h"
 
 namespace Device
 {
@@ -23,7 +29,7 @@ public:
             return std::nullopt;
         }
         if (request.method != "GET") {
-            return MakeStatus(Outcome::kMethodNotAllowed, request.target);
+            return MakeMethodNotAllowed(request.target, {"GET"});
         }
         int number = 0;
         const auto channel =
@@ -38,7 +44,7 @@ private:
     const Profile& profile_;
 };
 
-// The documents of the profile, as they stand.
+// The documents of the profile.
 class Documents : public Behaviour
 {
 public:
@@ -53,26 +59,23 @@ public:
             }
         }
         if (found.answer == nullptr) {
-            return found.unknownChannel
-                       ? std::optional(MakeStatus(Outcome::kInvalidChannel, request.target))
-                   : found.otherMethod
-                       ? std::optional(MakeStatus(Outcome::kMethodNotAllowed, request.target))
-                       : std::nullopt;
+            return AnswerTable::Refuse(found, request);
         }
-        if (std::optional<Response> refusal = RefuseBadValues(*found.answer, request)) {
+        const Device::Answer& answer = *found.answer;
+        if (std::optional<Response> refusal = RefuseBadValues(answer.limits, request)) {
             return refusal;
         }
-        if (found.answer->status) {
-            return MakeStatus(*found.answer->status, request.target);
+        if (answer.status) {
+            return MakeStatus(*answer.status, request.target);
         }
-        std::string document = FillIn(*found.answer, found.channel);
-        if (found.answer->search) {
-            return AnswerSearch(*found.answer->search, document, request);
+        std::string document = answer.DocumentFor(found.channel);
+        if (answer.search) {
+            return AnswerSearch(*answer.search, document, request);
         }
-        if (found.answer->paging) {
-            document = MakePage(document, *found.answer->paging, request.body);
+        if (answer.paging) {
+            document = MakePage(document, *answer.paging, request.body);
         }
-        return Response{200, found.answer->contentType, std::move(document)};
+        return Response{200, answer.contentType, std::move(document)};
     }
 
 private:
@@ -85,7 +88,7 @@ std::unique_ptr<Behaviour> Make(const Profile& profile)
     return std::make_unique<Kind>(profile);
 }
 
-// The first that knows a request answers it: what keeps state stands before the documents.
+// The first behaviour that knows a request answers it, so those with state precede the documents.
 constexpr std::unique_ptr<Behaviour> (*kBehaviours[])(const Profile&) = {
     &Make<ChannelNumbers>, &MakeContentSearch, &MakeSettings,
     &MakeAlarmHost,        &MakeSearchTasks,   &Make<Documents>,
@@ -102,39 +105,6 @@ std::vector<std::unique_ptr<Behaviour>> MakeBehaviours(const Profile& profile)
         }
     }
     return behaviours;
-}
-
-std::optional<Response> RefuseMalformed(const ParsedRequest& request)
-{
-    if (request.document.form != RequestDocument::Form::Malformed) {
-        return std::nullopt;
-    }
-    return MakeStatus(
-        request.document.looksLikeJson ? Outcome::kBadJsonFormat : Outcome::kBadXmlFormat,
-        request.target);
-}
-
-std::optional<Response> RefuseBadValues(const Answer& answer, const ParsedRequest& request)
-{
-    return KeepsLimits(answer.limits, request.body, request.document.form)
-               ? std::nullopt
-               : std::optional(MakeStatus(Outcome::kBadParameters, request.target));
-}
-
-std::string FillIn(const Answer& answer, int channel)
-{
-    constexpr std::string_view kChannel = "{channel}";
-    if (!answer.namesChannel) {
-        return answer.document;
-    }
-    const std::string number = std::to_string(channel);
-    std::string out;
-    size_t from = 0;
-    for (size_t at = 0; (at = answer.document.find(kChannel, from)) != std::string::npos;
-         from = at + kChannel.size()) {
-        out.append(answer.document, from, at - from).append(number);
-    }
-    return out.append(answer.document, from);
 }
 
 }  // namespace Device

@@ -1,12 +1,14 @@
 // Settings: documents that a client reads, replaces and reads back.
 // SPDX-License-Identifier: Apache-2.0
+#include "Device/Settings.h"
+
 #include <algorithm>
 #include <map>
 #include <mutex>
 #include <utility>
 
-#include "Device/AnswerTable.h"
-#include "Device/Behaviour.h"
+#include "Device/Limits.h"
+#include "Device/manifest/AnswerTable.h"
 #include "Device/search/DocumentPages.h"
 
 namespace Device
@@ -23,11 +25,7 @@ public:
     {
         const AnswerTable::Found found = table_.Find(request);
         if (found.answer == nullptr) {
-            return found.unknownChannel
-                       ? std::optional(MakeStatus(Outcome::kInvalidChannel, request.target))
-                   : found.otherMethod
-                       ? std::optional(MakeStatus(Outcome::kMethodNotAllowed, request.target))
-                       : std::nullopt;
+            return AnswerTable::Refuse(found, request);
         }
         return request.method == "GET" ? Read(found) : Replace(found, request);
     }
@@ -37,8 +35,9 @@ private:
     {
         const std::lock_guard lock(mutex_);
         const auto stored = stored_.find({found.answer, found.channel});
-        return {200, found.answer->contentType,
-                stored != stored_.end() ? stored->second : FillIn(*found.answer, found.channel)};
+        return {
+            200, found.answer->contentType,
+            stored != stored_.end() ? stored->second : found.answer->DocumentFor(found.channel)};
     }
 
     Response Replace(const AnswerTable::Found& found, const ParsedRequest& request)
@@ -57,16 +56,27 @@ private:
             return MakeStatus(answer.json ? Outcome::kBadJsonContent : Outcome::kBadXmlContent,
                               request.target);
         }
-        if (std::optional<Response> refusal = RefuseBadValues(answer, request)) {
+        if (std::optional<Response> refusal = RefuseBadValues(answer.limits, request)) {
             return *std::move(refusal);
         }
+        return Store(found, request);
+    }
+
+    Response Store(const AnswerTable::Found& found, const ParsedRequest& request)
+    {
+        const Device::Answer& answer = *found.answer;
         std::string body(request.body);
         const std::lock_guard lock(mutex_);
         const std::pair key(&answer, found.channel);
         if (!answer.mergedItem.empty()) {
             const auto kept = stored_.find(key);
-            body = MergeItems(kept != stored_.end() ? kept->second : FillIn(answer, found.channel),
-                              body, answer.mergedItem, answer.mergedKey);
+            body =
+                MergeItems(kept != stored_.end() ? kept->second : answer.DocumentFor(found.channel),
+                           body, answer.mergedItem, answer.mergedKey);
+        }
+        // New items would let a merged list grow with every request.
+        if (body.size() > kMostBody) {
+            return MakeStatus(Outcome::kTooLarge, request.target);
         }
         stored_.insert_or_assign(key, std::move(body));
         return MakeStatus(Outcome::kOk, request.target);

@@ -35,7 +35,7 @@ endforeach()
 file(
   WRITE "${OUTPUT}"
   "// The files of the profile \"${NAME}\", generated from its folder.
-#include \"Device/EmbeddedProfiles.h\"
+#include \"Device/manifest/EmbeddedProfiles.h\"
 
 namespace Device
 {

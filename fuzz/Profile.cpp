@@ -1,9 +1,10 @@
-// Any bytes as the files of a simulated device's profile.
+// Reads arbitrary bytes as the files of a simulated device's profile.
 // SPDX-License-Identifier: Apache-2.0
-#include "Device/Profile.h"
+#include "Device/manifest/Profile.h"
 
 #include <map>
 
+#include "Device/DeviceModel.h"
 #include "fuzz/Check.h"
 #include "fuzz/Chunks.h"
 #include "fuzz/Targets.h"
@@ -15,10 +16,10 @@ namespace
 
 using Device::DeviceModel;
 
-/// The manifest, and one document of each kind for whatever files it names.
+/// The manifest, and one document of each kind for all files it names.
 Device::ProfileFiles FilesOf(const std::vector<std::string_view>& chunks)
 {
-    return [&chunks](const std::string& name) -> std::optional<std::string> {
+    return [&chunks](const std::string& name, std::string&) -> std::optional<std::string> {
         const std::size_t chunk = name == "manifest.json"   ? 0
                                   : name.ends_with(".json") ? 1
                                   : name.ends_with(".xml")  ? 2
@@ -35,7 +36,7 @@ std::string Replaced(std::string text, std::string_view what, const std::string&
     return text;
 }
 
-/// Asks for an answer of the profile as a client would that knows its first channel.
+/// Asks for an answer of the profile, about its first channel.
 void CheckAnswer(DeviceModel& device, const Device::Profile& profile, const Device::Answer& answer,
                  const std::string& body)
 {
@@ -67,15 +68,15 @@ void Profile(const std::string& text)
     std::string sameError;
     Device::Profile profile;
     const bool read = Device::ReadProfile(files, profile, error);
-    Require(read == error.empty(), "a fault has a sentence, and nothing else has");
+    Require(read == error.empty(), "a message is set on failure only");
     const auto device = DeviceModel::Load(files, sameError);
     Require(read ? (device != nullptr) == sameError.empty() : sameError == error,
-            "a profile reads alike each time", error);
+            "a profile is read the same way each time", error);
     if (device == nullptr) {
         return;
     }
     Require(device->Name() == profile.name && device->Channels() == profile.channels,
-            "a device is its profile's");
+            "a device has the name and channels of its profile");
     const std::string body(chunks[chunks.size() > 1 ? 1 : 0]);
     for (const Device::Answer& answer : profile.answers) {
         CheckAnswer(*device, profile, answer, body);

@@ -208,7 +208,7 @@ TEST_F(ProfileFolder, AFaultyManifestIsNamedByItsFault)
         {"[]", "object"},
         {R"({"name": 1})", "\"name\""},
         {R"({"name": "n", "description": "d"})", "\"answers\" is not an array"},
-        {R"({"name": "n", "description": "d", "answer": []})", "\"answer\" is no key"},
+        {R"({"name": "n", "description": "d", "answer": []})", "there is no key \"answer\""},
         {R"({"name": "n", "description": "d", "channels": {"x": 1}, "answers": []})", "\"x\""},
         {R"({"name": "n", "description": "d", "users": [{"name": "a"}], "answers": []})",
          "user \"a\": \"password\" is missing"},
@@ -217,9 +217,9 @@ TEST_F(ProfileFolder, AFaultyManifestIsNamedByItsFault)
          "\"users\" is not an array"},
         {R"({"name": "n", "description": "d", "users": [1], "answers": []})", "not an object"},
         {R"({"name": "n", "description": "d", "users": [{"name": "a:b", "password": "p"}], "answers": []})",
-         "must not be empty nor hold"},
+         "a name is empty or contains"},
         {R"({"name": "n", "description": "d", "users": [{"name": "a", "password": "p"}, {"name": "a", "password": "q"}], "answers": []})",
-         "stands twice"},
+         "listed twice"},
         {R"({"name": "n", "description": "d", "channels": [], "answers": []})",
          "\"channels\" is not an object"},
         {R"({"name": "n", "description": "d", "state": [], "answers": []})",
@@ -227,18 +227,21 @@ TEST_F(ProfileFolder, AFaultyManifestIsNamedByItsFault)
         {withAnswer(R"({"request": "/a", "file": "a.xml", "setting": 1})"),
          "neither true nor false"},
         {withAnswer(R"({"request": "deviceAbility x", "file": "a.xml"})"), "deviceAbility <code>"},
-        {withAnswer(R"({"request": "FETCH /a", "file": "a.xml"})"), "\"FETCH /a\" is no request"},
+        {withAnswer(R"({"request": "FETCH /a", "file": "a.xml"})"),
+         "\"FETCH /a\" is not a request"},
         {withAnswer(R"({"request": "GET /a", "file": "a.xml", "setting": true})"),
          "without a method"},
-        {withAnswer(R"({"request": "/a", "file": "b.xml"})"), "\"b.xml\" cannot be read"},
-        {withAnswer(R"({"request": "/a", "file": "../a.xml"})"), "not one of the profile's own"},
+        {withAnswer(R"({"request": "/a", "file": "b.xml"})"),
+         "cannot read \"b.xml\": No such file"},
+        {withAnswer(R"({"request": "/a", "file": "../a.xml"})"),
+         "not beneath the profile's folder"},
         {withAnswer(R"({"request": "/a", "file": "broken.xml", "setting": true})"), "well-formed"},
         {withAnswer(R"({"request": "/a"})"), "either a \"file\" or a \"status\""},
-        {withAnswer(R"({"request": "/a", "status": "x"})"), "\"x\" is unknown"},
+        {withAnswer(R"({"request": "/a", "status": "x"})"), "no status \"x\""},
         {withAnswer(R"({"request": "/a", "status": "ok", "channels": 1})"), "\"channels\""},
         {withAnswer(R"({"request": "/a", "status": "ok", "values": [1]})"), "\"values\""},
         {withAnswer(R"({"request": "/a", "status": "ok", "values": {"b/c": {"min": 1}}})"),
-         "\"b/c\": a form is"},
+         "\"b/c\": a value may be"},
         {withAnswer(R"({"request": "/a", "file": "a.xml", "merge": "b/c"})"), "\"merge\""},
         {withAnswer(R"({"request": "/a", "file": "a.xml", "setting": true, "merge": "b"})"),
          "\"<item>/<key>\""},
@@ -254,7 +257,7 @@ TEST_F(ProfileFolder, AFaultyManifestIsNamedByItsFault)
     }
     std::string error;
     EXPECT_EQ(DeviceModel::Load("/no/such/folder", error), nullptr);
-    EXPECT_THAT(error, HasSubstr("no manifest.json"));
+    EXPECT_THAT(error, HasSubstr("cannot read \"manifest.json\""));
     EXPECT_EQ(DeviceModel::Load("nosuch", error), nullptr);
     EXPECT_THAT(error, HasSubstr("hostile"));
 }

@@ -1,39 +1,20 @@
-// An alarm host: the requests that command it and those that read its state.
+// An alarm host's table of requests, and its answers to those that read its state.
 // SPDX-License-Identifier: Apache-2.0
-#include <algorithm>
-#include <functional>
-#include <iterator>
-#include <mutex>
+#include "Device/alarmhost/AlarmHost.h"
 
-#include "Device/JsonDocument.h"
-#include "Device/Routes.h"
-#include "Device/alarmhost/AlarmHostState.h"
+#include <algorithm>
+#include <iterator>
+
+#include "Device/Limits.h"
+#include "Device/document/JsonDocument.h"
+#include "Device/document/Text.h"
 
 namespace Device
 {
 namespace
 {
 
-// How many zones one batch may name.
-constexpr size_t kMaxBatch = 1000;
-
-const Verdict kNoNumber{&Outcome::kBadParameters, "this is no number"};
-
-Response Reply(const Json::Value& document)
-{
-    return {200, "application/json", document.toStyledString()};
-}
-
-Response Reply(const Call& call, const Verdict& verdict)
-{
-    Json::Value more;
-    if (!verdict.message.empty()) {
-        more["errorMsg"] = verdict.message;
-    }
-    return MakeJsonStatus(*verdict.outcome, call.request.target, more);
-}
-
-// "1,3,5-8" as numbers; nothing when it is no such text.
+// Parses "1,3,5-8".
 std::optional<std::vector<int>> ReadSelection(std::string_view text)
 {
     std::vector<int> numbers;
@@ -46,8 +27,8 @@ std::optional<std::vector<int>> ReadSelection(std::string_view text)
         if (!ReadNumber(part.substr(0, dash), first) ||
             !ReadNumber(dash == std::string_view::npos ? part : part.substr(dash + 1), last) ||
             first < 0 || last < first ||
-            static_cast<size_t>(last) - static_cast<size_t>(first) > kMaxBatch ||
-            numbers.size() > kMaxBatch) {
+            static_cast<size_t>(last) - static_cast<size_t>(first) > kMostBatch ||
+            numbers.size() > kMostBatch) {
             return std::nullopt;
         }
         for (int number = first; number <= last; ++number) {
@@ -57,17 +38,7 @@ std::optional<std::vector<int>> ReadSelection(std::string_view text)
     return numbers.empty() ? std::nullopt : std::optional(std::move(numbers));
 }
 
-// The entries of a list, each the object under `item`.
-std::vector<Json::Value> Entries(const Json::Value& list, const char* item)
-{
-    std::vector<Json::Value> entries;
-    for (const Json::Value& entry : list.isArray() ? list : Json::Value(Json::arrayValue)) {
-        entries.push_back(*item == '\0' ? entry : JsonMember(entry, item));
-    }
-    return entries;
-}
-
-// The equipment whose configuration stands at that segment of a path, or null.
+// The equipment with that last segment in the path of its configuration, or null.
 const EquipmentNames* FindConfigured(std::string_view segment)
 {
     const auto* found = std::ranges::find(kEquipment, segment, &EquipmentNames::configPath);
@@ -79,7 +50,7 @@ const EquipmentNames& NamesOf(Equipment equipment)
     return *std::ranges::find(kEquipment, equipment, &EquipmentNames::equipment);
 }
 
-// The entries of a batch that names zones: {"zone": "1,3,5-8"}.
+// The entries of a batch of zones: {"zone": "1,3,5-8"}.
 std::vector<Json::Value> SelectedZones(const Json::Value& body)
 {
     std::vector<Json::Value> entries;
@@ -90,165 +61,46 @@ std::vector<Json::Value> SelectedZones(const Json::Value& body)
     return entries;
 }
 
-class AlarmHost : public Behaviour
+}  // namespace
+
+template <auto command>
+Response AlarmHost::One(const Call& call)
 {
-public:
-    explicit AlarmHost(const Json::Value& start) : start_(start), state_(start) {}
-
-    std::optional<Response> Answer(const ParsedRequest& request) override;
-
-private:
-    // Does something to the item of that number; `entry` is what the request says of it.
-    using Command = std::function<Verdict(AlarmHostState& state, int id, const Json::Value& entry)>;
-
-    static Verdict Arm(AlarmHostState& state, int id, const Json::Value& entry)
-    {
-        return state.Arm(id, JsonText(JsonMember(entry, "armType")));
-    }
-    static Verdict Disarm(AlarmHostState& state, int id, const Json::Value&)
-    {
-        return state.Disarm(id);
-    }
-    static Verdict ClearAlarm(AlarmHostState& state, int id, const Json::Value&)
-    {
-        return state.ClearAlarm(id);
-    }
-    static Verdict Bypass(AlarmHostState& state, int id, const Json::Value&)
-    {
-        return state.Bypass(id, true);
-    }
-    static Verdict Recover(AlarmHostState& state, int id, const Json::Value&)
-    {
-        return state.Bypass(id, false);
-    }
-
-    Response Single(const Call& call, const Command& command, const Json::Value& entry = {});
-    Response Batch(const Call& call, const std::vector<Json::Value>& entries,
-                   const Command& command);
-
-    template <auto command>
-    Response One(const Call& call)
-    {
-        return Single(call, command);
-    }
-    template <auto command>
-    Response SubSystems(const Call& call)
-    {
-        return Batch(call, Entries(JsonMember(call.body, "SubSysList"), "SubSys"), command);
-    }
-    template <auto command>
-    Response Zones(const Call& call)
-    {
-        return Batch(call, SelectedZones(call.body), command);
-    }
-    template <Equipment equipment>
-    Response Switches(const Call& call)
-    {
-        return Switch(call, NamesOf(equipment));
-    }
-    template <Equipment equipment>
-    Response ReadStatus(const Call&)
-    {
-        return Read(NamesOf(equipment));
-    }
-    Response ArmOne(const Call& call);
-    Response Switch(const Call& call, const EquipmentNames& names);
-    Response CommandDetector(const Call& call);
-    Response MoveZone(const Call& call);
-    Response ReadConfiguration(const Call& call);
-    Response WriteConfiguration(const Call& call);
-    [[nodiscard]] Response Read(const EquipmentNames& names) const;
-    Response ReadHost(const Call& call);
-    Response SearchLog(const Call& call);
-    Response ControlCapability(const Call&) { return Capability("HostControlCap"); }
-    Response DetectorCapability(const Call&) { return Capability("DetectorAlarmCap"); }
-    [[nodiscard]] Response Capability(const char* key) const;
-
-    static const Route<AlarmHost> kRoutes[];
-
-    const Json::Value start_;
-    std::mutex mutex_;
-    AlarmHostState state_;
-};
-
-Response AlarmHost::Single(const Call& call, const Command& command, const Json::Value& entry)
-{
-    const std::optional<int> id = call.Number(0);
-    return Reply(call, id ? command(state_, *id, entry) : kNoNumber);
+    return Single(call, command);
 }
 
-Response AlarmHost::ArmOne(const Call& call)
+template <auto command>
+Response AlarmHost::SubSystems(const Call& call)
 {
-    const std::string* ways = call.request.FindParameter("ways");
-    Json::Value entry;
-    entry["armType"] = std::string(ways == nullptr ? "" : WithoutBrackets(*ways));
-    return Single(call, &Arm, entry);
+    return Batch(call, JsonEntries(JsonMember(call.body, "SubSysList"), "SubSys"), command);
 }
 
-// Carries out what it can; "ErrorList" names the items that it could not be carried out on.
-Response AlarmHost::Batch(const Call& call, const std::vector<Json::Value>& entries,
-                          const Command& command)
+template <auto command>
+Response AlarmHost::Zones(const Call& call)
 {
-    if (entries.empty()) {
-        return MakeStatus(Outcome::kBadJsonContent, call.request.target);
-    }
-    Json::Value more;
-    Json::Value& errors = more["ErrorList"] = Json::Value(Json::arrayValue);
-    Status first = Outcome::kOk;
-    for (const Json::Value& entry : entries) {
-        const std::optional<int> id = JsonNumber(JsonMember(entry, "id"));
-        const Verdict verdict = id ? command(state_, *id, entry) : kNoNumber;
-        if (verdict.Ok()) {
-            continue;
-        }
-        first = errors.empty() ? *verdict.outcome : first;
-        Json::Value& error = errors.append(Json::Value());
-        error["id"] = id.value_or(-1);
-        error["subStatusCode"] = verdict.outcome->subStatusCode;
-        error["errorMsg"] = verdict.message;
-    }
-    // A batch that was carried out in part is no refusal: the list tells the rest.
-    first.httpStatus = 200;
-    return MakeJsonStatus(first, call.request.target, more);
+    return Batch(call, SelectedZones(call.body), command);
 }
 
-Response AlarmHost::Switch(const Call& call, const EquipmentNames& names)
+template <Equipment equipment>
+Response AlarmHost::Switches(const Call& call)
 {
-    const Json::Value& body =
-        JsonMember(call.body, names.equipment == Equipment::Sirens ? "SirensCtrl" : "OutputsCtrl");
-    const std::string position = JsonText(JsonMember(body, "switch"));
-    if (position.empty()) {
-        return MakeStatus(Outcome::kBadJsonContent, call.request.target);
-    }
-    const auto command = [&](AlarmHostState& state, int id, const Json::Value&) {
-        return state.Switch(names, id, position);
-    };
-    return call.selectors.empty() ? Batch(call, Entries(JsonMember(body, "List"), ""), command)
-                                  : Single(call, command);
+    return Switch(call, NamesOf(equipment));
 }
 
-// One selector is a detector of the host; two are a channel and one of the detectors at it.
-Response AlarmHost::CommandDetector(const Call& call)
+template <Equipment equipment>
+Response AlarmHost::ReadStatus(const Call&)
 {
-    const std::string cmd = JsonText(JsonMember(JsonMember(call.body, "DetectorAlarm"), "cmd"));
-    return Single(call, [&](AlarmHostState& state, int first, const Json::Value&) {
-        if (call.selectors.size() == 1) {
-            return state.CommandDetector(first, cmd);
-        }
-        const std::optional<int> second = call.Number(1);
-        return second ? state.CommandDetector(first, *second, cmd) : kNoNumber;
-    });
+    return Read(NamesOf(equipment));
 }
 
-Response AlarmHost::MoveZone(const Call& call)
+Response AlarmHost::ControlCapability(const Call&)
 {
-    const std::string* open = call.request.FindParameter("open");
-    if (open == nullptr || (*open != "true" && *open != "false")) {
-        return MakeStatus(Outcome::kBadParameters, call.request.target);
-    }
-    return Single(call, [&](AlarmHostState& state, int id, const Json::Value&) {
-        return state.MoveZone(id, *open == "true");
-    });
+    return Capability("HostControlCap");
+}
+
+Response AlarmHost::DetectorCapability(const Call&)
+{
+    return Capability("DetectorAlarmCap");
 }
 
 Response AlarmHost::ReadConfiguration(const Call& call)
@@ -260,7 +112,7 @@ Response AlarmHost::ReadConfiguration(const Call& call)
     Json::Value document;
     if (call.selectors.size() == 1) {
         document["List"] = state_.Configuration(*names);
-        return Reply(document);
+        return MakeJson(document);
     }
     const std::optional<int> id = call.Number(1);
     Json::Value config = id ? state_.Configuration(*names, *id) : Json::Value();
@@ -268,7 +120,7 @@ Response AlarmHost::ReadConfiguration(const Call& call)
         return MakeStatus(Outcome::kInvalidId, call.request.target);
     }
     document[names->item] = std::move(config);
-    return Reply(document);
+    return MakeJson(document);
 }
 
 Response AlarmHost::WriteConfiguration(const Call& call)
@@ -281,7 +133,7 @@ Response AlarmHost::WriteConfiguration(const Call& call)
         return state.Configure(*names, id, entry);
     };
     if (call.selectors.size() == 1) {
-        return Batch(call, Entries(JsonMember(call.body, "List"), names->item), configure);
+        return Batch(call, JsonEntries(JsonMember(call.body, "List"), names->item), configure);
     }
     const std::optional<int> id = call.Number(1);
     return Reply(call, configure(state_, id.value_or(-1), JsonMember(call.body, names->item)));
@@ -291,10 +143,10 @@ Response AlarmHost::Read(const EquipmentNames& names) const
 {
     Json::Value document;
     document[names.itemList] = state_.StatusList(names);
-    return Reply(document);
+    return MakeJson(document);
 }
 
-// Everything at once, as a client shows it when it connects.
+// Everything at once, for a client that has just connected.
 Response AlarmHost::ReadHost(const Call&)
 {
     Json::Value document;
@@ -303,12 +155,15 @@ Response AlarmHost::ReadHost(const Call&)
             document["HostStatus"][names.itemList] = state_.StatusList(names);
         }
     }
-    return Reply(document);
+    return MakeJson(document);
 }
 
 Response AlarmHost::SearchLog(const Call& call)
 {
     const Json::Value& description = JsonMember(call.body, "SearchDescription");
+    if (call.request.body.size() > kMostSearchText) {
+        return MakeStatus(Outcome::kTooLarge, call.request.target);
+    }
     const std::optional<SearchDemand> demand = ReadSearchDemand(description);
     if (!description.isObject() || !demand) {
         return MakeStatus(Outcome::kBadJsonContent, call.request.target);
@@ -316,17 +171,17 @@ Response AlarmHost::SearchLog(const Call& call)
     Json::Value document;
     document["SearchResult"] =
         MakeSearchPage(*demand, state_.FindLog(*demand), "matchList", "searchMatchItem");
-    return Reply(document);
+    return MakeJson(document);
 }
 
 Response AlarmHost::Capability(const char* key) const
 {
     Json::Value document;
     document[key] = JsonMember(start_, key);
-    return Reply(document);
+    return MakeJson(document);
 }
 
-// Numbers of subsystems and zones come in angle brackets, those of outputs and detectors without.
+// Subsystems and zones are numbered in angle brackets, outputs and detectors without.
 const Route<AlarmHost> AlarmHost::kRoutes[] = {
     {"POST", "TARN/SecurityCP/control/arm/*", &AlarmHost::ArmOne},
     {"POST", "TARN/SecurityCP/control/disarm/*", &AlarmHost::One<&AlarmHost::Disarm>},
@@ -358,7 +213,7 @@ const Route<AlarmHost> AlarmHost::kRoutes[] = {
     {"GET", "TARN/FireControl/Control/detectorAlarm/capabilities", &AlarmHost::DetectorCapability},
     {"PUT", "TARN/FireControl/Control/detectorAlarm/*", &AlarmHost::CommandDetector},
     {"PUT", "TARN/FireControl/Control/detectorAlarm/*/*", &AlarmHost::CommandDetector},
-    // What happens at the site: no client's request, but a way to play an intruder.
+    // Simulates what happens at the site, such as an intruder. No client sends this.
     {"PUT", "TARN/SDK/site/zones/*", &AlarmHost::MoveZone},
 };
 
@@ -367,8 +222,6 @@ std::optional<Response> AlarmHost::Answer(const ParsedRequest& request)
     const std::lock_guard lock(mutex_);
     return AnswerByRoute<AlarmHost>(*this, kRoutes, request);
 }
-
-}  // namespace
 
 std::unique_ptr<Behaviour> MakeAlarmHost(const Profile& profile)
 {

@@ -1,62 +1,22 @@
-// What an alarm host keeps, and what its commands do to it.
+// What the commands do to an alarm host.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/alarmhost/AlarmHostState.h"
 
 #include <algorithm>
 
-#include "Device/Behaviour.h"
-#include "Device/DateTime.h"
-#include "Device/JsonDocument.h"
+#include "Device/Limits.h"
+#include "Device/document/DateTime.h"
+#include "Device/document/JsonDocument.h"
 
 namespace Device
 {
 namespace
 {
 
-constexpr size_t kMaxLogEntries = 10000;
-// An event repeats what the client wrote: it must not fill the log.
-constexpr size_t kMaxEvent = 64;
 constexpr const char* kDisarmed = "disarm";
-// A siren or output is "open" while it sounds or is switched on.
+// Sirens and outputs are "open" while they are on.
 constexpr const char* kOn = "open";
 constexpr const char* kOff = "close";
-
-// What an item's state says where the profile's document does not.
-Json::Value StatusDefaults(Equipment equipment)
-{
-    Json::Value status;
-    switch (equipment) {
-        case Equipment::SubSystems:
-            status["arming"] = kDisarmed;
-            break;
-        case Equipment::Zones:
-            for (const char* flag : {"open", "bypassed", "alarm", "tamper"}) {
-                status[flag] = false;
-            }
-            break;
-        case Equipment::Outputs:
-        case Equipment::Sirens:
-            status["switch"] = kOff;
-            break;
-        case Equipment::Modules:
-            status["status"] = "online";
-            break;
-        case Equipment::Detectors:
-            status["status"] = "normal";
-            status["silenced"] = false;
-            break;
-    }
-    return status;
-}
-
-std::vector<std::string> Options(const Json::Value& limits)
-{
-    std::vector<std::string> options;
-    for (const Json::Value& option : JsonMember(limits, "@opt")) {
-        options.push_back(JsonText(option));
-    }
-    return options;
-}
 
 bool IsAlwaysSupervised(const Json::Value& zone)
 {
@@ -80,52 +40,6 @@ Verdict Missing(const char* what, int id)
 }
 
 }  // namespace
-
-AlarmHostState::AlarmHostState(const Json::Value& start)
-    : ways_(Options(
-          JsonMember(JsonMember(JsonMember(start, "HostControlCap"), "SubSysCap"), "ways"))),
-      detectorCommands_(Options(JsonMember(JsonMember(start, "DetectorAlarmCap"), "cmd")))
-{
-    const std::optional<std::int64_t> time = ReadDateTime(JsonText(JsonMember(start, "time")));
-    if (!time || ways_.empty()) {
-        throw StateFault(R"(an alarm host needs a "time" and "ways" of arming)");
-    }
-    startTime_ = *time;
-    for (const EquipmentNames& names : kEquipment) {
-        ReadItems(JsonMember(start, names.start), names);
-    }
-    ReadLog(JsonMember(start, "log"));
-}
-
-void AlarmHostState::ReadItems(const Json::Value& start, const EquipmentNames& names)
-{
-    for (const Json::Value& entry : start) {
-        const std::optional<int> id = JsonNumber(JsonMember(entry, "id"));
-        if (!id) {
-            throw StateFault(std::string("an entry of \"") + names.start + R"(" has no "id")");
-        }
-        Item item{entry, StatusDefaults(names.equipment)};
-        item.config.removeMember("state");
-        const Json::Value& state = JsonMember(entry, "state");
-        for (const std::string& key :
-             state.isObject() ? state.getMemberNames() : std::vector<std::string>()) {
-            item.status[key] = state[key];
-        }
-        ItemsOf(names.equipment).emplace(*id, std::move(item));
-    }
-}
-
-void AlarmHostState::ReadLog(const Json::Value& start)
-{
-    for (const Json::Value& entry : start) {
-        const std::optional<std::int64_t> time = ReadDateTime(JsonText(JsonMember(entry, "time")));
-        if (!time) {
-            throw StateFault(R"(an entry of "log" has no "time")");
-        }
-        log_.push_back({*time, entry});
-        log_.back().descriptor["index"] = nextEntry_++;
-    }
-}
 
 const AlarmHostState::Items& AlarmHostState::ItemsOf(Equipment equipment) const
 {
@@ -297,7 +211,7 @@ std::string AlarmHostState::ArmedWay(int subSystem) const
     return found == items.end() ? kDisarmed : JsonText(found->second.status["arming"]);
 }
 
-// People who stay in may walk through the zones that follow an entrance.
+// People who stay in the building may walk through the zones behind an entrance.
 bool AlarmHostState::InWay(const Item& zone, const std::string& way)
 {
     return !(way == "stay" && JsonMember(zone.config, "zoneType") == "follow");
@@ -329,11 +243,11 @@ Verdict AlarmHostState::Log(const char* type, const std::string& event, const st
     entry.descriptor["index"] = nextEntry_++;
     entry.descriptor["time"] = WriteDateTime(entry.time);
     entry.descriptor["type"] = type;
-    entry.descriptor["event"] = event.substr(0, kMaxEvent);
+    entry.descriptor["event"] = event.substr(0, kMostEventText);
     entry.descriptor["object"] = object;
     entry.descriptor["result"] = verdict.outcome->subStatusCode;
     log_.push_back(std::move(entry));
-    if (log_.size() > kMaxLogEntries) {
+    if (log_.size() > kMostLogEntries) {
         log_.pop_front();
     }
     return verdict;

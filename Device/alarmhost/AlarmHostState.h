@@ -1,4 +1,4 @@
-// What an alarm host keeps: its equipment, what is armed, open, bypassed or switched on, its log.
+// The state of an alarm host: its equipment and its log.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,22 +10,22 @@
 
 #include <json/value.h>
 
-#include "Device/StatusDocument.h"
+#include "Device/message/StatusDocument.h"
 #include "Device/search/SearchPage.h"
 
 namespace Device
 {
 
-/// How a command to the host ended.
+/// The result of a command.
 struct Verdict
 {
     const Status* outcome = &Outcome::kOk;
-    std::string message;  ///< what stood in the way, in words
+    std::string message;  ///< why it failed
 
     [[nodiscard]] bool Ok() const { return outcome == &Outcome::kOk; }
 };
 
-/// What the host keeps tables of.
+/// The kinds of equipment; the host has a table of each.
 enum class Equipment
 {
     SubSystems,
@@ -36,7 +36,7 @@ enum class Equipment
     Detectors,
 };
 
-/// Where the items of a table stand in documents and paths.
+/// The names of one kind of equipment in documents and paths.
 struct EquipmentNames
 {
     Equipment equipment;
@@ -55,11 +55,11 @@ inline constexpr EquipmentNames kEquipment[] = {
     {Equipment::Detectors, "detectors", "DetectorStatus", "List", "detectors"},
 };
 
-/// The state of one host. Not locked: its owner sees to that.
+/// The state of one host. Not locked.
 class AlarmHostState
 {
 public:
-    /// Starts from the profile's document; throws StateFault when that makes no sense.
+    /// Starts from the profile's document. Throws StateFault.
     explicit AlarmHostState(const Json::Value& start);
 
     Verdict Arm(int subSystem, const std::string& way);
@@ -72,26 +72,27 @@ public:
     /// Gives a fire detector a command: "silence", "reset" or "selfTest".
     Verdict CommandDetector(int detector, const std::string& command);
     Verdict CommandDetector(int channel, int detectorOfChannel, const std::string& command);
-    /// What happens at the site: a zone opens or closes, and may so raise an alarm.
+    /// Opens or closes a zone, which may raise an alarm.
     Verdict MoveZone(int zone, bool open);
 
     /// The configuration of all items, each under the item's key.
     [[nodiscard]] Json::Value Configuration(const EquipmentNames& names) const;
-    /// The configuration of one item; null when there is no such item.
+    /// The configuration of one item, or null.
     [[nodiscard]] Json::Value Configuration(const EquipmentNames& names, int id) const;
-    /// Changes the members that `changes` holds; they must be there already and of the same kind.
+    /// Sets the members in `changes`, which must already exist and have the same type.
     Verdict Configure(const EquipmentNames& names, int id, const Json::Value& changes);
 
     /// The state of all items, each under the item's key.
     [[nodiscard]] Json::Value StatusList(const EquipmentNames& names) const;
 
+    /// The log entries in the wanted time spans.
     [[nodiscard]] std::vector<Json::Value> FindLog(const SearchDemand& demand) const;
 
 private:
     struct Item
     {
         Json::Value config;  ///< what a client may read and change
-        Json::Value status;  ///< what happens
+        Json::Value status;  ///< what it does at present
     };
     using Items = std::map<int, Item>;
 
@@ -112,7 +113,7 @@ private:
     [[nodiscard]] bool AnyAlarm(const int* subSystem) const;
     void LinkZones(int subSystem, const Json::Value& zones);
     void SwitchSirens(const char* position);
-    /// Adds an entry to the log and hands the verdict on.
+    /// Adds an entry to the log and returns the verdict.
     Verdict Log(const char* type, const std::string& event, const std::string& object,
                 Verdict verdict);
 

@@ -1,9 +1,10 @@
-// The tables of an alarm host as documents: configuration and state of its equipment.
+// Configuration and state of an alarm host's equipment as JSON.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 
-#include "Device/JsonDocument.h"
+#include "Device/Limits.h"
 #include "Device/alarmhost/AlarmHostState.h"
+#include "Device/document/JsonDocument.h"
 
 namespace Device
 {
@@ -64,8 +65,12 @@ Verdict AlarmHostState::Configure(const EquipmentNames& names, int id, const Jso
     }
     for (const std::string& key : changes.getMemberNames()) {
         if (!before.isMember(key) || !SameKind(before[key], changes[key])) {
-            return BadContent("\"" + key + "\" is no member or of another kind");
+            return BadContent("\"" + key + "\" does not exist or has another type");
         }
+    }
+    if (changes.toStyledString().size() > kMostItemText) {
+        return BadContent("a configuration has at most " + std::to_string(kMostItemText >> 10) +
+                          " KiB");
     }
     if (changes.isMember("id") && changes["id"] != id) {
         return BadContent("an id cannot be changed");
@@ -81,7 +86,7 @@ Verdict AlarmHostState::Configure(const EquipmentNames& names, int id, const Jso
     return Log("operation", "configure", names.item + (" " + std::to_string(id)), {});
 }
 
-// The zones say where they belong; the list of a subsystem's zones is made from that.
+// A zone knows its subsystem; the list of a subsystem's zones is derived from that.
 void AlarmHostState::LinkZones(int subSystem, const Json::Value& zones)
 {
     for (auto& [id, zone] : ItemsOf(Equipment::Zones)) {
@@ -98,7 +103,7 @@ Json::Value AlarmHostState::StatusOf(const EquipmentNames& names, const Item& it
 {
     Json::Value status = item.status;
     const int id = JsonNumber(item.config["id"]).value_or(0);
-    // What a person needs to recognise the item by.
+    // What a person needs to recognise the item.
     for (const char* key : {"id", "name", "zoneName", "subSystemNo", "detectorType", "channelID",
                             "channelDetectorID", "type"}) {
         if (item.config.isMember(key)) {

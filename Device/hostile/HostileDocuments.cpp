@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "Device/document/Text.h"
+#include "Device/hostile/Bombs.h"
 #include "Device/hostile/HostileJson.h"
 #include "Device/hostile/HostileXml.h"
 
@@ -14,61 +16,15 @@ namespace
 
 using Text = const std::string&;
 
-constexpr char kDeclaration[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 constexpr char kHugeNumber[] = "99999999999999999999999999";
-constexpr size_t kOversize = 20'000'000;
-
-std::string Repeat(std::string_view text, size_t times)
-{
-    std::string out;
-    out.reserve(text.size() * times);
-    for (size_t i = 0; i < times; ++i) {
-        out += text;
-    }
-    return out;
-}
-
-std::string Replace(std::string text, std::string_view from, std::string_view to)
-{
-    for (size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
-        text.replace(at, from.size(), to);
-    }
-    return text;
-}
-
-// What stands between the root's tags.
-std::string Inner(Text document)
-{
-    const size_t first = document.find('>') + 1;
-    const size_t last = document.rfind('<');
-    return first < last ? document.substr(first, last - first) : std::string();
-}
-
-std::string Content(Text sample)
-{
-    return Inner(SpoilXml(sample, {}));
-}
-
 std::string Redeclared(Text sample, Text encoding)
 {
-    return Replace(sample, "encoding=\"UTF-8\"", "encoding=\"" + encoding + "\"");
-}
-
-std::string Rooted(Text root, Text inner, Text attributes = {})
-{
-    return kDeclaration + ("<" + root + " version=\"2.0\"" + attributes + ">") + inner + "</" +
-           root + ">\n";
-}
-
-std::string WithDocumentType(Text root, Text definitions, Text inner)
-{
-    return kDeclaration + ("<!DOCTYPE " + root + " [\n" + definitions + "]>\n<" + root + ">") +
-           inner + "</" + root + ">\n";
+    return ReplaceAll(sample, "encoding=\"UTF-8\"", "encoding=\"" + encoding + "\"");
 }
 
 std::string Spoiled(Text sample, const XmlSpoiling& spoiling)
 {
-    return kDeclaration + SpoilXml(sample, spoiling);
+    return kXmlDeclaration + SpoilXml(sample, spoiling);
 }
 
 template <int Percent>
@@ -77,7 +33,7 @@ std::string Truncated(Text, Text sample)
     return sample.substr(0, sample.size() * Percent / 100);
 }
 
-// Ends inside the first attribute, wherever that is.
+// Ends inside the first attribute.
 std::string TruncatedInAttribute(Text, Text sample)
 {
     const size_t root = sample.find('<', sample.find('<') + 1);
@@ -86,7 +42,7 @@ std::string TruncatedInAttribute(Text, Text sample)
 
 std::string TruncatedInRootTag(Text root, Text)
 {
-    return kDeclaration + ("<" + root.substr(0, root.size() / 2 + 1));
+    return kXmlDeclaration + ("<" + root.substr(0, root.size() / 2 + 1));
 }
 
 std::string WithNul(Text, Text sample)
@@ -108,75 +64,11 @@ std::string ToUtf16(Text text)
 {
     std::string out = "\xff\xfe";
     for (const char c : text) {
-        // The samples are ASCII; a byte beyond it becomes the letter of that number.
+        // The samples are ASCII; other bytes become the character with that number.
         out += c;
         out += '\0';
     }
     return out;
-}
-
-std::string UnknownElements(Text root, Text sample)
-{
-    const std::string unknown = Repeat("<unknownElement a=\"1\"><x>2</x></unknownElement>", 5000);
-    return Rooted(root, unknown + Content(sample) + unknown);
-}
-
-std::string NestedBomb(Text root, Text)
-{
-    std::string definitions = "<!ENTITY e0 \"ha\">\n";
-    for (int i = 1; i < 30; ++i) {
-        const std::string previous = "&e" + std::to_string(i - 1) + ";";
-        definitions += "<!ENTITY e" + std::to_string(i) + " \"" + Repeat(previous, 10) + "\">\n";
-    }
-    return WithDocumentType(root, definitions, "<channelNO>&e29;</channelNO>");
-}
-
-std::string FlatBomb(Text root, Text)
-{
-    return WithDocumentType(root, "<!ENTITY a \"" + std::string(40000, 'a') + "\">\n",
-                            "<channelNO>" + Repeat("&a;", 14000) + "</channelNO>");
-}
-
-std::string AttributeBomb(Text root, Text)
-{
-    return WithDocumentType(root, "<!ENTITY a \"" + std::string(4000, 'a') + "\">\n",
-                            "<enabled opt=\"" + Repeat("&a;", 2000) + "\"/>");
-}
-
-std::string ExternalEntity(Text root, Text location)
-{
-    return WithDocumentType(root, "<!ENTITY outside SYSTEM \"" + location + "\">\n",
-                            "<channelNO>&outside;</channelNO><deviceId>&outside;</deviceId>");
-}
-
-std::string ParameterEntities(Text root, Text)
-{
-    return WithDocumentType(root,
-                            "<!ENTITY % load SYSTEM \"http://127.0.0.1:9/hostile.dtd\">\n"
-                            "<!ENTITY % make \"<!ENTITY made 'made'>\">\n%make;\n%load;\n",
-                            "<channelNO>&made;</channelNO>");
-}
-
-std::string AttributeDefaults(Text root, Text sample)
-{
-    return WithDocumentType(
-        root, "<!ATTLIST enabled opt CDATA \"true\" min CDATA \"1\" max CDATA \"9\">\n",
-        "<enabled/>" + Content(sample));
-}
-
-template <int Depth>
-std::string Nested(Text root, Text)
-{
-    return Rooted(root, Repeat("<a>", Depth) + "1" + Repeat("</a>", Depth));
-}
-
-std::string ManyAttributes(Text root, Text sample)
-{
-    std::string attributes;
-    for (int i = 0; i < 100000; ++i) {
-        attributes += " a" + std::to_string(i) + "=\"1\"";
-    }
-    return Rooted(root, Content(sample), attributes);
 }
 
 std::string WithNumbers(Text sample, std::string_view number)
@@ -221,29 +113,14 @@ std::string ErrorPage(Text, Text)
            "</html>\n";
 }
 
-// The document's own members once more before themselves.
+// Repeats the document's members.
 std::string JsonDuplicated(Text, Text sample)
 {
     const size_t first = sample.find('{') + 1;
     return JsonWithMembers(sample, sample.substr(first, sample.rfind('}') - first) + ",");
 }
 
-template <int Depth>
-std::string JsonNested(Text root, Text)
-{
-    return "{\"" + root + "\": " + Repeat("[", Depth) + Repeat("]", Depth) + "}\n";
-}
-
-std::string JsonManyMembers(Text, Text sample)
-{
-    std::string members;
-    for (int i = 0; i < 100000; ++i) {
-        members += "\"a" + std::to_string(i) + "\": 1,";
-    }
-    return JsonWithMembers(sample, members);
-}
-
-// Two bytes of a Chinese character in the code page that older devices use.
+// A Chinese character in the code page that older devices use.
 constexpr char kGbk[] = "\xd6\xd0";
 constexpr char kBrokenUtf8[] = "ok \xc3( \xed\xa0\x80 \xf8 \xff";
 constexpr char kByteOrderMark[] = "\xef\xbb\xbf";
@@ -254,15 +131,10 @@ std::string NamedJson(Text root, Text name)
     return "{\"" + root + R"(": {"name": ")" + name + "\"}}\n";
 }
 
-std::string LongText()
-{
-    return Repeat("x", 4'000'000);
-}
-
 constexpr HostileCase kCases[] = {
     {"malformed", "a tag that is never closed",
-     [](Text root, Text sample) { return Replace(sample, "</" + root + ">", "<open>"); },
-     [](Text, Text sample) { return Replace(sample, ":", " "); }},
+     [](Text root, Text sample) { return ReplaceAll(sample, "</" + root + ">", "<open>"); },
+     [](Text, Text sample) { return ReplaceAll(sample, ":", " "); }},
     {"truncated1", "ends after a hundredth", &Truncated<1>, &Truncated<1>},
     {"truncated10", "ends after a tenth", &Truncated<10>, &Truncated<10>},
     {"truncated25", "ends after a quarter", &Truncated<25>, &Truncated<25>},
@@ -283,22 +155,22 @@ constexpr HostileCase kCases[] = {
     {"nulFirst", "a NUL byte before the document",
      [](Text, Text sample) { return std::string(1, '\0') + sample; },
      [](Text, Text sample) { return std::string(1, '\0') + sample; }},
-    {"outOfOrder", "all elements in opposite order", &Reversed, nullptr},
+    {"outOfOrder", "all elements in reverse order", &Reversed, nullptr},
     {"wrongRoot", "another root",
-     [](Text root, Text sample) { return Rooted("Other" + root, Content(sample)); },
+     [](Text root, Text sample) { return RootedXml("Other" + root, XmlContent(sample)); },
      [](Text root, Text sample) { return JsonRenamed(sample, root, "Other" + root); }},
-    {"rootWrongCase", "the root's name in the other case",
-     [](Text root, Text sample) { return Rooted(OtherCase(root), Content(sample)); },
+    {"rootWrongCase", "the root's name with upper and lower case swapped",
+     [](Text root, Text sample) { return RootedXml(OtherCase(root), XmlContent(sample)); },
      [](Text root, Text sample) { return JsonRenamed(sample, root, OtherCase(root)); }},
     {"defaultNamespace", "a default namespace on the root",
      [](Text root, Text sample) {
-         return Rooted(root, Content(sample), " xmlns=\"http://example.com/ns\"");
+         return RootedXml(root, XmlContent(sample), " xmlns=\"http://example.com/ns\"");
      },
      nullptr},
     {"prefixedRoot", "the root in a namespace with a prefix",
      [](Text root, Text sample) {
-         return kDeclaration + ("<p:" + root + " xmlns:p=\"http://example.com/ns\">") +
-                Content(sample) + "</p:" + root + ">";
+         return kXmlDeclaration + ("<p:" + root + " xmlns:p=\"http://example.com/ns\">") +
+                XmlContent(sample) + "</p:" + root + ">";
      },
      nullptr},
     {"duplicateElements", "every element twice at each level", &Duplicated, &JsonDuplicated},
@@ -309,29 +181,23 @@ constexpr HostileCase kCases[] = {
      [](Text, Text sample) {
          return JsonWithMembers(sample, Repeat(R"("unknown": {"x": 2},)", 10000));
      }},
-    {"wrongKinds", "elements where texts are due; arrays for objects, texts for numbers",
+    {"wrongKinds", "elements instead of texts; arrays for objects, texts for numbers",
      [](Text, Text sample) {
          return WithTexts(sample, [](Text text) { return "<v><v>" + text + "</v></v>"; });
      },
      [](Text, Text sample) { return JsonWithWrongKinds(sample); }},
-    {"oversized", "20 MB of unknown elements",
-     [](Text root, Text sample) {
-         return Rooted(root, Repeat("<unknown>1</unknown>", kOversize / 20) + Content(sample));
-     },
-     [](Text, Text sample) {
-         return JsonWithMembers(sample, Repeat(R"("unknown": "1234567",)", kOversize / 20));
-     }},
-    {"undeclaredGbk", "texts in GBK without saying so",
+    {"oversized", "20 MB of unknown elements", &OversizedXml, &OversizedJson},
+    {"undeclaredGbk", "texts in GBK, not declared",
      [](Text, Text sample) { return WithTexts(sample, [](Text text) { return kGbk + text; }); },
      [](Text root, Text) { return NamedJson(root, kGbk); }},
-    {"brokenUtf8", "texts that are no UTF-8",
+    {"brokenUtf8", "texts in broken UTF-8",
      [](Text, Text sample) {
          return WithTexts(sample, [](Text text) { return text + kBrokenUtf8; });
      },
      [](Text root, Text) { return NamedJson(root, kBrokenUtf8); }},
-    {"wrongEncoding", "declares UTF-16 and is UTF-8",
+    {"wrongEncoding", "declares UTF-16 but is UTF-8",
      [](Text, Text sample) { return Redeclared(sample, "UTF-16"); }, nullptr},
-    {"unknownEncoding", "declares an encoding that nobody knows",
+    {"unknownEncoding", "declares an unknown encoding",
      [](Text, Text sample) { return Redeclared(sample, "X-NO-SUCH-1"); }, nullptr},
     {"declaredGbk", "texts in GBK, declared as such",
      [](Text, Text sample) {
@@ -344,25 +210,25 @@ constexpr HostileCase kCases[] = {
     {"byteOrderMark", "UTF-8 with a byte order mark",
      [](Text, Text sample) { return kByteOrderMark + sample; },
      [](Text, Text sample) { return kByteOrderMark + sample; }},
-    {"entityBomb", "entities that hold ten of the one before, thirty times", &NestedBomb, nullptr},
+    {"entityBomb", "thirty entities, each with ten of the one before", &NestedBomb, nullptr},
     {"flatEntityBomb", "one long entity, 14,000 times in a text", &FlatBomb, nullptr},
     {"attributeEntityBomb", "one long entity, 2,000 times in an attribute", &AttributeBomb,
      nullptr},
-    {"externalFile", "an entity that is a file of the client",
+    {"externalFile", "an entity that names a file of the client",
      [](Text root, Text) { return ExternalEntity(root, "file:///etc/hostname"); }, nullptr},
-    {"externalHttp", "an entity that is fetched from a server",
+    {"externalHttp", "an entity that names a web server",
      [](Text root, Text) { return ExternalEntity(root, "http://127.0.0.1:9/hostile.txt"); },
      nullptr},
     {"parameterEntities", "parameter entities that make and fetch others", &ParameterEntities,
      nullptr},
     {"attributeDefaults", "a document type with defaults for attributes", &AttributeDefaults,
      nullptr},
-    {"nested256", "256 levels of elements", &Nested<256>, &JsonNested<256>},
-    {"nested1000", "1,000 levels of elements", &Nested<1000>, &JsonNested<1000>},
-    {"nestedMillion", "a million levels", &Nested<1000000>, &JsonNested<1000000>},
+    {"nested256", "256 levels of elements", &NestedXml<256>, &NestedJson<256>},
+    {"nested1000", "1,000 levels of elements", &NestedXml<1000>, &NestedJson<1000>},
+    {"nestedMillion", "a million levels", &NestedXml<1000000>, &NestedJson<1000000>},
     {"manyAttributes", "100,000 attributes on the root; 100,000 members", &ManyAttributes,
-     &JsonManyMembers},
-    {"hugeNumbers", "numbers that no integer holds",
+     &ManyMembers},
+    {"hugeNumbers", "numbers too large for any integer",
      [](Text, Text sample) { return WithNumbers(sample, kHugeNumber); },
      [](Text, Text sample) { return JsonWithNumbers(sample, kHugeNumber); }},
     {"negativeNumbers", "numbers below zero",
@@ -371,26 +237,19 @@ constexpr HostileCase kCases[] = {
     {"hexNumbers", "hexadecimal numbers",
      [](Text, Text sample) { return WithNumbers(sample, "0x1F"); },
      [](Text, Text sample) { return JsonWithNumbers(sample, "\"0x1F\""); }},
-    {"lettersInNumbers", "numbers with letters behind them",
+    {"lettersInNumbers", "numbers followed by letters",
      [](Text, Text sample) { return WithNumbers(sample, " 12abc"); },
      [](Text, Text sample) { return JsonWithNumbers(sample, "\"12abc\""); }},
     {"exponents", "numbers with fractions and exponents",
      [](Text, Text sample) { return WithNumbers(sample, "1.5e300"); },
      [](Text, Text sample) { return JsonWithNumbers(sample, "1.5e300"); }},
-    {"longText", "a text of 4 MB",
-     [](Text root, Text sample) {
-         return Rooted(root, "<deviceId>" + LongText() + "</deviceId><enabled opt=\"" + LongText() +
-                                 "\"/>" + Content(sample));
-     },
-     [](Text root, Text) {
-         return "{\"" + root + "\": {\"" + LongText() + "\": \"" + LongText() + "\"}}\n";
-     }},
-    {"htmlPage", "a log-in page of a web server", &ErrorPage, &ErrorPage},
-    {"otherForm", "JSON where XML is due, XML where JSON is",
+    {"longText", "a text of 4 MB", &LongTexts, &LongJsonTexts},
+    {"htmlPage", "the login page of a web server", &ErrorPage, &ErrorPage},
+    {"otherForm", "JSON instead of XML, XML instead of JSON",
      [](Text root, Text) { return "{\"" + root + "\": {\"channelNO\": 1}}\n"; }, nullptr},
     {"comments", "comments before and after every element",
      [](Text, Text sample) { return WithBetween(sample, "<!-- <channelNO>7</channelNO> -->\n"); },
-     [](Text, Text sample) { return Replace(sample, ",", ", /* , */ // ,\n"); }},
+     [](Text, Text sample) { return ReplaceAll(sample, ",", ", /* , */ // ,\n"); }},
     {"processingInstructions", "processing instructions before and after every element",
      [](Text, Text sample) { return WithBetween(sample, "<?device reboot?>"); }, nullptr},
     {"cdata", "every text as a CDATA section",
@@ -409,15 +268,15 @@ constexpr HostileCase kCases[] = {
      [](Text, Text sample) { return WithBetween(sample, " 1 loose &amp; text "); }, nullptr},
 };
 
-// Content for roots of which no sound document is at hand.
+// Content for roots without a sound document.
 std::string GenericXml(Text root)
 {
-    return Rooted(root,
-                  "\n  <channelNO>1</channelNO>\n  <enabled opt=\"true,false\">true</enabled>\n"
-                  "  <alarmTime>30</alarmTime>\n  <sensitivityLevel min=\"0\" max=\"100\"/>\n"
-                  "  <duration><Min>0</Min><Max>60</Max><Default>5</Default></duration>\n"
-                  "  <List><Item><id>1</id><name>one</name></Item>"
-                  "<Item><id>2</id><name>two</name></Item></List>\n");
+    return RootedXml(root,
+                     "\n  <channelNO>1</channelNO>\n  <enabled opt=\"true,false\">true</enabled>\n"
+                     "  <alarmTime>30</alarmTime>\n  <sensitivityLevel min=\"0\" max=\"100\"/>\n"
+                     "  <duration><Min>0</Min><Max>60</Max><Default>5</Default></duration>\n"
+                     "  <List><Item><id>1</id><name>one</name></Item>"
+                     "<Item><id>2</id><name>two</name></Item></List>\n");
 }
 
 std::string GenericJson(Text root)
@@ -444,7 +303,7 @@ std::string MakeHostileXml(const HostileCase& hostile, const std::string& root,
                            const std::string& sample)
 {
     const std::string sound = SpoilXml(sample, {});
-    return hostile.makeXml(root, sound.empty() ? GenericXml(root) : kDeclaration + sound);
+    return hostile.makeXml(root, sound.empty() ? GenericXml(root) : kXmlDeclaration + sound);
 }
 
 std::string MakeHostileJson(const HostileCase& hostile, const std::string& root,

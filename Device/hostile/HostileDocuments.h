@@ -1,4 +1,4 @@
-// Documents that a broken or hostile device sends, made from a document that a sound one sends.
+// Documents that a broken or hostile device might send, made from sound ones.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -18,20 +18,20 @@ struct HostileCase
     std::string (*makeJson)(const std::string& root, const std::string& sample);  ///< may be null
 };
 
-/// All cases; the order never changes within a build.
+/// All cases, in a fixed order.
 std::span<const HostileCase> HostileCases();
 
-/// The case of that name, or null.
+/// The case with that name, or null.
 const HostileCase* FindHostileCase(std::string_view name);
 
-/// The case's XML document for that root element. `sample` is a sound document with that root,
-/// whose content the case keeps as far as it can; without one, or with one that is not well-formed,
-/// a generic content is taken. The largest document has about 20 MB.
+/// Makes the case's XML document for that root element. `sample` is a sound document with that
+/// root, whose content is kept as far as possible; if it is missing or malformed, generic content
+/// is used. The largest document has about 20 MB.
 std::string MakeHostileXml(const HostileCase& hostile, const std::string& root,
                            const std::string& sample = {});
 
-/// The same in JSON, where `root` is the name of the only member. A case that only XML knows gives
-/// its XML document.
+/// The same in JSON; `root` is the name of the only member. Cases that exist only in XML give their
+/// XML document.
 std::string MakeHostileJson(const HostileCase& hostile, const std::string& root,
                             const std::string& sample = {});
 

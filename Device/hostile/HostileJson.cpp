@@ -1,10 +1,10 @@
-// Writing a spoiled copy of a JSON document.
+// Spoils a sound JSON document.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/hostile/HostileJson.h"
 
-#include <json/json.h>
-
 #include <memory>
+
+#include <json/json.h>
 
 namespace Device
 {
@@ -23,7 +23,7 @@ Json::Value ParseJson(const std::string& sample)
     return root;
 }
 
-// Replaces every value that is `wanted`.
+// Replaces every value for which `wanted` is true.
 void ReplaceValues(Json::Value& value, bool (Json::Value::*wanted)() const, const Json::Value& with)
 {
     if ((value.*wanted)()) {
@@ -58,7 +58,7 @@ Json::Value WrongKind(const Json::Value& value)
 
 std::string JsonWithNumbers(const std::string& sample, const std::string& number)
 {
-    // No value of the writer's could hold such a number, so it is put in after writing.
+    // Json::Value cannot represent every such number, so it is inserted after writing.
     const std::string mark = "@number@";
     Json::Value root = ParseJson(sample);
     ReplaceValues(root, &Json::Value::isNumeric, mark);

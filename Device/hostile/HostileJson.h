@@ -1,4 +1,4 @@
-// Writes a sound JSON document again with something wrong in every place.
+// Spoils a sound JSON document everywhere at once.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -7,21 +7,20 @@
 namespace Device
 {
 
-/// Every number replaced by a text that stands where the number stood.
+/// Replaces every number by `number`, which need not be one.
 std::string JsonWithNumbers(const std::string& sample, const std::string& number);
 
-/// Every text replaced.
+/// Replaces every string.
 std::string JsonWithTexts(const std::string& sample, const std::string& with);
 
-/// Arrays where objects are due, objects where arrays are, numbers for texts and texts for numbers;
-/// the document itself stays an object.
+/// Swaps arrays and objects, numbers and strings, everywhere below the document's root.
 std::string JsonWithWrongKinds(const std::string& sample);
 
-/// The top-level member `root` under another name.
+/// Renames the top-level member `root`.
 std::string JsonRenamed(const std::string& sample, const std::string& root,
                         const std::string& name);
 
-/// Members (each with its comma) put before those of the document's object.
+/// Inserts members (each followed by a comma) before those of the root object.
 std::string JsonWithMembers(const std::string& sample, const std::string& members);
 
 }  // namespace Device

@@ -1,4 +1,4 @@
-// The hostile device: what the sound ones answer, spoiled.
+// The hostile device spoils the answers of sound ones.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/hostile/HostileModel.h"
 
@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "Device/ParsedRequest.h"
-#include "Device/StatusDocument.h"
 #include "Device/hostile/HostileDocuments.h"
+#include "Device/message/ParsedRequest.h"
+#include "Device/message/StatusDocument.h"
 
 namespace Device
 {
@@ -17,7 +17,7 @@ namespace
 
 constexpr std::string_view kName = "hostile";
 
-// Roots of the requests that no embedded profile may answer.
+// The roots of requests that no embedded profile answers.
 constexpr std::pair<std::string_view, std::string_view> kRoots[] = {
     {"/TARN/SDK/deviceAbility/1", "BasicCapability"},
     {"/TARN/SDK/deviceAbility/609", "DecoderAbility"},
@@ -54,15 +54,9 @@ std::string RootOf(const Response& sample)
 class HostileModel : public DeviceModel
 {
 public:
-    explicit HostileModel(const HostileCase* fixed) : fixed_(fixed)
+    HostileModel(const HostileCase* fixed, std::vector<std::shared_ptr<DeviceModel>> sound)
+        : fixed_(fixed), sound_(std::move(sound))
     {
-        std::string error;
-        for (const std::string& name : ProfileNames()) {
-            if (std::shared_ptr<DeviceModel> model =
-                    IsHostileProfile(name) ? nullptr : Load(name, error)) {
-                sound_.push_back(std::move(model));
-            }
-        }
     }
 
     [[nodiscard]] std::string Name() const override
@@ -73,7 +67,7 @@ public:
 
     [[nodiscard]] std::string Description() const override
     {
-        return "Broken device: " + (fixed_ == nullptr ? "every answer spoiled in another way"
+        return "Broken device: " + (fixed_ == nullptr ? "every answer spoiled in a different way"
                                                       : std::string(fixed_->description));
     }
 
@@ -96,7 +90,7 @@ public:
     {
         const ParsedRequest parsed(request);
         Response sample = FindSound(request);
-        // Channel numbers stay true, so that the requests which need one get as far as an answer.
+        // Channel numbers stay correct, so that requests that need one get an answer.
         if (parsed.path.size() == 4 && parsed.path[2] == "channels" && parsed.path[1] == "SDK") {
             return sample.status == 200 ? sample : Response{200, "text/plain", parsed.path[3]};
         }
@@ -127,7 +121,7 @@ private:
     }
 
     const HostileCase* const fixed_;
-    std::vector<std::shared_ptr<DeviceModel>> sound_;
+    const std::vector<std::shared_ptr<DeviceModel>> sound_;
     std::atomic<size_t> next_ = 0;
 };
 
@@ -138,7 +132,9 @@ bool IsHostileProfile(const std::string& profile)
     return profile == kName || profile.starts_with("hostile:");
 }
 
-std::shared_ptr<DeviceModel> MakeHostileModel(const std::string& profile, std::string& error)
+std::shared_ptr<DeviceModel> MakeHostileModel(const std::string& profile,
+                                              std::vector<std::shared_ptr<DeviceModel>> sound,
+                                              std::string& error)
 {
     const HostileCase* fixed = nullptr;
     if (const size_t colon = profile.find(':'); colon != std::string::npos) {
@@ -151,7 +147,7 @@ std::shared_ptr<DeviceModel> MakeHostileModel(const std::string& profile, std::s
             return nullptr;
         }
     }
-    return std::make_shared<HostileModel>(fixed);
+    return std::make_shared<HostileModel>(fixed, std::move(sound));
 }
 
 }  // namespace Device

@@ -4,18 +4,21 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "Device/DeviceModel.h"
 
 namespace Device
 {
 
-/// The profiles "hostile", whose answers go through all cases one after another, and
-/// "hostile:<case>", whose answers are all of one case. Null and a sentence when there is no such
-/// case. The sound documents that it spoils are those of the embedded profiles.
-std::shared_ptr<DeviceModel> MakeHostileModel(const std::string& profile, std::string& error);
+/// Makes the profile "hostile", whose answers go through all cases in turn, or "hostile:<case>",
+/// which always uses that one. They spoil the answers of the `sound` devices. Returns null and sets
+/// `error` to a message if there is no such case.
+std::shared_ptr<DeviceModel> MakeHostileModel(const std::string& profile,
+                                              std::vector<std::shared_ptr<DeviceModel>> sound,
+                                              std::string& error);
 
-/// Whether the profile name is one of those.
+/// Whether the name is that of a hostile profile.
 bool IsHostileProfile(const std::string& profile);
 
 }  // namespace Device

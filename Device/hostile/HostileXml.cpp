@@ -1,14 +1,14 @@
-// Writing a spoiled copy of an XML document.
+// Spoils a sound XML document.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/hostile/HostileXml.h"
-
-#include <libxml/parser.h>
-#include <libxml/tree.h>
 
 #include <algorithm>
 #include <climits>
 #include <memory>
 #include <vector>
+
+#include <libxml/parser.h>
+#include <libxml/tree.h>
 
 namespace Device
 {

@@ -1,4 +1,4 @@
-// Writes a sound XML document again with something wrong in every place.
+// Spoils a sound XML document everywhere at once.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -8,17 +8,18 @@
 namespace Device
 {
 
-/// What is done to each element, text and number of a document.
+/// What to do to each element, text and number of a document.
 struct XmlSpoiling
 {
-    bool reverse = false;  ///< children in opposite order
-    int copies = 1;        ///< each element below the root that many times
-    std::string between;   ///< markup before every element and at the end of each list of children
-    std::function<std::string(const std::string& text)> text;  ///< escaped leaf text to markup
-    std::string number;  ///< in place of every text and attribute that is a decimal number
+    bool reverse = false;  ///< reverse the order of children
+    int copies = 1;        ///< how often each element below the root is repeated
+    std::string between;   ///< markup before every element and after the last child
+    std::function<std::string(const std::string& text)>
+        text;            ///< turns escaped leaf text into markup
+    std::string number;  ///< replaces every text and attribute that is a decimal number
 };
 
-/// The document without declaration. Empty when the sample is not well-formed.
+/// The spoiled document without its declaration; empty if the sample is malformed.
 std::string SpoilXml(const std::string& sample, const XmlSpoiling& spoiling);
 
 /// Whether the text is a decimal number.

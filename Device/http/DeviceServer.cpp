@@ -11,10 +11,10 @@
 #include <new>
 #include <utility>
 
-#include "Device/StatusDocument.h"
 #include "Device/http/Certificate.h"
 #include "Device/http/DigestAuthentication.h"
 #include "Device/http/ServerExchange.h"
+#include "Device/message/StatusDocument.h"
 
 namespace Device
 {

@@ -8,7 +8,7 @@
 #include <cstring>
 #include <utility>
 
-#include "Device/ParsedRequest.h"
+#include "Device/document/Text.h"
 
 namespace Device
 {

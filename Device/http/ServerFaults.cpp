@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "Device/StatusDocument.h"
+#include "Device/message/StatusDocument.h"
 
 namespace Device
 {

@@ -1,14 +1,18 @@
-// The search for recorded content.
+// Searches recorded content.
 // SPDX-License-Identifier: Apache-2.0
-#include <libxml/tree.h>
+#include "Device/search/ContentSearch.h"
 
 #include <algorithm>
 #include <set>
 
-#include "Device/Behaviour.h"
-#include "Device/DateTime.h"
-#include "Device/XmlTree.h"
+#include <libxml/tree.h>
+
+#include "Device/Limits.h"
+#include "Device/document/DateTime.h"
+#include "Device/document/Text.h"
+#include "Device/document/XmlTree.h"
 #include "Device/search/Page.h"
+#include "Device/search/Recordings.h"
 #include "Device/search/SearchPage.h"
 
 namespace Device
@@ -19,8 +23,8 @@ namespace
 constexpr int kMostResults = 100;
 constexpr size_t kLongestSearchId = 64;
 
-// A search description, as far as a device filters by it. Kinds of content and of metadata do not
-// tell recordings apart: there is but one kind of each.
+// The part of a search description that matters here. Kinds of content and metadata do not: there
+// is only one of each.
 struct Description
 {
     std::string searchId;
@@ -90,6 +94,9 @@ public:
             channels.push_back(protocol);
         }
         if (profile.past) {
+            if (channels.size() * static_cast<size_t>(profile.past->days) > kMostChannelDays) {
+                throw StateFault("\"recordings\": too many days for so many channels");
+            }
             recordings_ = MakeRecordings(*profile.past, channels);
         }
     }
@@ -101,8 +108,17 @@ public:
             return std::nullopt;
         }
         if (request.method != "POST") {
-            return MakeStatus(Outcome::kMethodNotAllowed, request.target);
+            return MakeMethodNotAllowed(request.target, {"POST"});
         }
+        if (request.body.size() > kMostSearchText) {
+            return MakeStatus(Outcome::kTooLarge, request.target);
+        }
+        return Search(request);
+    }
+
+private:
+    [[nodiscard]] Response Search(const ParsedRequest& request) const
+    {
         const XmlTree tree = request.document.form == RequestDocument::Form::Xml
                                  ? ReadXmlTree(request.body)
                                  : nullptr;
@@ -120,10 +136,9 @@ public:
         if (std::ranges::any_of(description->tracks, unknown)) {
             return MakeStatus(Outcome::kInvalidChannel, request.target);
         }
-        return Response{200, "application/xml", Find(*description)};
+        return {200, "application/xml", Find(*description)};
     }
 
-private:
     [[nodiscard]] std::string Find(const Description& description) const
     {
         std::vector<const Recording*> matches;

@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/search/DocumentPages.h"
 
-#include <libxml/tree.h>
-
 #include <map>
 #include <vector>
 
-#include "Device/XmlTree.h"
+#include <libxml/tree.h>
+
+#include "Device/document/Text.h"
+#include "Device/document/XmlTree.h"
 #include "Device/search/Page.h"
 
 namespace Device
@@ -15,7 +16,7 @@ namespace Device
 namespace
 {
 
-// The items stand side by side under one element.
+// All items have the same parent.
 std::vector<_xmlNode*> ItemsOf(const XmlTree& tree, std::string_view name)
 {
     std::vector<_xmlNode*> items;

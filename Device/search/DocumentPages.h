@@ -1,22 +1,22 @@
-// Lists in XML documents: pages of them for searches, items of them replaced one by one.
+// Lists in XML documents: picks pages of them and replaces single items.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 #include <string>
 #include <string_view>
 
-#include "Device/Profile.h"
+#include "Device/manifest/Profile.h"
 
 namespace Device
 {
 
-/// The part of a document that a search asks for: of the items only those of the page, and the
-/// page's figures in its own "searchID", "responseStatusStrg", "numOfMatches" and "totalMatches"
-/// where the document has them. Numbers that the search does not tell are 0 and everything.
+/// The document with only the items of the page that `search` asks for. The elements "searchID",
+/// "responseStatusStrg", "numOfMatches" and "totalMatches" are filled in where they exist. The page
+/// starts at 0 and contains everything unless the search says otherwise.
 std::string MakePage(const std::string& document, const Paging& paging, std::string_view search);
 
-/// The document with those of its items replaced that `changes` holds too, told apart by the text
-/// of their child `key`. Items that only `changes` holds follow the document's own.
+/// The document with its items replaced by those in `changes` that have the same text in their
+/// child `key`. New items are appended.
 std::string MergeItems(const std::string& document, std::string_view changes, std::string_view item,
                        std::string_view key);
 

@@ -1,4 +1,4 @@
-// Data packages: answers of any size, made while they are read.
+// Produces and verifies data packages.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/search/Package.h"
 
@@ -17,7 +17,7 @@ constexpr std::uint64_t kHeadSize = 32;
 constexpr std::uint64_t kCheckSize = 8;
 static_assert(kSmallestPackage == kHeadSize + kCheckSize);
 
-// CRC-32 with the reflected polynomial 0xEDB88320, as zip and Ethernet have it.
+// CRC-32 with the reflected polynomial 0xEDB88320, as in zip and Ethernet.
 class Crc32
 {
 public:
@@ -59,7 +59,7 @@ std::string HeadOf(std::uint64_t size)
     return head;
 }
 
-// SplitMix64: the same bytes for the same name on every machine.
+// SplitMix64 gives the same bytes on every machine.
 std::uint64_t Mixed(std::uint64_t value)
 {
     value = (value ^ (value >> 30)) * 0xBF58476D1CE4E5B9ull;
@@ -103,7 +103,7 @@ public:
 private:
     static constexpr std::uint64_t kBlock = 65536;
 
-    // The next bytes of head and content.
+    // Writes the next bytes of head and filler.
     void Fill(char* to, size_t count) const
     {
         size_t i = 0;

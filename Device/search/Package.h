@@ -1,4 +1,4 @@
-// Data packages: answers of any size, made while they are read, that a downloader can check.
+// Data packages: answers of any size that a downloader can verify.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "Device/DeviceModel.h"
+#include "Device/message/Message.h"
 
 namespace Device
 {
@@ -16,17 +16,16 @@ namespace Device
 inline constexpr std::uint64_t kSmallestPackage = 40;
 inline constexpr std::uint64_t kLargestPackage = std::uint64_t{4} << 30;
 
-/// A package of exactly `size` bytes, brought within the two limits, which depend on nothing but
-/// size and name: a head of 32 bytes ("TARN package 1 ", the size in 16 decimal digits, a line
-/// feed), bytes without meaning, and at the end the CRC-32 of everything before it in 8 hexadecimal
-/// digits.
+/// Makes a package of `size` bytes, clamped to the two limits. It consists of a 32-byte head ("TARN
+/// package 1 ", the size in 16 decimal digits, a line feed), filler, and the CRC-32 of everything
+/// before it in 8 hexadecimal digits. Same size and name, same bytes.
 std::shared_ptr<BodySource> MakePackage(std::uint64_t size, std::string_view name);
 
-/// Whether the text is a whole package as MakePackage makes them.
+/// Whether the text is a complete package.
 bool IsWholePackage(std::string_view text);
 
-/// The size that a name asks for: "pkg-50M" means 50 MiB, with K, M, G or nothing for bytes.
-/// Nothing when it is no such name or asks for more than the largest package.
+/// The size that a name asks for: "pkg-50M" means 50 MiB; K, G and no unit work too. Returns
+/// nothing for other names and for more than kLargestPackage.
 std::optional<std::uint64_t> PackageSizeOf(std::string_view name);
 
 }  // namespace Device

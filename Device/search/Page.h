@@ -1,4 +1,4 @@
-// Which part of a list a client gets that asks for it page by page.
+// One page of a list.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,10 +13,10 @@ struct Page
 {
     size_t first;        ///< index of its first item
     size_t count;        ///< number of its items
-    const char* status;  ///< "MORE" when items follow, "NO MATCHES" when the list is empty, "OK"
+    const char* status;  ///< "MORE" if items follow, "NO MATCHES" if the list is empty, else "OK"
 };
 
-/// The page at a position, of at most so many items.
+/// The page at a position, with at most `most` items.
 inline Page PageOf(size_t total, size_t position, size_t most)
 {
     const size_t first = std::min(total, position);

@@ -1,10 +1,10 @@
-// What a device has recorded.
+// Makes up the recordings of a device.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/search/Recordings.h"
 
 #include <algorithm>
 
-#include "Device/DateTime.h"
+#include "Device/document/DateTime.h"
 
 namespace Device
 {
@@ -13,7 +13,7 @@ namespace
 
 constexpr std::int64_t kHour = 3600;
 
-// Scatters numbers in the same way everywhere.
+// A hash that is the same on every machine.
 std::uint32_t Scatter(std::uint32_t channel, std::uint32_t hour)
 {
     std::uint32_t mixed = channel * 0x9E3779B1u ^ hour * 0x85EBCA77u;
@@ -50,7 +50,7 @@ void AddHour(std::vector<Recording>& recordings, int channel, std::int64_t start
     AddPiece(recordings, channel, calm, end, "timing");
 }
 
-// "20261118T101500Z", as playback addresses have it.
+// "20261118T101500Z", the form in playback addresses.
 std::string Compact(std::int64_t time)
 {
     std::string text = WriteDateTime(time);

@@ -1,11 +1,11 @@
-// Searches: which records of a list a client wants, and which page of them.
+// Reads JSON search descriptions and makes pages.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/search/SearchPage.h"
 
 #include <algorithm>
 
-#include "Device/DateTime.h"
-#include "Device/JsonDocument.h"
+#include "Device/document/DateTime.h"
+#include "Device/document/JsonDocument.h"
 #include "Device/search/Page.h"
 
 namespace Device
@@ -13,12 +13,12 @@ namespace Device
 namespace
 {
 
-// Ends the reading of a description that makes no sense.
-struct Senseless
+// Ends the reading of an invalid description.
+struct Invalid
 {
 };
 
-// The first of the members that is there, for keys that clients spell in several ways.
+// The first member that exists, for keys that clients spell in several ways.
 const Json::Value& FirstMember(const Json::Value& object, std::initializer_list<const char*> keys)
 {
     for (const char* key : keys) {
@@ -33,10 +33,10 @@ const Json::Value& FirstMember(const Json::Value& object, std::initializer_list<
 int ReadCount(const Json::Value& value)
 {
     const std::optional<int> number = value.isNull() ? 0 : JsonNumber(value);
-    return number && *number >= 0 ? *number : throw Senseless();
+    return number && *number >= 0 ? *number : throw Invalid();
 }
 
-// Clients that want no limit leave it out or write 0.
+// Clients that want no limit omit it or write 0.
 void ReadLimit(const Json::Value& value, size_t& limit)
 {
     if (const int count = ReadCount(value); count > 0) {
@@ -51,7 +51,7 @@ std::optional<std::int64_t> ReadTime(const Json::Value& value)
         return std::nullopt;
     }
     const std::optional<std::int64_t> time = ReadDateTime(text);
-    return time ? time : throw Senseless();
+    return time ? time : throw Invalid();
 }
 
 void ReadSpan(const Json::Value& value, std::vector<TimeSpan>& spans)
@@ -78,7 +78,7 @@ std::optional<SearchDemand> ReadSearchDemand(const Json::Value& description)
         SearchDemand demand;
         demand.searchId = JsonText(FirstMember(description, {"searchID", "SearchID"}));
         // Kept: clients write "searchResultPostion" in the description of a log search, and the
-        // numbers as texts of digits.
+        // numbers as strings of digits.
         demand.position =
             ReadCount(FirstMember(description, {"searchResultPosition", "searchResultPostion"}));
         ReadLimit(JsonMember(description, "maxResults"), demand.limit);
@@ -92,7 +92,7 @@ std::optional<SearchDemand> ReadSearchDemand(const Json::Value& description)
             ReadSpan(JsonMember(entry, "timeSpan"), demand.spans);
         }
         return demand;
-    } catch (const Senseless&) {
+    } catch (const Invalid&) {
         return std::nullopt;
     }
 }

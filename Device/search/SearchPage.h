@@ -1,4 +1,4 @@
-// Searches: which records of a list a client wants, and which page of them.
+// JSON search descriptions, and the page of matches that answers them.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,7 +13,7 @@
 namespace Device
 {
 
-/// A period of time; an open end includes everything.
+/// A period of time, both ends included. A missing end is unbounded.
 struct TimeSpan
 {
     std::optional<std::int64_t> start;
@@ -25,26 +25,26 @@ struct TimeSpan
     }
 };
 
-/// What a search description says beside its filters.
+/// A search description without its filters.
 struct SearchDemand
 {
     std::string searchId;
-    int position = 0;                                   ///< index of the first match wanted
-    size_t limit = std::numeric_limits<size_t>::max();  ///< size of the page
-    size_t most = std::numeric_limits<size_t>::max();   ///< matches of all pages together
+    int position = 0;                                   ///< index of the first match on the page
+    size_t limit = std::numeric_limits<size_t>::max();  ///< matches on the page
+    size_t most = std::numeric_limits<size_t>::max();   ///< matches on all pages together
     std::vector<TimeSpan> spans;
 
-    /// Whether a time lies in one of the spans; without spans every time does.
+    /// Whether the time lies in one of the spans, or there are none.
     [[nodiscard]] bool Wants(std::int64_t time) const;
 };
 
-/// Reads a search description; a page size of 0 is none. Nothing when a number is negative or no
-/// number, a time is no time, or a list is no list.
+/// Reads a search description; a page size of 0 means no limit. Returns nothing if a number, time
+/// or list is invalid.
 std::optional<SearchDemand> ReadSearchDemand(const Json::Value& description);
 
-/// The page of matches that the demand wants, each wrapped in an object under `item` unless that
-/// is empty, with the counts that go with it: "searchID", "responseStatus", "responseStatusStrg",
-/// "numOfMatches", "totalMatches", and the matches under `list`.
+/// The requested page of matches under `list`, with "searchID", "responseStatus",
+/// "responseStatusStrg", "numOfMatches" and "totalMatches". Each match is wrapped in an object
+/// under `item` unless that is empty.
 Json::Value MakeSearchPage(const SearchDemand& demand, const std::vector<Json::Value>& matches,
                            const std::string& list, const std::string& item);
 

@@ -1,58 +1,28 @@
-// Searches that go on in the device: tasks with progress, results and packages.
+// Searches that run in the device.
 // SPDX-License-Identifier: Apache-2.0
-#include <algorithm>
-#include <map>
+#include "Device/search/SearchTasks.h"
+
 #include <mutex>
 
-#include "Device/AnswerTable.h"
-#include "Device/JsonDocument.h"
-#include "Device/Routes.h"
+#include "Device/document/JsonDocument.h"
+#include "Device/document/Text.h"
+#include "Device/manifest/AnswerTable.h"
+#include "Device/message/Routes.h"
 #include "Device/search/JsonSearch.h"
 #include "Device/search/Package.h"
 #include "Device/search/SearchPage.h"
+#include "Device/search/TaskList.h"
 
 namespace Device
 {
 namespace
 {
 
-constexpr int kStep =
-    25;  // percent that a look at a task's progress brings it on, if none is given
-constexpr size_t kMostTasks = 1000;
 constexpr const char* kFetch = "/TARN/Intelligent/FDLib/FCSearch/dataPackage/file?taskID=";
 
 bool IsAlphanumeric(char c)
 {
     return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
-struct Task
-{
-    enum class State
-    {
-        Running,
-        Paused,
-        Cancelled,
-    };
-
-    State state = State::Running;
-    int progress = 0;
-    std::uint64_t packageSize = 0;
-    int step = kStep;
-
-    [[nodiscard]] bool Done() const { return progress >= 100; }
-    void Advance()
-    {
-        if (state == State::Running) {
-            progress = std::min(progress + step, 100);
-        }
-    }
-};
-
-std::uint64_t ReadSize(const Json::Value& value)
-{
-    return value.isUInt64() ? value.asUInt64()
-                            : PackageSizeOf("pkg-" + JsonText(value)).value_or(0);
 }
 
 class SearchTasks : public Behaviour
@@ -62,21 +32,10 @@ public:
         : table_(profile, false),
           results_(ReadSearched(start.toStyledString(),
                                 {.list = "results", .time = {}, .filters = {}})["results"]),
-          packageSize_(ReadSize(JsonMember(start, "packageSize"))),
-          bytesPerFace_(ReadSize(JsonMember(start, "bytesPerFace")))
+          packageSize_(ReadPackageSize(JsonMember(start, "packageSize"))),
+          bytesPerFace_(ReadPackageSize(JsonMember(start, "bytesPerFace")))
     {
-        for (const Json::Value& entry : JsonMember(start, "tasks")) {
-            const std::string id = JsonText(JsonMember(entry, "taskID"));
-            if (id.empty()) {
-                throw StateFault("a task has no \"taskID\"");
-            }
-            Task task;
-            task.progress = JsonNumber(JsonMember(entry, "progress")).value_or(0);
-            const Json::Value& size = JsonMember(entry, "packageSize");
-            task.packageSize = size.isNull() ? packageSize_ : ReadSize(size);
-            task.step = JsonNumber(JsonMember(entry, "step")).value_or(kStep);
-            tasks_[id] = task;
-        }
+        tasks_.Read(JsonMember(start, "tasks"), packageSize_);
     }
 
     std::optional<Response> Answer(const ParsedRequest& request) override;
@@ -96,8 +55,7 @@ private:
     Response FetchPacked(const Call& call);
 
     Response Begin(const Call& call, const std::string& prefix, std::uint64_t size);
-    Response Move(const Call& call, Task::State from, Task::State to);
-    Task* Find(const std::string& id);
+    Response Move(const Call& call, SearchTask::State from, SearchTask::State to);
     Response PackageOf(const Call& call, const std::string& id);
     [[nodiscard]] static std::string PackingId(const Call& call)
     {
@@ -112,45 +70,24 @@ private:
     const std::uint64_t packageSize_;
     const std::uint64_t bytesPerFace_;
     std::mutex mutex_;
-    std::map<std::string, Task> tasks_;
+    TaskList tasks_;
     std::string collision_;
-    unsigned int nextId_ = 100;
 };
-
-Response Reply(const Json::Value& document)
-{
-    return {200, "application/json", document.toStyledString()};
-}
 
 Response Unknown(const Call& call)
 {
     return MakeStatus(Outcome::kInvalidId, call.request.target);
 }
 
-// A task; any name that asks for a package of some size is one that has long been done.
-Task* SearchTasks::Find(const std::string& id)
-{
-    const auto found = tasks_.find(id);
-    if (found != tasks_.end()) {
-        return &found->second;
-    }
-    const std::optional<std::uint64_t> size = PackageSizeOf(id);
-    if (!size || tasks_.size() >= kMostTasks) {
-        return nullptr;
-    }
-    return &tasks_.emplace(id, Task{Task::State::Running, 100, *size}).first->second;
-}
-
 Response SearchTasks::Begin(const Call& call, const std::string& prefix, std::uint64_t size)
 {
-    if (tasks_.size() >= kMostTasks) {
+    const std::string id = tasks_.Start(prefix, size);
+    if (id.empty()) {
         return MakeStatus(Outcome::kDeviceBusy, call.request.target);
     }
     Json::Value document;
-    const std::string id = prefix + std::to_string(nextId_++);
-    tasks_[id] = Task{Task::State::Running, 0, size};
     document["taskID"] = id;
-    return Reply(document);
+    return MakeJson(document);
 }
 
 Response SearchTasks::Start(const Call& call)
@@ -158,40 +95,39 @@ Response SearchTasks::Start(const Call& call)
     return Begin(call, "", packageSize_);
 }
 
-// There is one task that compares captures with libraries, started when it is first asked for and
-// again when it was cancelled.
+// There is one task that compares captures with libraries. It starts when it is first asked for,
+// and again after it was cancelled.
 Response SearchTasks::StartCollision(const Call& call)
 {
-    const auto former = tasks_.find(collision_);
-    if (former != tasks_.end() && former->second.state != Task::State::Cancelled) {
-        Json::Value document;
-        document["taskID"] = collision_;
-        return Reply(document);
+    const SearchTask* former = tasks_.Find(collision_);
+    if (former == nullptr || former->state == SearchTask::State::Cancelled) {
+        collision_ = tasks_.Start("", packageSize_);
     }
-    collision_ = std::to_string(nextId_);
-    return Begin(call, "", packageSize_);
+    if (collision_.empty()) {
+        return MakeStatus(Outcome::kDeviceBusy, call.request.target);
+    }
+    Json::Value document;
+    document["taskID"] = collision_;
+    return MakeJson(document);
 }
 
 Response SearchTasks::ReadProgress(const Call& call)
 {
-    Task* task = Find(call.selectors[0]);
+    SearchTask* task = tasks_.Find(call.selectors[0]);
     if (task == nullptr) {
         return Unknown(call);
     }
     task->Advance();
     Json::Value document;
     document["progress"]["value"] = task->progress;
-    document["progress"]["status"] = task->state == Task::State::Paused      ? "paused"
-                                     : task->state == Task::State::Cancelled ? "cancelled"
-                                     : task->Done()                          ? "finished"
-                                                                             : "running";
-    return Reply(document);
+    document["progress"]["status"] = task->StateText();
+    return MakeJson(document);
 }
 
-// What has been found so far.
+// The matches found so far.
 Response SearchTasks::ReadResults(const Call& call)
 {
-    const Task* task = Find(call.selectors[0]);
+    const SearchTask* task = tasks_.Find(call.selectors[0]);
     if (task == nullptr) {
         return Unknown(call);
     }
@@ -204,12 +140,12 @@ Response SearchTasks::ReadResults(const Call& call)
     result = MakeSearchPage({}, matches, "MatchList", "");
     result["taskID"] = call.selectors[0];
     result["progress"] = task->progress;
-    return Reply(document);
+    return MakeJson(document);
 }
 
 Response SearchTasks::PackageOf(const Call& call, const std::string& id)
 {
-    const Task* task = Find(id);
+    const SearchTask* task = tasks_.Find(id);
     if (task == nullptr) {
         return Unknown(call);
     }
@@ -224,9 +160,9 @@ Response SearchTasks::ReadPackage(const Call& call)
     return PackageOf(call, call.selectors[0]);
 }
 
-Response SearchTasks::Move(const Call& call, Task::State from, Task::State to)
+Response SearchTasks::Move(const Call& call, SearchTask::State from, SearchTask::State to)
 {
-    Task* task = Find(call.selectors[0]);
+    SearchTask* task = tasks_.Find(call.selectors[0]);
     if (task == nullptr) {
         return Unknown(call);
     }
@@ -239,27 +175,28 @@ Response SearchTasks::Move(const Call& call, Task::State from, Task::State to)
 
 Response SearchTasks::Pause(const Call& call)
 {
-    return Move(call, Task::State::Running, Task::State::Paused);
+    return Move(call, SearchTask::State::Running, SearchTask::State::Paused);
 }
 
 Response SearchTasks::Resume(const Call& call)
 {
-    return Move(call, Task::State::Paused, Task::State::Running);
+    return Move(call, SearchTask::State::Paused, SearchTask::State::Running);
 }
 
 Response SearchTasks::Cancel(const Call& call)
 {
-    const Task* task = Find(call.selectors[0]);
-    return Move(call, task == nullptr ? Task::State::Running : task->state, Task::State::Cancelled);
+    const SearchTask* task = tasks_.Find(call.selectors[0]);
+    return Move(call, task == nullptr ? SearchTask::State::Running : task->state,
+                SearchTask::State::Cancelled);
 }
 
 Response SearchTasks::Delete(const Call& call)
 {
-    return tasks_.erase(call.selectors[0]) > 0 ? MakeStatus(Outcome::kOk, call.request.target)
-                                               : Unknown(call);
+    return tasks_.Remove(call.selectors[0]) ? MakeStatus(Outcome::kOk, call.request.target)
+                                            : Unknown(call);
 }
 
-// Packs what the search for faces finds with the same description.
+// Packs the matches of a face search with the same description.
 Response SearchTasks::StartPacking(const Call& call)
 {
     Request search{"POST", call.request.target, std::string(call.request.body)};
@@ -272,7 +209,7 @@ Response SearchTasks::StartPacking(const Call& call)
     if (found.answer == nullptr || !found.answer->search) {
         return MakeStatus(Outcome::kNotSupport, call.request.target);
     }
-    const auto size = PackageSizeOf(*found.answer->search, FillIn(*found.answer, found.channel),
+    const auto size = PackageSizeOf(*found.answer->search, found.answer->DocumentFor(found.channel),
                                     request, bytesPerFace_);
     return size ? Begin(call, "faces ", *size)
                 : MakeStatus(Outcome::kBadJsonContent, call.request.target);
@@ -281,7 +218,7 @@ Response SearchTasks::StartPacking(const Call& call)
 Response SearchTasks::ReadPacking(const Call& call)
 {
     const std::string id = PackingId(call);
-    Task* task = Find(id);
+    SearchTask* task = tasks_.Find(id);
     if (task == nullptr) {
         return Unknown(call);
     }
@@ -289,7 +226,7 @@ Response SearchTasks::ReadPacking(const Call& call)
     Json::Value document;
     document["progress"] = task->progress;
     document["URL"] = task->Done() ? kFetch + PercentEncoded(id, &IsAlphanumeric) : std::string();
-    return Reply(document);
+    return MakeJson(document);
 }
 
 Response SearchTasks::FetchPacked(const Call& call)
@@ -306,7 +243,7 @@ const Route<SearchTasks> SearchTasks::kRoutes[] = {
     {"GET", "TARN/SDT/Management/Task/pause/*", &SearchTasks::Pause},
     {"GET", "TARN/SDT/Management/Task/resume/*", &SearchTasks::Resume},
     {"GET", "TARN/SDT/Management/Task/cancel/*", &SearchTasks::Cancel},
-    // Kept: clients send the number without a slash before it, too.
+    // Kept: some clients omit the slash before the number.
     {"GET", "TARN/SDT/Management/Task/cancel*", &SearchTasks::Cancel},
     {"DELETE", "TARN/SDT/Management/Task/*", &SearchTasks::Delete},
     {"POST", "TARN/Intelligent/FDLib/FCSearch/dataPackage", &SearchTasks::StartPacking},
