@@ -1,4 +1,4 @@
-// Operations of every family from many threads at once, on several sessions.
+// Operations of every family on many threads at once, on several sessions.
 // SPDX-License-Identifier: Apache-2.0
 #include <atomic>
 #include <memory>
@@ -19,6 +19,7 @@
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
 #include "Keel/Error.h"
+#include "support/Deep.h"
 #include "support/DeviceSteps.h"
 
 namespace
@@ -29,9 +30,13 @@ using TestSupport::Asked;
 using TestSupport::Road;
 
 constexpr unsigned kThreads = 8;
-constexpr unsigned kOperations = 100'000;
 
-/// What an operation gave: all of it is the same each time the same device is asked.
+unsigned Operations()
+{
+    return TestSupport::IsDeep() ? 100'000 : 10'000;
+}
+
+/// The outcome of an operation; always the same when the same device is asked.
 struct Given
 {
     bool result = false;
@@ -57,7 +62,7 @@ struct Row
     }
 };
 
-/// A query that fills a record; `content` tells one answer from another.
+/// A query that fills a record; `content` distinguishes answers.
 template <class Record, class Query, class Content>
 Given Fill(Query query, Content content)
 {
@@ -89,7 +94,7 @@ CMSearchDescription Track101()
     return description;
 }
 
-/// Every family; the last rows fail, each in a way of its own.
+/// Every family; the last rows fail, each in its own way.
 std::vector<Row> RowsOf(int dome, int remoteDome, int recorder, int alarmHost, int networkSwitch)
 {
     using Config = JsonConfigApp;
@@ -128,18 +133,18 @@ std::vector<Row> RowsOf(int dome, int remoteDome, int recorder, int alarmHost, i
          FILLS(PersonQueueTimeResult,
                Config::SearchPersonQueueTime(PersonQueueTimeDescription(), out, err, 1, user),
                out.root.size())},
-        {"a command", alarmHost,
+        {"command", alarmHost,
          FILLS(JsonStatus, Config::SetDevDisArm(out, 1, err, user), out.statusCode)},
-        {"a MAC address", 0,
+        {"MAC address", 0,
          [](int) {
              CMacCompanyHelper helper;
              return Given{true, 0, helper.getCompanyNameByMAc("0002d1").size()};
          }},
         {"nobody logged in", -1,
          FILLS(BasicCapability, BasicCapability::GetBasicCapability(out, err, user), out.valid)},
-        {"an ability it has not", dome,
+        {"unsupported ability", dome,
          FILLS(DecoderAbility, DecoderAbility::GetDecoderAbility(out, err, user), out.capable)},
-        {"a path it has not", alarmHost,
+        {"unsupported path", alarmHost,
          FILLS(HFPDCapbility, JsonCapApp::GetHFPDCapability(out, err, user), 0U)},
     };
 }
@@ -165,9 +170,9 @@ TEST(ThreadsTest, EachThreadGetsItsOwnAnswersAndItsOwnLastError)
     std::vector<std::thread> threads;
     for (unsigned thread = 0; thread < kThreads; ++thread) {
         threads.emplace_back([&, thread] {
-            // Threads walk the rows with different strides, so that all pairs meet.
+            // Different strides, so that every pair of rows runs at the same time.
             std::size_t row = thread;
-            for (unsigned i = 0; i < kOperations / kThreads; ++i) {
+            for (unsigned i = 0; i < Operations() / kThreads; ++i) {
                 row = (row + 2 * thread + 1) % rows.size();
                 if (rows[row].Ask() != alone[row]) {
                     ++wrong[row];

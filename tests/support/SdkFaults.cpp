@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "support/Deep.h"
 #include "support/FaultTable.h"
 
 namespace TestSupport
@@ -164,7 +165,7 @@ void AddErrors(std::vector<FaultRow>& rows)
                         .play = TooSmall(error, 0),
                         .strikes = WhereItGrows(error, 0),
                         .error = error,
-                        .everyOperation = true,
+                        .everyOperation = IsDeep(),  // up to a thousand attempts each
                         .check = [error](const Subject& subject, const LogCapture& log) {
                             if (subject.GrowsOn(error) && !subject.Is(kRawRoads)) {
                                 CheckLimitLines(subject, log);
