@@ -1,4 +1,4 @@
-// Option lists of capability documents, and the enumerations that options stand for.
+// Option lists of capability documents, and the enumerations for their options.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 

@@ -19,7 +19,7 @@
 //   GET /TARN/System/capabilities
 //       NET_ORB_STDXMLConfig with this request line, ended by CR LF.
 //
-// Arguments stand in braces: `{channel}` is the protocol's channel number, which
+// Arguments are in braces: `{channel}` is the protocol's channel number, which
 // NET_ORB_SDKChannelToTARN gives for the argument; any other argument is sent as passed, numbers in
 // decimal, texts unescaped. Device and standard abilities send the channel as passed.
 //

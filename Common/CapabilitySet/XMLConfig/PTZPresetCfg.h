@@ -14,17 +14,15 @@ namespace CapabilitySet
 {
 
 // The client fetches the lists itself and passes their text to the records. Parse appends to a
-// list. A malformed text leaves the list as it was, after one error line; a text with another root
-// does so silently. CVelTarnPTZPresetList, CVelTarnPTZPatternList, CVelTarnPTZPatrolList and
+// list. A malformed text, or one with another root, leaves the list as it was; only the former is
+// logged. CVelTarnPTZPresetList, CVelTarnPTZPatternList, CVelTarnPTZPatrolList and
 // CVelTarnPTZPatrol read every text as UTF-8, whatever encoding it declares.
 //
-// Kept: the first three of these never return from Parse if an item has no children.
-// Clients rely on the order of steps that causes this. Call HasEmptyItem first if the device is not
-// trusted.
+// Kept: the readers of the first three never return if an item has no children; clients rely on it.
+// Call HasEmptyItem first if the device is not trusted.
 
-/// Whether a preset, pattern or patrol list has an item without children, on which the lists
-/// named above never finish reading. False for a text that is no such list; true if memory runs
-/// out. Never throws.
+/// Whether a preset, pattern or patrol list has an item without children, so that reading it would
+/// never end. False for any other text; true if memory runs out. Never throws.
 CAPABILITYSET_API bool HasEmptyItem(const std::string& text);
 
 /// One preset of the preset configuration list.

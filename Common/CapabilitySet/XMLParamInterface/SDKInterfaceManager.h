@@ -44,7 +44,7 @@ struct InterfaceRet
 class CAPABILITYSET_API SDKInterfaceManager
 {
 public:
-    /// What RequestUrl2URLType tells about a line.
+    /// Result of RequestUrl2URLType.
     enum URLType
     {
         URL_UNKNOWN = 0,  ///< any line but the four below

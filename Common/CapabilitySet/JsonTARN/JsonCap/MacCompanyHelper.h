@@ -1,4 +1,4 @@
-// Which company a MAC address belongs to.
+// Looks up the company behind a MAC address.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,50 +12,49 @@
 namespace CapabilitySet
 {
 
-/// Tells the company of a network address, so that a client can label the phones, routers and
-/// computers that a device reports. The table of about 4,400 prefixes is part of the library:
-/// nothing is fetched.
+/// Looks up the company behind a MAC address, so that a client can label the phones, routers and
+/// computers that a device reports. The table of about 4,400 prefixes is built in; nothing is
+/// downloaded.
 ///
-/// The first object of a process parses the table, which takes some milliseconds and stays in half
-/// a megabyte until the library is unloaded; later objects find it there and cost next to nothing.
-/// What one object adds to the table is seen by no other. Copies take along what was added.
+/// The first object in a process parses the table. That takes some milliseconds and half a
+/// megabyte, which is kept until the library is unloaded. Later objects share it and cost next to
+/// nothing. Each object keeps its own additions; a copy includes them.
 ///
-/// Nothing throws but copying. When memory runs out, what is loaded stays.
+/// Only copying can throw. If memory runs out, the entries loaded so far stay.
 ///
-/// Threads: an object has no lock and a lookup may change it, so even two lookups on one object
-/// must not overlap. Different objects may be made and used on any threads at once.
+/// Threads: objects are not locked, and a lookup may change its object, so calls on one object must
+/// not overlap, not even lookups. Different objects may be used on any threads at once.
 class CAPABILITYSET_API CMacCompanyHelper
 {
 public:
     /// Loads the table.
     CMacCompanyHelper();
 
-    /// Loads the table, as the constructor has done already. A prefix that the object knows keeps
-    /// its label, be it an empty one.
+    /// Loads the table again; the constructor has already done so. A prefix that the object knows
+    /// keeps its label, even an empty one.
     void initialTable();
 
-    /// The company's label, a short lower-case word such as "tp-link"; empty for a prefix that is
-    /// not in the table. "vel" names no maker: its prefixes are locally administered.
+    /// The company's label, a short lower-case word such as "tp-link". Empty if the prefix is not
+    /// in the table. "vel" names no maker: its prefixes are locally administered.
     ///
-    /// `prefix` is the first three bytes of the address as six lower-case hexadecimal digits, and
-    /// is compared as it stands: separators, upper case or further digits make it unknown.
+    /// `prefix` is the first three bytes of the address as six lower-case hexadecimal digits. It is
+    /// compared as passed: with separators, upper case or more digits it is unknown.
     ///
-    /// Each distinct unknown prefix is added to the object's table with an empty label and stays
-    /// for the object's lifetime: filter what an untrusted source sends. Writes one line at info
-    /// level.
+    /// Logs one line at info level.
+    // Kept: each unknown prefix is added to the object for its lifetime, with an empty label.
+    // Filter prefixes from untrusted sources.
     std::string getCompanyNameByMAc(std::string prefix);
 
 private:
     using Companies = std::unordered_map<std::string, std::string>;
 
-    /// Adds the members of a JSON object to what the object added; a text that is none adds
-    /// nothing.
+    /// Adds the members of a JSON object to `own_`. Any other text adds nothing.
     void convertStringToMap(std::string_view text);
     const std::string& LabelOf(std::string&& prefix);
     void LoadTexts();
 
-    // An object's table is the one that all objects share, which nobody changes, and what the
-    // object added. No prefix is in both.
+    // The table of an object is the shared, read-only one plus its own additions. No prefix is in
+    // both.
     std::shared_ptr<const Companies> shared_;
     Companies own_;
 };
