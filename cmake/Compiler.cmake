@@ -27,10 +27,10 @@ target_compile_options(
   capabilityset_options
   INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${CAPABILITYSET_WERROR}>:-Werror> -Wshadow -Wnon-virtual-dtor -Wcast-align
             -Wconversion -Wformat=2
-            # g++ 12 sees overlapping copies inside std::string's own operator+.
+            # g++ 12 reports overlapping copies inside std::string's operator+.
             $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
-            # Log lines name their place relative to the repository, wherever it was built; a
-            # compiler cache may have made the paths relative to the build directory.
+            # Log lines name source files relative to the repository. A compiler cache may have
+            # made paths relative to the build directory.
             -ffile-prefix-map=${PROJECT_SOURCE_DIR}/= -ffile-prefix-map=${from_build}/=)
 if(CAPABILITYSET_SANITIZE)
   add_compile_options(-fsanitize=${CAPABILITYSET_SANITIZE} -fno-sanitize-recover=all
@@ -38,11 +38,11 @@ if(CAPABILITYSET_SANITIZE)
   add_link_options(-fsanitize=${CAPABILITYSET_SANITIZE})
 endif()
 if(CAPABILITYSET_COVERAGE)
-  # What is tested counts what it runs; the tests themselves do not.
+  # Count in the code under test, not in the tests.
   add_compile_options(
     "$<$<NOT:$<STREQUAL:$<TARGET_PROPERTY:SOURCE_DIR>,${PROJECT_SOURCE_DIR}/tests>>:-O0;--coverage;-fprofile-update=atomic>")
   add_link_options(--coverage)
 endif()
 if(CAPABILITYSET_BUILD_FUZZ)
-  add_compile_options(-fsanitize=fuzzer-no-link) # the fuzzers are led by what the library runs
+  add_compile_options(-fsanitize=fuzzer-no-link) # coverage of the library guides the fuzzers
 endif()

@@ -1,4 +1,4 @@
-# What the library needs; the tool, the SDK and the development targets find theirs beside them.
+# What the library needs. The tool, the SDK and the development targets find theirs themselves.
 find_package(Threads REQUIRED)
 find_package(LibXml2 REQUIRED)
 find_package(jsoncpp REQUIRED)

@@ -1,5 +1,5 @@
 # cmake -DFOLDER=<profile folder> -DNAME=<name> -DSYMBOL=<C++ name> -DOUTPUT=<file> -P EmbedProfile.cmake
-# Writes a source file that holds every file of a profile folder.
+# Writes a source file that contains every file of a profile folder.
 cmake_minimum_required(VERSION 3.25)
 set(pieceBytes 8192)
 math(EXPR pieceDigits "2 * ${pieceBytes}")
@@ -18,8 +18,7 @@ foreach(file IN LISTS files)
     string(SUBSTRING "${digits}" ${position} ${pieceDigits} piece)
     string(LENGTH "${piece}" pieceLength)
     math(EXPR bytes "${pieceLength} / 2")
-    # Every byte is an escape of its own: no character of the file can end the literal, and no
-    # digit after an escape can be taken into it.
+    # Escape every byte, so that no character ends the literal and no digit extends an escape.
     string(REGEX REPLACE "(..)" "\\\\x\\1" piece "${piece}")
     string(APPEND contents "    {\"${piece}\", ${bytes}},\n")
     math(EXPR position "${position} + ${pieceDigits}")

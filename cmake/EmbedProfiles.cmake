@@ -1,6 +1,6 @@
 # embed_profiles(<folder of profile folders> <variable>)
-# Sets <variable> to generated sources that hold every profile folder below <folder>; they follow
-# each change of a file, of the set of files and of the set of profiles.
+# Sets <variable> to generated sources that contain every profile folder below <folder>. They are
+# regenerated when a file, the set of files or the set of profiles changes.
 set(EMBED_PROFILES_DIR ${CMAKE_CURRENT_LIST_DIR})
 
 function(embed_profiles folder variable)
@@ -15,7 +15,7 @@ function(embed_profiles folder variable)
     string(MAKE_C_IDENTIFIER "kProfile_${name}" symbol)
     file(GLOB_RECURSE files CONFIGURE_DEPENDS "${folder}/${name}/*")
     set(source "${CMAKE_CURRENT_BINARY_DIR}/profiles/${name}.cpp")
-    # The list of files is a dependency too: a file that was taken away must go.
+    # The list of files is a dependency too, so that removed files disappear.
     set(fileList "${CMAKE_CURRENT_BINARY_DIR}/profiles/${name}.files")
     file(CONFIGURE OUTPUT "${fileList}" CONTENT "${files}\n" @ONLY)
     add_custom_command(

@@ -1,7 +1,7 @@
-# What is installed beside the libraries: headers, CMake package, pkg-config files.
+# What is installed besides libraries and tool: headers, CMake package, pkg-config files, documents.
 include(CMakePackageConfigHelpers)
 
-# The interface alone and the device model are part of what PelNetSDK::bundled needs.
+# PelNetSDK::bundled needs the interface and the device model.
 target_include_directories(PelNetSDKInterface
                            INTERFACE $<INSTALL_INTERFACE:${CAPABILITYSET_INCLUDEDIR}>)
 set_target_properties(PelNetSDKInterface PROPERTIES EXPORT_NAME interface)
@@ -9,7 +9,7 @@ set_target_properties(PelNetDevice PROPERTIES EXPORT_NAME device)
 install(TARGETS PelNetSDKInterface PelNetDevice EXPORT PelNetSDKTargets
         ARCHIVE COMPONENT Development)
 
-# Headers are found when they are installed: a new one needs no new configuration.
+# Headers are collected at install time, so that a new one needs no reconfiguration.
 install(
   CODE "include(\"${CMAKE_CURRENT_LIST_DIR}/PublicHeaders.cmake\")
 capabilityset_install_headers(\"${PROJECT_SOURCE_DIR}\" \"\${CMAKE_INSTALL_PREFIX}/${CAPABILITYSET_INCLUDEDIR}\")"
@@ -35,7 +35,7 @@ install(FILES ${PROJECT_BINARY_DIR}/CapabilitySetConfig.cmake
         DESTINATION ${package_dir}
         COMPONENT Development)
 
-# A file's prefix is found from where it lies, so that an installed tree can be moved.
+# Each file finds its prefix from its own location, so that an installed tree can be moved.
 file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" pc_prefix "\${pcfiledir}/${pc_prefix}")
 foreach(package IN ITEMS keel keel-static pelnetsdk pelnetsdk-static capabilityset
@@ -46,3 +46,22 @@ foreach(package IN ITEMS keel keel-static pelnetsdk pelnetsdk-static capabilitys
           DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
           COMPONENT Development)
 endforeach()
+
+# The documents that headers and the tool's help refer to. Debian packages have a folder each.
+set(library_docs ${CMAKE_INSTALL_DOCDIR})
+set(tool_docs ${CMAKE_INSTALL_DOCDIR})
+if(CAPABILITYSET_DEBIAN_DOCS)
+  set(library_docs ${CMAKE_INSTALL_DATADIR}/doc/libcapabilityset-dev)
+  set(tool_docs ${CMAKE_INSTALL_DATADIR}/doc/capset)
+endif()
+install(
+  DIRECTORY docs
+  DESTINATION ${library_docs}
+  COMPONENT Development
+  PATTERN capset.md EXCLUDE)
+if(TARGET capset)
+  install(FILES docs/capset.md DESTINATION ${tool_docs}/docs COMPONENT Tool)
+  if(NOT CAPABILITYSET_DEBIAN_DOCS) # Packaging.cmake installs it compressed
+    install(FILES packaging/capset.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Tool)
+  endif()
+endif()

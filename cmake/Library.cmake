@@ -1,10 +1,10 @@
-# Libraries of this project: one compilation, a static and a shared library from it, both installed.
+# Defines the project's libraries: static and shared from the same objects, both installed.
 include(GNUInstallDirs)
 
 set(CAPABILITYSET_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/CapabilitySet-${PROJECT_VERSION_MAJOR})
 
-# Programs and libraries find the libraries they were installed with, wherever the tree is moved.
-# A package for /usr switches this off (CMAKE_SKIP_INSTALL_RPATH).
+# Installed programs and libraries find their libraries even after the tree is moved. A package for
+# /usr switches this off (CMAKE_SKIP_INSTALL_RPATH).
 file(RELATIVE_PATH capabilityset_bin_to_lib ${CMAKE_INSTALL_FULL_BINDIR}
      ${CMAKE_INSTALL_FULL_LIBDIR})
 if(NOT DEFINED CMAKE_INSTALL_RPATH)
@@ -13,14 +13,14 @@ endif()
 
 # capabilityset_library(<target> NAMESPACE <namespace> EXPORT <name> INCLUDE <root> SOURCES ...
 #                       [PUBLIC ...] [PRIVATE ...])
-# A static library <target>, seen by clients as <namespace>::<name>, and a shared one, <target>Shared
-# and <namespace>::<name>-shared. A PUBLIC dependency with a shared form of its own is linked in that
-# form by the shared library. Both join the export set <namespace>Targets.
+# Adds the static library <target>, which clients call <namespace>::<name>, and the shared library
+# <target>Shared or <namespace>::<name>-shared. The shared library links the shared form of a PUBLIC
+# dependency if there is one. Both are exported in <namespace>Targets.
 function(capabilityset_library target)
   cmake_parse_arguments(arg "" "NAMESPACE;EXPORT;INCLUDE" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(${target}Objects OBJECT ${arg_SOURCES})
   target_include_directories(${target}Objects PUBLIC ${arg_INCLUDE})
-  # A shared library that holds one symbol of that kind is never unloaded.
+  # A shared library with a unique symbol is never unloaded.
   target_compile_options(${target}Objects
                          PRIVATE $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fno-gnu-unique>)
   target_link_libraries(${target}Objects PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE}
@@ -63,8 +63,8 @@ function(capabilityset_library target)
 endfunction()
 
 # capabilityset_link_sdk(<target>)
-# Links the device SDK that CAPABILITYSET_SDK names: the bundled one in the form that fits the
-# target (shared for a shared library, static for a program), or the client's own.
+# Links the device SDK that CAPABILITYSET_SDK names: the bundled one, shared or static like the
+# target, or the client's own.
 function(capabilityset_link_sdk target)
   if(NOT CAPABILITYSET_SDK STREQUAL "bundled")
     if(NOT TARGET ${CAPABILITYSET_SDK} AND NOT EXISTS ${CAPABILITYSET_SDK})
@@ -76,7 +76,7 @@ function(capabilityset_link_sdk target)
   endif()
   get_target_property(type ${target} TYPE)
   if(type STREQUAL "SHARED_LIBRARY")
-    # PUBLIC: a client of the shared library logs its devices in with the same SDK.
+    # PUBLIC: a client of the shared library logs in to its devices with the same SDK.
     target_link_libraries(${target} PUBLIC PelNetSDKShared)
   else()
     target_link_libraries(${target} PRIVATE PelNetSDK)

@@ -1,6 +1,6 @@
 # cmake -DTABLE=<mac-companies.tsv> -DLABELS=<labels.tsv> -DOUTPUT=<file> -P MacCompanyTexts.cmake
-# Writes a source file that holds the table of MAC prefixes and labels as three JSON texts, and stops
-# at a table that is not the one it should be.
+# Writes the table of MAC prefixes and labels into a source file as three JSON texts; fails if the
+# table's counts are not the expected ones.
 cmake_minimum_required(VERSION 3.25)
 set(objects 1 2 3)
 set(sizes 1812 1784 802)
@@ -15,28 +15,28 @@ macro(increase variable amount)
   math(EXPR ${variable} "${${variable}} + ${amount}")
 endmacro()
 
-# expect(<what> <variable with the number found, 0 when unset> <wanted>)
+# expect(<what> <variable with the actual number, 0 if unset> <expected number>)
 function(expect what variable wanted)
   increase(${variable} 0)
   if(NOT ${${variable}} EQUAL ${wanted})
-    message(FATAL_ERROR "${TABLE}: ${what}: ${${variable}} instead of ${wanted}")
+    message(FATAL_ERROR "${TABLE}: ${what}: ${${variable}}, expected ${wanted}")
   endif()
 endfunction()
 
-# How many prefixes each label must have. The names beside the counts may hold anything.
+# The expected number of prefixes of each label. The names after the counts are free text.
 file(STRINGS "${LABELS}" lines)
 list(POP_FRONT lines)
 set(labels "")
 foreach(line IN LISTS lines)
   if(NOT line MATCHES "^([a-z][a-z0-9-]*)\t([0-9]+)\t")
-    message(FATAL_ERROR "${LABELS}: \"${line}\" is not a label, a count and names, with tabs between")
+    message(FATAL_ERROR "${LABELS}: \"${line}\" is not a label, a count and names separated by tabs")
   endif()
   list(APPEND labels ${CMAKE_MATCH_1})
   increase(wanted_${CMAKE_MATCH_1} ${CMAKE_MATCH_2})
 endforeach()
 list(REMOVE_DUPLICATES labels)
 
-# Each row goes into the text of its object.
+# Add each row to the text of its object.
 string(REPEAT "[0-9a-f]" 6 prefixForm)
 file(STRINGS "${TABLE}" lines)
 set(row 0)
@@ -44,7 +44,7 @@ foreach(line IN LISTS lines)
   increase(row 1)
   if(NOT line MATCHES "^(${prefixForm})\t([a-z][a-z0-9-]*)\t([123])$")
     message(FATAL_ERROR "${TABLE}, row ${row}: \"${line}\" is not six lower-case hexadecimal digits, "
-                        "a lower-case label and a number from 1 to 3, with tabs between")
+                        "a lower-case label and a number from 1 to 3 separated by tabs")
   endif()
   set(prefix ${CMAKE_MATCH_1})
   set(label ${CMAKE_MATCH_2})
@@ -53,9 +53,9 @@ foreach(line IN LISTS lines)
     message(FATAL_ERROR "${TABLE}, row ${row}: \"${label}\" is not among the labels of ${LABELS}")
   endif()
   if(object IN_LIST objectsOf_${prefix})
-    message(FATAL_ERROR "${TABLE}, row ${row}: ${prefix} stands in object ${object} already")
+    message(FATAL_ERROR "${TABLE}, row ${row}: ${prefix} is already in object ${object}")
   endif()
-  # The first label of a prefix is the one that is told.
+  # A look-up finds the first label of a prefix.
   if(NOT DEFINED objectsOf_${prefix})
     increase(prefixes 1)
     increase(count_${label} 1)

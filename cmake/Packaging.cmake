@@ -3,7 +3,7 @@ set(CPACK_GENERATOR "DEB;TGZ")
 set(CPACK_PACKAGE_NAME capabilityset)
 set(CPACK_PACKAGE_VENDOR "CapabilitySet")
 set(CPACK_PACKAGE_CONTACT "CapabilitySet maintainers <maintainers@capabilityset.invalid>")
-# Each package has a whole description of its own; a summary here would be put before it.
+# Each package has its own description; a summary here would be prepended to it.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_PACKAGING_INSTALL_PREFIX "${CMAKE_INSTALL_PREFIX}")
 set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
@@ -36,12 +36,12 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libcapabilityset-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${runtime} (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}), libxml2-dev, libjsoncpp-dev, liblog4cxx-dev")
-# libcurl is needed only by who links the portable SDK statically.
+# Only clients that link the portable SDK statically need libcurl.
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "libcurl4-openssl-dev")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
     "Capabilities of video-security devices, development files
 Headers, static libraries, CMake package and pkg-config files of the library
-that hands the capabilities of video-security devices to a client.")
+that tells a client what a video-security device can do.")
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME capset)
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
 set(CPACK_COMPONENT_TOOL_DESCRIPTION
@@ -49,7 +49,7 @@ set(CPACK_COMPONENT_TOOL_DESCRIPTION
 Asks a device on the network, or a simulated one in its own process, and
 prints its capability records as tables or JSON.")
 
-# What every Debian package carries under share/doc.
+# The copyright and changelog of each Debian package, and the manual page.
 if(CAPABILITYSET_DEBIAN_DOCS)
   find_program(CAPABILITYSET_GZIP gzip REQUIRED)
   foreach(file IN ITEMS changelog capset.1)

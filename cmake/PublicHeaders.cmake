@@ -1,7 +1,7 @@
-# Which headers a client gets: the public ones, and of the internal ones those they include.
+# Determines which headers are installed: the public ones and the internal ones that they include.
 #
-# As a script (cmake -P cmake/PublicHeaders.cmake) it checks what it would install: every internal
-# header that a public one drags in must be listed here, and nothing may reach libxml2.
+# As a script (cmake -P cmake/PublicHeaders.cmake) it checks them: every internal header that a public
+# one includes must be listed here, and none may include libxml2.
 
 cmake_policy(VERSION 3.25)
 
@@ -18,10 +18,10 @@ set(CAPABILITYSET_PLATFORM_HEADERS
     Platform/PelNetSDK/PelNetSDK.h
     Platform/Vsk/OutputDebug.h)
 
-# Internal headers that public headers may include. One more here is one more promise to clients.
+# Internal headers that public headers may include. Each one is a promise to clients.
 set(CAPABILITYSET_INSTALLED_INTERNALS)
 
-# capabilityset_public_headers(<root> <result>): paths relative to the repository's root.
+# capabilityset_public_headers(<root> <result>): sets <result> to paths relative to <root>.
 function(capabilityset_public_headers root result)
   file(GLOB_RECURSE pending RELATIVE ${root} ${root}/Common/*.h)
   list(FILTER pending EXCLUDE REGEX "/private/")
@@ -47,7 +47,7 @@ function(capabilityset_public_headers root result)
   set(${result} ${headers} PARENT_SCOPE)
 endfunction()
 
-# capabilityset_install_headers(<root> <destination>): for an install script.
+# capabilityset_install_headers(<root> <destination>): installs them; called at install time.
 function(capabilityset_install_headers root destination)
   capabilityset_public_headers(${root} headers)
   foreach(header IN LISTS headers)
@@ -72,12 +72,12 @@ if(CMAKE_SCRIPT_MODE_FILE STREQUAL CMAKE_CURRENT_LIST_FILE)
   list(TRANSFORM internals REPLACE "^Common/CapabilitySet/private/" "")
   foreach(header IN LISTS internals)
     if(NOT header IN_LIST CAPABILITYSET_INSTALLED_INTERNALS)
-      list(APPEND faults "private/${header} is reached from a public header and would be installed")
+      list(APPEND faults "a public header includes private/${header}, which would be installed")
     endif()
   endforeach()
   foreach(header IN LISTS CAPABILITYSET_INSTALLED_INTERNALS)
     if(NOT header IN_LIST internals)
-      list(APPEND faults "private/${header} is listed, but no public header needs it")
+      list(APPEND faults "private/${header} is listed, but no public header includes it")
     endif()
   endforeach()
   foreach(fault IN LISTS faults)

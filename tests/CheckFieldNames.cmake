@@ -1,9 +1,9 @@
-# Checks that each field of a record stands in a member of its own name: swapped names compile.
+# Checks that each field is read into the member of its name: swapped members would compile.
 # SPDX-License-Identifier: Apache-2.0
 # Variables: SOURCE (the repository).
 cmake_minimum_required(VERSION 3.25)
 
-# Members that are named for what they hold.
+# Members that are named differently on purpose.
 set(others
     PTZPreset:presets PTZPattern:patterns PTZPatrol:patrols PatrolSequenceList:steps
     HardwareCapability:hardware SoftwareCapability:software channelEntry:entries
@@ -23,11 +23,11 @@ foreach(header IN LISTS headers)
     string(TOLOWER "${pair}" pairInOneCase)
     if(NOT pairInOneCase MATCHES "^(.*):(.*)$" OR NOT CMAKE_MATCH_1 STREQUAL CMAKE_MATCH_2)
       if(NOT pair IN_LIST others)
-        message(SEND_ERROR "${header}: a field in a member of another name: ${pair}")
+        message(SEND_ERROR "${header}: this field is read into a member of another name: ${pair}")
       endif()
     endif()
   endforeach()
 endforeach()
 if(count LESS 600)
-  message(FATAL_ERROR "only ${count} fields were found: is this how they are still written?")
+  message(FATAL_ERROR "found only ${count} fields; has the way they are written changed?")
 endif()

@@ -1,10 +1,10 @@
-# A damaged table of MAC prefixes must stop the build with a message that says what is wrong.
+# Damages the table of MAC prefixes; the generator must fail and say what is wrong.
 # Variables: SOURCE (the repository), WORK (a folder to write to).
 cmake_minimum_required(VERSION 3.25)
 file(READ ${SOURCE}/data/mac/mac-companies.tsv table)
 file(READ ${SOURCE}/data/mac/labels.tsv labels)
 
-# run(<name>): sets <result> and <messages> of the generator.
+# run(<name>): runs the generator; sets <result> and <messages>.
 function(run name)
   file(WRITE ${WORK}/table.tsv "${table}")
   file(WRITE ${WORK}/labels.tsv "${labels}")
@@ -18,8 +18,9 @@ function(run name)
   set(messages "${messages}" PARENT_SCOPE)
 endfunction()
 
-# refuses(<found> <put in its place> <message>): in the table; once, where it stands first.
-function(refuses found replacement message)
+# rejects(<text> <replacement> <message>): replaces the first occurrence in the table, which must then
+# be rejected with the message.
+function(rejects found replacement message)
   string(FIND "${table}" "${found}" place)
   if(place EQUAL -1)
     message(SEND_ERROR "the table has no \"${found}\" to damage")
@@ -30,26 +31,26 @@ function(refuses found replacement message)
   string(SUBSTRING "${table}" ${rest} -1 after)
   set(table "${before}${replacement}${after}")
   run(table)
-  string(FIND "${messages}" "${message}" told)
-  if(result EQUAL 0 OR told EQUAL -1)
-    message(SEND_ERROR "\"${replacement}\" in place of \"${found}\" gives not \"${message}\" but "
-                       "${result}: ${messages}")
+  string(FIND "${messages}" "${message}" at)
+  if(result EQUAL 0 OR at EQUAL -1)
+    message(SEND_ERROR "with \"${replacement}\" in place of \"${found}\" the generator should say "
+                       "\"${message}\", but ended with ${result}: ${messages}")
   endif()
 endfunction()
 
 run(table)
 if(NOT result EQUAL 0)
-  message(SEND_ERROR "the table itself is refused: ${messages}")
+  message(SEND_ERROR "the intact table is rejected: ${messages}")
 endif()
-refuses("a4e31b\tnokia\t1\n" "" "members of object 1: 1811 instead of 1812")
-refuses("a4e31b\tnokia\t1" "a4e31b\tnokia\t2" "members of object 1: 1811 instead of 1812")
-refuses("a4e31b\t" "405582\t" "row 2: 405582 stands in object 1 already")
-refuses("a4e31b\tnokia" "a4e31b\tzte" "prefixes of \"nokia\": 269 instead of 270")
-refuses("a4e31b\tnokia" "a4e31b\tnokya" "row 2: \"nokya\" is not among the labels")
-refuses("a4e31b" "A4E31B" "row 2: \"A4E31B\tnokia\t1\" is not six lower-case hexadecimal digits")
-refuses("a4e31b" "a4:e3:1b" "is not six lower-case hexadecimal digits")
-refuses("a4e31b\tnokia" "a4e31b\tNokia" "is not six lower-case hexadecimal digits")
-refuses("a4e31b\tnokia\t1" "a4e31b\tnokia\t4" "is not six lower-case hexadecimal digits")
-refuses("b8b42e\tgionee\t3" "b8b42f\tgionee\t3" "distinct prefixes: 4398 instead of 4397")
+rejects("a4e31b\tnokia\t1\n" "" "members of object 1: 1811, expected 1812")
+rejects("a4e31b\tnokia\t1" "a4e31b\tnokia\t2" "members of object 1: 1811, expected 1812")
+rejects("a4e31b\t" "405582\t" "row 2: 405582 is already in object 1")
+rejects("a4e31b\tnokia" "a4e31b\tzte" "prefixes of \"nokia\": 269, expected 270")
+rejects("a4e31b\tnokia" "a4e31b\tnokya" "row 2: \"nokya\" is not among the labels")
+rejects("a4e31b" "A4E31B" "row 2: \"A4E31B\tnokia\t1\" is not six lower-case hexadecimal digits")
+rejects("a4e31b" "a4:e3:1b" "is not six lower-case hexadecimal digits")
+rejects("a4e31b\tnokia" "a4e31b\tNokia" "is not six lower-case hexadecimal digits")
+rejects("a4e31b\tnokia\t1" "a4e31b\tnokia\t4" "is not six lower-case hexadecimal digits")
+rejects("b8b42e\tgionee\t3" "b8b42f\tgionee\t3" "distinct prefixes: 4398, expected 4397")
 string(APPEND labels "other\t0\tnobody\n")
-refuses("405582" "405582" "distinct labels: 106 instead of 105")
+rejects("405582" "405582" "distinct labels: 106, expected 105")

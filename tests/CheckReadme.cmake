@@ -1,18 +1,18 @@
-# Compares what README.md and docs/errors.md say with the sources and programs they were taken from.
+# Compares README.md and docs/errors.md with the sources and programs that they quote.
 # Variables: SOURCE (the repository), FIRST_QUERY and CAPSET (the programs; CAPSET may be empty).
 cmake_minimum_required(VERSION 3.25)
 
 file(READ ${SOURCE}/README.md readme)
 
-# expect(<what> <text>): the text must stand in README.md.
+# expect(<what> <text>): README.md must contain the text.
 function(expect what text)
   string(FIND "${readme}" "${text}" place)
   if(place EQUAL -1)
-    message(SEND_ERROR "README.md does not show ${what} as it is now:\n${text}")
+    message(SEND_ERROR "README.md does not match ${what}:\n${text}")
   endif()
 endfunction()
 
-# Its example is the marked part of the compiled one.
+# Its example is the marked part of the compiled example.
 file(READ ${SOURCE}/examples/first_query.cpp example)
 string(REGEX MATCH "// \\[client\\]\n(.*)// \\[client\\]" marked "${example}")
 if(NOT marked)
@@ -20,7 +20,7 @@ if(NOT marked)
 endif()
 expect("examples/first_query.cpp" "```cpp\n${CMAKE_MATCH_1}```")
 
-# What the programs print is what it says they print.
+# It shows the programs' actual output.
 execute_process(COMMAND ${FIRST_QUERY} OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
 expect("the output of first_query" "$ first_query\n${output}")
 if(CAPSET)
@@ -37,21 +37,21 @@ if(CAPSET)
   expect("the first lines of capset" "$ capset show sim:dome BasicCapability\n${head}")
 endif()
 
-# Every document it points to is there. (Brackets would hide the separators of a CMake list.)
+# Every document it links to exists. (Brackets would hide the separators of a CMake list.)
 string(REGEX MATCHALL "\\([A-Za-z][A-Za-z0-9_./-]*\\)" links "${readme}")
 set(documents 0)
 foreach(link IN LISTS links)
   string(REGEX REPLACE "[()]" "" link "${link}")
   if(link MATCHES "\\.|^LICENSE$" AND NOT EXISTS ${SOURCE}/${link})
-    message(SEND_ERROR "README.md points to ${link}, which is not there")
+    message(SEND_ERROR "README.md links to ${link}, which does not exist")
   endif()
   math(EXPR documents "${documents} + 1")
 endforeach()
 if(documents LESS 5)
-  message(SEND_ERROR "README.md seems to point to no documents: is this check still right?")
+  message(SEND_ERROR "found only ${documents} links in README.md; is this check still right?")
 endif()
 
-# Every error number that a header names has its row in docs/errors.md.
+# docs/errors.md has a row for every error number that a header defines.
 file(READ ${SOURCE}/docs/errors.md errors)
 file(STRINGS ${SOURCE}/Platform/PelNetSDK/PelNetSDK.h named REGEX "^#define NET_ORB_[A-Z_]+ [0-9]+u")
 file(STRINGS ${SOURCE}/Platform/PelNetSDK/Login.h more REGEX "^#define NET_ORB_[A-Z_]+ [0-9]+u")

@@ -1,9 +1,9 @@
-# One step of the consumer tests; ConsumerTests.cmake names the steps and sets the variables.
+# One step of the consumer tests; ConsumerTests.cmake lists the steps and sets the variables.
 cmake_minimum_required(VERSION 3.25)
 
 set(prefix ${WORK}/moved)
 
-# run(<command>...): ends the step with the command's own words when it fails.
+# run(<command>...): stops the step if the command fails.
 function(run)
   execute_process(COMMAND ${ARGV} COMMAND_ECHO STDOUT RESULT_VARIABLE result)
   if(NOT result EQUAL 0)
@@ -23,7 +23,7 @@ endfunction()
 if(STEP STREQUAL "install")
   file(REMOVE_RECURSE ${WORK})
   run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/installed)
-  # An installed tree may be moved: nothing in it knows where it was put first.
+  # An installed tree can be moved: nothing in it refers to its first location.
   file(RENAME ${WORK}/installed ${prefix})
 elseif(STEP STREQUAL "build")
   run(${CMAKE_COMMAND} --fresh -G Ninja -S ${SOURCE} -B ${WORK}/build
@@ -46,6 +46,13 @@ elseif(STEP MATCHES "^pkg-config-(.*)")
 elseif(STEP STREQUAL "tool")
   run(${prefix}/bin/capset --version)
   run(${prefix}/bin/capset show sim:dome BasicCapability)
+  file(GLOB_RECURSE documents RELATIVE ${prefix} ${prefix}/share/*)
+  foreach(document IN ITEMS share/man/man1/capset.1 share/doc/CapabilitySet/docs/capset.md
+                            share/doc/CapabilitySet/docs/errors.md)
+    if(NOT document IN_LIST documents)
+      message(FATAL_ERROR "${document} is not installed; installed are: ${documents}")
+    endif()
+  endforeach()
 else()
   message(FATAL_ERROR "no such step: '${STEP}'")
 endif()

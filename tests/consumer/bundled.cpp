@@ -1,4 +1,4 @@
-// A client that asks the simulated device through the portable SDK.
+// A client that queries the simulated device through the portable SDK.
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdio>
 
@@ -19,7 +19,7 @@ int main()
         CapabilitySet::BasicCapability::GetBasicCapability(out, err, userID) && out.valid;
     std::printf("user %d, answered %d, err %u\n", userID, answered, err);
 
-    // A user ID that nobody logged in: the failure's road through the SDK, the last error and back.
+    // A user ID that nobody logged in: the error comes back through the SDK and the last error.
     const bool refused =
         !CapabilitySet::BasicCapability::GetBasicCapability(out, err, userID + 1000);
     const Keel::Error::ErrorCode& last = Keel::Error::GetLastError();

@@ -1,4 +1,4 @@
-// A client with an SDK of its own: it defines the six functions and links no other SDK.
+// A client with its own SDK: it defines the six functions and links no other SDK.
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdio>
 #include <cstring>
