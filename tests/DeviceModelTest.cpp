@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
@@ -13,6 +14,7 @@
 #include <stdexcept>
 #include <thread>
 
+#include "Device/Limits.h"
 #include "Device/hostile/HostileDocuments.h"
 
 using Device::DeviceModel;
@@ -151,6 +153,18 @@ TEST_F(ProfileFolder, TheClosestAnswerWinsAndRefusalsSayWhy)
            {"GET", "", "", 404, "notSupport"}});
 }
 
+TEST_F(ProfileFolder, AMethodThatIsNotAllowedNamesThoseThatAre)
+{
+    using Methods = std::set<std::string>;
+    const auto allowed = [model = LoadSample()](const std::string& target) {
+        return model->Handle({"DELETE", target, ""}).allowed;
+    };
+    EXPECT_EQ(allowed("/TARN/find"), Methods{"GET"});
+    EXPECT_EQ(allowed("/TARN/time"), (Methods{"GET", "POST", "PUT"}));
+    EXPECT_EQ(allowed("/TARN/SDK/channels/1"), Methods{"GET"});
+    EXPECT_EQ(allowed("/TARN/none"), Methods{});
+}
+
 TEST_F(ProfileFolder, SettingsAreReadBackAndKeptFromForeignDocuments)
 {
     const auto model = LoadSample();
@@ -260,6 +274,79 @@ TEST_F(ProfileFolder, AFaultyManifestIsNamedByItsFault)
     EXPECT_THAT(error, HasSubstr("cannot read \"manifest.json\""));
     EXPECT_EQ(DeviceModel::Load("nosuch", error), nullptr);
     EXPECT_THAT(error, HasSubstr("hostile"));
+}
+
+TEST_F(ProfileFolder, OnlyRegularFilesBeneathTheFolderAreRead)
+{
+    const std::string manifest =
+        R"({"name": "n", "description": "d", "answers": [{"request": "/a", "file": "FILE"}]})";
+    const std::filesystem::path outside = folder_ / "outside";
+    const std::filesystem::path profile = folder_ / "profile";
+    std::filesystem::create_directories(profile / "sub");
+    Write("outside", "secret");
+    Write("profile/sub/a.xml", "<a/>");
+    std::filesystem::create_symlink(outside, profile / "link");
+    std::filesystem::create_symlink("sub", profile / "folderLink");
+    std::filesystem::create_symlink("/dev/zero", profile / "zero");
+    ASSERT_EQ(mkfifo((profile / "fifo").c_str(), 0600), 0);
+    Write("profile/large", "");
+    std::filesystem::resize_file(profile / "large", Device::kMostProfileFile + 1);
+    const std::pair<const char*, const char*> cases[] = {
+        {"link", "symbolic link"},     {"folderLink/a.xml", "Not a directory"},
+        {"zero", "symbolic link"},     {"fifo", "not a regular file"},
+        {"sub", "not a regular file"}, {"large", "more than 16 MiB"},
+        {"../outside", "not beneath"}, {"/etc/passwd", "not beneath"},
+        {"sub//a.xml", "not beneath"}, {"none.xml", "No such file"},
+    };
+    for (const auto& [file, reason] : cases) {
+        std::string text = manifest;
+        Write("profile/manifest.json", text.replace(text.find("FILE"), 4, file));
+        std::string error;
+        EXPECT_EQ(DeviceModel::Load(profile.string(), error), nullptr) << file;
+        EXPECT_THAT(error, HasSubstr(reason)) << file;
+    }
+    std::string error;
+    std::string text = manifest;
+    Write("profile/manifest.json", text.replace(text.find("FILE"), 4, "sub/a.xml"));
+    EXPECT_NE(DeviceModel::Load(profile.string(), error), nullptr) << error;
+}
+
+std::string Repeated(const std::string& text, size_t bytes)
+{
+    std::string out;
+    while (out.size() < bytes) {
+        out += text;
+    }
+    return out;
+}
+
+// A quadratic reader takes minutes for each of these bodies.
+TEST_F(ProfileFolder, BodiesThatMakeReadersSlowAreRefusedOrReadInLinearTime)
+{
+    constexpr size_t kSize = 1'000'000;
+    std::string attributes;
+    std::string ids;
+    std::string namespaces;
+    for (int i = 0; attributes.size() < kSize; ++i) {
+        const std::string number = std::to_string(i);
+        attributes += " a" + number + "=''";
+        ids += ids.size() < kSize ? "<a xml:id='a" + number + "'/>" : "";
+        namespaces += i < 20'000 ? "<a xmlns:n" + number + "='" + number + "'/>" : "";
+    }
+    const std::string in256 = Repeated("<a>", 768);
+    Check(*LoadSample(),
+          {{"PUT", "/TARN/time", "<Time" + attributes + "/>", 400, "badXmlFormat"},
+           {"PUT", "/TARN/time", "<Time>" + ids + "</Time>", 400, "badXmlFormat"},
+           {"PUT", "/TARN/time", "<Time>" + namespaces + "</Time>", 400, "badXmlFormat"},
+           {"PUT", "/TARN/time",
+            "<!DOCTYPE Time [<!ATTLIST Time" + Repeated(" a ID #IMPLIED", kSize) + ">]><Time/>",
+            400, "badXmlFormat"},
+           {"PUT", "/TARN/time", in256 + in256, 400, "badXmlFormat"},
+           {"PUT", "/TARN/time", "<?xml version='1.0' encoding='UTF-7'?><Time/>", 200, "ok"},
+           {"PUT", "/TARN/deice?format=json", "{\"Deice\": 1" + Repeated("/**/", kSize) + "}", 200,
+            "ok"},
+           {"PUT", "/TARN/deice?format=json", Repeated("[", 1000), 400, "badJsonFormat"},
+           {"PUT", "/TARN/time", std::string(Device::kMostBody + 1, ' '), 413, "bodyTooLarge"}});
 }
 
 // How libxml2 takes a document, without the hooks that the dangerous ones need.

@@ -24,7 +24,7 @@ using Fault = std::runtime_error;
 
 [[noreturn]] void ThrowSystemFault()
 {
-    // O_NOFOLLOW reports a link as ELOOP, or as ENOTDIR where a folder is wanted.
+    // That is how O_NOFOLLOW reports a link.
     throw Fault(errno == ELOOP ? "it is a symbolic link" : std::generic_category().message(errno));
 }
 
