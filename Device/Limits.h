@@ -2,11 +2,26 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 
 namespace Device
 {
+
+// Connections.
+
+/// Connections at once, each with a thread.
+inline constexpr unsigned kMostConnections = 256;
+/// Time for the headers of a connection's first request, the TLS handshake included.
+inline constexpr std::chrono::seconds kHeaderTimeout{20};
+/// Time for a request's body.
+inline constexpr std::chrono::seconds kBodyTimeout{60};
+/// Time between two requests, and between two packets of a request or an answer.
+inline constexpr std::chrono::seconds kIdleTimeout{60};
+/// Bytes of a refused body that are read and dropped. A client that is still sending would not see
+/// the answer.
+inline constexpr std::uint64_t kMostDropped = 64u << 20;
 
 // Requests.
 

@@ -1,8 +1,9 @@
-// Making a self-signed certificate.
+// Makes and checks certificates.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/http/Certificate.h"
 
 #include <openssl/bio.h>
+#include <openssl/err.h>
 #include <openssl/evp.h>
 #include <openssl/pem.h>
 #include <openssl/rand.h>
@@ -60,6 +61,11 @@ bool Fill(X509* certificate, EVP_PKEY* key, const std::string& address)
            X509_sign(certificate, key, EVP_sha256()) > 0;
 }
 
+BIO* Reader(const std::string& text)
+{
+    return BIO_new_mem_buf(text.data(), static_cast<int>(text.size()));
+}
+
 std::string Content(BIO* memory)
 {
     char* data = nullptr;
@@ -83,6 +89,23 @@ Certificate MakeSelfSignedCertificate(const std::string& address)
         return {};
     }
     return {Content(certificateText.get()), Content(keyText.get())};
+}
+
+bool CheckCertificate(const Certificate& certificate, std::string& error)
+{
+    const Memory certificateText(Reader(certificate.certificatePem));
+    const Memory keyText(Reader(certificate.keyPem));
+    // A key with a passphrase must not ask for it on the terminal.
+    const auto noPassphrase = [](char*, int, int, void*) { return -1; };
+    const X509Ptr read(PEM_read_bio_X509(certificateText.get(), nullptr, nullptr, nullptr));
+    const Key key(PEM_read_bio_PrivateKey(keyText.get(), nullptr, noPassphrase, nullptr));
+    error = !read  ? "the certificate is not a PEM certificate"
+            : !key ? "the key is not a PEM key without passphrase"
+            : X509_check_private_key(read.get(), key.get()) != 1
+                ? "the key does not belong to the certificate"
+                : "";
+    ERR_clear_error();
+    return error.empty();
 }
 
 }  // namespace Device

@@ -1,4 +1,4 @@
-// Challenges, and the arithmetic of their answers.
+// Challenges, and the checking of their answers.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/http/DigestAuthentication.h"
 
@@ -13,17 +13,18 @@
 #include <stdexcept>
 #include <utility>
 
+#include "Device/Limits.h"
+
 namespace Device
 {
 namespace
 {
 
-constexpr size_t kMaxUsedNonces = 10000;
 constexpr size_t kTimeDigits = 16;
 constexpr size_t kRandomBytes = 16;
 constexpr size_t kPayloadDigits = kTimeDigits + 2 * kRandomBytes;
 
-using Fields = std::map<std::string, std::string, std::less<>>;
+using Fields = std::map<std::string, std::string, std::less<>>;  // names in lower case
 
 std::string Hex(const unsigned char* bytes, size_t count)
 {
@@ -58,7 +59,16 @@ std::string TimeText(std::chrono::milliseconds time)
     return digits;
 }
 
-// One value of a header: a quoted text or a word.
+std::string LowerCase(std::string_view text)
+{
+    std::string out(text);
+    for (char& c : out) {
+        c = static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
+    }
+    return out;
+}
+
+// Takes a quoted string or a word from the front.
 std::string TakeValue(std::string_view& rest)
 {
     std::string value;
@@ -77,12 +87,12 @@ std::string TakeValue(std::string_view& rest)
     return value;
 }
 
-// The fields of a Digest header; none when it is of another scheme or names a field twice.
+// The fields of a Digest header; none if it has another scheme or repeats a field.
 Fields ParseHeader(std::string_view header)
 {
-    constexpr std::string_view kScheme = "Digest ";
+    constexpr std::string_view kScheme = "digest ";
     Fields fields;
-    if (!header.starts_with(kScheme)) {
+    if (LowerCase(header.substr(0, kScheme.size())) != kScheme) {
         return fields;
     }
     header.remove_prefix(kScheme.size());
@@ -92,7 +102,7 @@ Fields ParseHeader(std::string_view header)
         if (equals == std::string_view::npos) {
             return fields;
         }
-        std::string name(header.substr(0, equals));
+        std::string name = LowerCase(header.substr(0, equals));
         header.remove_prefix(equals + 1);
         if (!fields.emplace(std::move(name), TakeValue(header)).second) {
             return {};
@@ -109,7 +119,10 @@ const std::string& Get(const Fields& fields, std::string_view name)
 
 const EVP_MD* Algorithm(const std::string& name)
 {
-    return name == "SHA-256" ? EVP_sha256() : name == "MD5" || name.empty() ? EVP_md5() : nullptr;
+    const std::string lower = LowerCase(name);
+    return lower == "sha-256"                ? EVP_sha256()
+           : lower == "md5" || lower.empty() ? EVP_md5()
+                                             : nullptr;
 }
 
 std::optional<std::uint32_t> ReadCount(const std::string& text)
@@ -158,7 +171,7 @@ DigestAuthentication::Verdict DigestAuthentication::Check(std::string_view autho
         return Verdict::Bad;
     }
     const std::string* password = passwordOf(user);
-    // An unknown user costs the same time as a wrong password.
+    // Unknown users take as long as wrong passwords.
     const std::string identity = Hash(
         algorithm, user + ":" + realm_ + ":" + (password != nullptr ? *password : std::string()));
     const std::string request = Hash(algorithm, std::string(method) + ":" + std::string(uri));
@@ -202,7 +215,7 @@ bool DigestAuthentication::TakeNumber(const std::string& nonce, std::uint32_t nu
         return false;
     }
     const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start_);
-    // The text of a time sorts as the time does.
+    // The text sorts like the time.
     const std::string oldest = TimeText(std::max(now - lifetime_, std::chrono::milliseconds(0)));
     const std::lock_guard lock(mutex_);
     used_.erase(used_.begin(), used_.lower_bound(oldest));
@@ -220,7 +233,7 @@ bool DigestAuthentication::TakeNumber(const std::string& nonce, std::uint32_t nu
         fresh = behind < 64 && (use.seen >> behind & 1) == 0;
         use.seen |= behind < 64 ? std::uint64_t{1} << behind : 0;
     }
-    if (used_.size() > kMaxUsedNonces) {
+    if (used_.size() > kMostUsedNonces) {
         forgotten_ = used_.begin()->first;
         used_.erase(used_.begin());
     }

@@ -1,4 +1,4 @@
-// HTTP digest authentication as a server does it, with SHA-256 and MD5.
+// The server's side of HTTP digest authentication, with SHA-256 and MD5.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,16 +15,16 @@
 namespace Device
 {
 
-/// Challenges clients and checks their answers. A nonce is random for each challenge and signed, so
-/// challenges that nobody answers cost no memory; each number a client counts with a nonce is taken
-/// once. Any thread may use it.
+/// Challenges clients and checks their answers. Each challenge has a random, signed nonce, so
+/// unanswered challenges take no memory. Each request counter is accepted once per nonce. Any
+/// thread may use it.
 class DigestAuthentication
 {
 public:
     enum class Verdict
     {
         Good,
-        Stale,  ///< the password is right, but the nonce is too old or its number was used
+        Stale,  ///< the password is right, but the nonce is too old or the counter was used
         Bad,
     };
 
@@ -33,11 +33,11 @@ public:
 
     DigestAuthentication(std::string realm, std::chrono::milliseconds nonceLifetime);
 
-    /// Values of the WWW-Authenticate headers of one refusal, best algorithm first.
+    /// The WWW-Authenticate headers of one refusal, best algorithm first.
     std::vector<std::string> Challenges(bool stale);
 
-    /// Checks the value of an Authorization header against the request it came with; `uri` as it
-    /// stood in the request line.
+    /// Checks an Authorization header against the request it came with; `uri` is the target exactly
+    /// as in the request line.
     Verdict Check(std::string_view authorization, std::string_view method, std::string_view uri,
                   const PasswordOf& passwordOf);
 
@@ -47,7 +47,7 @@ private:
     struct Use
     {
         std::uint32_t highest = 0;
-        std::uint64_t seen = 0;  ///< bit n: the number `highest - n` was used
+        std::uint64_t seen = 0;  ///< bit n: the counter `highest - n` was used
     };
 
     [[nodiscard]] std::string MakeNonce() const;
@@ -61,7 +61,7 @@ private:
 
     std::mutex mutex_;
     std::map<std::string, Use, std::less<>> used_;  ///< by nonce, which begins with its age
-    std::string forgotten_;                         ///< nonces up to this one count as too old
+    std::string forgotten_;                         ///< this nonce and older ones count as too old
 };
 
 }  // namespace Device

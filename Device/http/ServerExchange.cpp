@@ -1,4 +1,4 @@
-// Bodies that drip, end early or grow, and targets decoded.
+// Bodies that drip, end early or grow; decoding of targets.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/http/ServerExchange.h"
 
@@ -24,7 +24,7 @@ void StopSignal::Stop()
 
 bool StopSignal::Wait(std::chrono::milliseconds time)
 {
-    // A wait that is longer than a day would overflow the clock.
+    // Very long times would overflow the clock.
     constexpr std::chrono::milliseconds kLongest = std::chrono::hours(24);
     std::unique_lock lock(mutex_);
     return !changed_.wait_for(lock, std::min(time, kLongest), [this] { return stopped_.load(); });
@@ -40,7 +40,7 @@ AnswerBody::AnswerBody(Response response, FaultPlan plan, StopSignal& stop, int 
 {
 }
 
-// A stalled answer that outlived its client would keep the connection's thread.
+// Watches the client, so that a stalled answer does not outlive it and keep its thread.
 void AnswerBody::Stall() const
 {
     constexpr std::chrono::milliseconds kLook{100};
@@ -92,7 +92,7 @@ std::int64_t AnswerBody::Read(std::uint64_t position, char* buffer, size_t size)
     }
     auto count = static_cast<std::uint64_t>(allowed);
     if (position < size_) {
-        // The server asks for each byte once, in order, as a source gives them.
+        // The server reads each byte once and in order, as a source requires.
         count = std::min<std::uint64_t>(count, size_ - position);
         if (source_) {
             count = source_->Read(buffer, count);

@@ -1,4 +1,4 @@
-// One request and its answer on their way through the device's server.
+// One request and its answer in the device's server.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,20 +11,20 @@
 #include <string>
 #include <utility>
 
-#include "Device/DeviceModel.h"
 #include "Device/http/ServerFaults.h"
+#include "Device/message/Message.h"
 
 namespace Device
 {
 
-/// Lets threads wait until either a time has passed or the server stops.
+/// Lets threads wait until a time has passed or the server stops.
 class StopSignal
 {
 public:
     void Stop();
     [[nodiscard]] bool Stopped() const { return stopped_; }
 
-    /// False when the server stopped meanwhile.
+    /// Returns false if the server has stopped.
     bool Wait(std::chrono::milliseconds time);
 
 private:
@@ -33,23 +33,22 @@ private:
     std::atomic<bool> stopped_ = false;
 };
 
-/// The body of one answer as its faults let it out.
+/// The body of an answer, as far as its faults let it through.
 class AnswerBody
 {
 public:
-    /// `socket` tells whether the client is still there.
+    /// `socket` shows whether the client is still connected.
     AnswerBody(Response response, FaultPlan plan, StopSignal& stop, int socket);
 
     [[nodiscard]] std::uint64_t AnnouncedSize() const { return size_ + plan_.padding; }
     [[nodiscard]] std::uint64_t Sent() const { return sent_; }
 
-    /// Writes the next bytes from `position` on; returns their number, or -1 to break the
-    /// connection off.
+    /// Writes the bytes from `position` on and returns how many, or -1 to end the connection.
     std::int64_t Read(std::uint64_t position, char* buffer, size_t size);
 
 private:
     void Stall() const;
-    /// How many bytes may come next; -1: none ever.
+    /// How many bytes may be sent next; -1: no more.
     std::int64_t Allowed(std::uint64_t position, size_t size);
 
     const std::string body_;
@@ -61,12 +60,12 @@ private:
     std::uint64_t sent_ = 0;
 };
 
-/// What the server keeps of a request while it arrives and is answered.
+/// A request while it is received and answered.
 struct Exchange
 {
     explicit Exchange(std::string rawTarget) : uri(std::move(rawTarget)) {}
 
-    std::string uri;  ///< as it stood in the request line
+    std::string uri;  ///< the target as in the request line
     std::string method;
     bool begun = false;
     bool authorized = false;
@@ -79,8 +78,8 @@ struct Exchange
     const std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
 };
 
-/// The path with percent-encoding undone and the query as it stands. An encoded question mark
-/// stays encoded, since it belongs to the path.
+/// Percent-decodes the path and keeps the query. An encoded question mark stays encoded because it
+/// belongs to the path.
 std::string DecodeTarget(const std::string& uri);
 
 }  // namespace Device

@@ -1,4 +1,4 @@
-// Choosing the faults that strike a request.
+// Chooses the faults that strike a request.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/http/ServerFaults.h"
 
@@ -106,14 +106,14 @@ std::string CheckFault(const Fault& fault)
         return "a fault's interval must not be negative";
     }
     if (fault.kind == FaultKind::Drip && fault.bytes == 0) {
-        return "dripping needs a number of bytes";
+        return "drip needs a number of bytes";
     }
     if (fault.kind == FaultKind::Oversize && fault.bytes > kMaxPadding) {
-        return "an answer grows by 4 GiB at most";
+        return "oversize adds 4 GiB at most";
     }
     if (fault.kind == FaultKind::ServerError &&
         (fault.httpStatus < 500 || fault.httpStatus > 599)) {
-        return "a server error's status is 500 to 599";
+        return "the status of a server error is 500 to 599";
     }
     if (fault.kind == FaultKind::Refuse && FindOutcome(fault.subStatusCode) == nullptr) {
         return "there is no refusal \"" + fault.subStatusCode + "\"";

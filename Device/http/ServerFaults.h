@@ -1,4 +1,4 @@
-// Faults that the device's server commits on request, so that clients can be tried against them.
+// Faults that the device's server commits on request, for testing clients.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -18,37 +18,37 @@ namespace Device
 
 enum class FaultKind
 {
-    Delay,         ///< waits `interval` before it answers
+    Delay,         ///< waits `interval` before answering
     Drip,          ///< sends `bytes` of the answer every `interval`
     Truncate,      ///< closes the connection after `bytes` of the announced length
-    Stall,         ///< falls silent after `bytes` for `interval` (0: until the client or the server
-                   ///< gives up), then closes the connection
+    Stall,         ///< stops after `bytes` for `interval` (0: until the client or the server gives
+                   ///< up), then closes the connection
     Reset,         ///< resets the connection instead of answering
     Unauthorized,  ///< answers 401 with a fresh challenge, whatever the credentials
-    StaleNonce,    ///< answers 401 as if the nonce had grown old, whatever the credentials
-    ServerError,   ///< answers `httpStatus` with a page instead of a document
-    Oversize,      ///< adds `bytes` blanks behind the answer
-    Refuse,        ///< answers the status document of `subStatusCode`
+    StaleNonce,    ///< answers 401 as if the nonce had expired, whatever the credentials
+    ServerError,   ///< answers `httpStatus` with an HTML page
+    Oversize,      ///< appends `bytes` blanks to the answer
+    Refuse,        ///< answers with the status document of `subStatusCode`
 };
 
-/// One fault and the requests it strikes. Several may strike the same request. Those with wrong
-/// credentials are struck by `Unauthorized` alone.
+/// A fault and the requests it strikes. Several faults may strike the same request. Requests with
+/// wrong credentials are struck by `Unauthorized` only.
 struct Fault
 {
     FaultKind kind = FaultKind::Delay;
-    std::string pathPrefix = {};  ///< paths that begin so; empty: all
-    unsigned int times = 0;       ///< the first so many of those requests; 0: all
+    std::string pathPrefix = {};  ///< start of the paths; empty: all
+    unsigned int times = 0;       ///< number of requests, from the first one on; 0: all
     std::chrono::milliseconds interval{0};
     std::uint64_t bytes = 0;
     int httpStatus = 503;                      ///< 500 to 599
-    std::string subStatusCode = "deviceBusy";  ///< a word of StatusDocument.h
+    std::string subStatusCode = "deviceBusy";  ///< one of StatusDocument.h
 };
 
-/// How often a fault struck: requests that it changed, not those that it was only meant for. An
-/// answer that is shorter than where it was to be cut counts nothing.
+/// How many requests a fault has changed. An answer that is too short to be truncated, for example,
+/// does not count.
 using FaultCounter = std::shared_ptr<std::atomic<std::uint64_t>>;
 
-/// The faults that strike one request, put together.
+/// All faults that strike one request.
 struct FaultPlan
 {
     std::chrono::milliseconds delay{0};
@@ -64,22 +64,22 @@ struct FaultPlan
     std::optional<int> serverError;
     std::optional<std::string> refusal;
 
-    /// Counts the faults of a kind, once for this request: they take effect now.
+    /// Counts the faults of a kind, once per request. Called when they take effect.
     void Strike(FaultKind kind);
 
     std::vector<std::pair<FaultKind, FaultCounter>> uncounted;
 };
 
-/// Hands out plans, and counts. Any thread may use it.
+/// Plans and counts faults. Any thread may use it.
 class FaultPlanner
 {
 public:
-    /// Replaces all faults and starts counting anew.
+    /// Replaces all faults and resets the counts.
     void Set(std::vector<Fault> faults);
 
     FaultPlan Plan(std::string_view path, bool authorized);
 
-    /// How often each fault struck, in the order in which they were set.
+    /// How often each fault struck, in order.
     [[nodiscard]] std::vector<std::uint64_t> Counts() const;
 
 private:
@@ -94,7 +94,7 @@ private:
     std::vector<Active> active_;
 };
 
-/// Empty when the fault makes sense, otherwise a sentence about what is wrong with it.
+/// Returns a message if the fault makes no sense.
 std::string CheckFault(const Fault& fault);
 
 }  // namespace Device
