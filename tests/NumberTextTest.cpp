@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include "Keel/StringUtil.h"
+#include "support/ForeignLocale.h"
 
 namespace
 {
@@ -237,21 +238,11 @@ TEST(NumberTextTest, ReadsAwkwardTextsAsAStreamDoes)
     EXPECT_TRUE(AllAgree(stream, std::string("1\0002", 3)));
 }
 
-/// The client's global locale may group digits and write decimal commas.
-struct GroupingPunctuation : std::numpunct<char>
-{
-    [[nodiscard]] char do_decimal_point() const override { return ','; }
-    [[nodiscard]] char do_thousands_sep() const override { return '.'; }
-    [[nodiscard]] std::string do_grouping() const override { return "\3"; }
-};
-
 TEST(NumberTextTest, IgnoresTheClientsGlobalLocale)
 {
-    const std::locale before =
-        std::locale::global(std::locale(std::locale::classic(), new GroupingPunctuation));
+    const TestSupport::ForeignLocale locale;
     EXPECT_EQ(CapabilitySet::StringToUInt("1.234"), 1u);
     EXPECT_EQ(CapabilitySet::StringToDouble("1.5"), 1.5);
-    std::locale::global(before);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
-#include <locale>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,6 +17,7 @@
 #include "CapabilitySet/EventAbility.h"
 #include "CapabilitySet/XMLParamInterface/SystemConfig.h"
 #include "CapabilitySet/private/xml/XmlExplain.h"
+#include "support/ForeignLocale.h"
 
 namespace
 {
@@ -81,13 +81,7 @@ std::string Outline(const RecordNode& node)
 
 TEST(RecordTreeTest, TellsEveryKindOfMemberWhateverTheClientsLocale)
 {
-    struct Grouped : std::numpunct<char>
-    {
-        char do_decimal_point() const override { return ','; }
-        char do_thousands_sep() const override { return '.'; }
-        std::string do_grouping() const override { return "\3"; }
-    };
-    const std::locale before = std::locale::global({std::locale::classic(), new Grouped});
+    const TestSupport::ForeignLocale locale;
     AllKinds record;
     record.options.capable = true;
     record.options.opt = {"a"};
@@ -95,9 +89,7 @@ TEST(RecordTreeTest, TellsEveryKindOfMemberWhateverTheClientsLocale)
     record.range.capable = record.range.hasDefault = true;
     record.range.max = 12345;
     record.list.range = {4, 5};
-    const std::string outline = Outline(Describe("all", record));
-    std::locale::global(before);
-    EXPECT_EQ(outline,
+    EXPECT_EQ(Outline(Describe("all", record)),
               "all:R[flag:Ftrue number:N-7 wide:N-9223372036854775808 single:N0.1 "
               "real:N0.3333333333333333 code:N5 text:Ta\"\n options:O[:Ta attri:O[:Tb]] "
               "range:G[min:N0 max:N12345 def:N0] (property:G[min:N0 max:N0]) (list:G[:N4 :N5]) "

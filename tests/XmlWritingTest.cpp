@@ -13,6 +13,7 @@
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
 #include "CapabilitySet/private/xml/XmlReading.h"
+#include "support/ForeignLocale.h"
 #include "support/LogCapture.h"
 #include "support/RecordGenerator.h"
 #include "support/XmlTree.h"
@@ -212,8 +213,9 @@ TEST(XmlBodyTest, IsTheSameByteForByteUnderTheClientsOwnSettings)
     EXPECT_EQ(back.searchID, "up to");
 }
 
-TEST(XmlBodyTest, WritesDecimalNumbersAsAStreamDoesAndLosesNoDigit)
+TEST(XmlBodyTest, WritesDecimalNumbersAsAClassicStreamDoesAndLosesNoDigit)
 {
+    const TestSupport::ForeignLocale locale;
     const std::pair<double, const char*> rows[] = {{0, "0"},
                                                    {100000, "100000"},
                                                    {-0.0001, "-0.0001"},
