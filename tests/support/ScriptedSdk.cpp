@@ -207,7 +207,7 @@ int NET_ORB_GetLastErrorModelCode(int* errModelCode, int* errDevSelfEx)
     return 1;
 }
 
-int NET_ORB_SDKChannelToTARN(int userID, int channel, int /*mode*/)
+int NET_ORB_SDKChannelToTARN(int userID, int channel, int mode)
 {
     const NoAllocationFaults pause;
     auto& sdk = TestSupport::ScriptedSdk::Instance();
@@ -218,5 +218,6 @@ int NET_ORB_SDKChannelToTARN(int userID, int channel, int /*mode*/)
     }
     TestSupport::lastError = sdk.channelError;
     sdk.struck += sdk.channelError != 0 ? 1 : 0;
-    return sdk.channelError != 0 ? -1 : channel + sdk.channelStep;
+    constexpr int kToProtocol = 1;
+    return sdk.channelError != 0 || mode != kToProtocol ? -1 : channel + sdk.channelStep;
 }
