@@ -90,6 +90,7 @@ TEST(AlarmHostState, BatchesAreCarriedOutAsFarAsTheyGoAndNameTheRest)
                  {"POST", kControl + "bypass", R"({"zone": "1,9-11,70"})", 200, "\"id\" : 70"},
                  {"POST", kControl + "bypass", R"({"zone": "0-2000000000"})", 400, "badJson"},
                  {"POST", kControl + "bypass", R"({"zone": "2-1"})", 400, "badJson"},
+                 {"POST", kControl + "bypass", R"({"zone": "1-900,1-900"})", 400, "at most 1000"},
                  {"POST", kControl + "bypassRecover", R"({"zone": "9"})", 200, "\"ok\""}});
     const auto having = [&](const char* path, const char* list, const char* item, const char* key,
                             const Json::Value& value) {
@@ -142,6 +143,8 @@ TEST(AlarmHostState, ConfigurationIsReadBackAndKeptFromNonsense)
                  {"PUT", config + "zones/1", "{\"Zone\": ", 400, "badJsonFormat"},
                  {"PUT", config + "subSys/2", R"({"SubSys": {"linkageZones": [1, 9]}})", 200, "ok"},
                  {"GET", config + "zones/10", "", 200, "\"subSystemNo\" : 0"},
+                 {"PUT", config + "zones/1",
+                  R"({"Zone": {"zoneName": ")" + std::string(20'000, 'x') + "\"}}", 400, "16 KiB"},
                  {"GET", config + "clocks", "", 404, "notSupport"}});
     const Json::Value subSystems = AskJson(*host, "GET", config + "subSys")["List"];
     EXPECT_EQ(subSystems[0]["SubSys"]["linkageZones"].size(), 7u);
@@ -158,7 +161,8 @@ TEST(AlarmHostState, TheLogTellsEveryCommandAndIsReadPageByPage)
     };
     Play(*host, {{"POST", kControl + "arm/<9>?ways=<away>", "", 400, "invalidID"},
                  {"POST", "SecurityCP/Log/search", R"({"SearchDescription": {"maxResults": "x"}})",
-                  400, "badJsonContent"}});
+                  400, "badJsonContent"},
+                 {"POST", "SecurityCP/Log/search", "{}" + std::string(70'000, ' '), 413, "TooL"}});
     size_t seen = 0;
     std::string last;
     for (Json::Value page = search("0"); page["numOfMatches"].asUInt() > 0;

@@ -1,193 +1,27 @@
 // The simulated device's HTTP server, as a client on the network meets it.
 // SPDX-License-Identifier: Apache-2.0
-#include "Device/http/DeviceServer.h"
-
-#include <arpa/inet.h>
-#include <curl/curl.h>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <atomic>
 #include <chrono>
-#include <filesystem>
-#include <fstream>
 #include <mutex>
 #include <thread>
 #include <vector>
 
+#include "support/DeviceServerClient.h"
+
 using namespace std::chrono_literals;
-using Device::DeviceModel;
-using Device::DeviceServer;
 using Device::Fault;
 using Device::FaultKind;
-using Device::ServerOptions;
 using testing::HasSubstr;
+using namespace TestSupport;
 
 namespace
 {
-
-// Echoes requests, so that mixed-up answers show.
-class EchoModel : public DeviceModel
-{
-public:
-    [[nodiscard]] std::string Name() const override { return "echo"; }
-    [[nodiscard]] std::string Description() const override { return "echo"; }
-    [[nodiscard]] bool CheckPassword(std::string_view user,
-                                     std::string_view password) const override
-    {
-        return PasswordOf(user) != nullptr && *PasswordOf(user) == password;
-    }
-    [[nodiscard]] const std::string* PasswordOf(std::string_view user) const override
-    {
-        return user == "admin" ? &password_ : nullptr;
-    }
-    Device::Response Handle(const Device::Request& request) override
-    {
-        if (request.method == "DELETE") {
-            return {405, "text/plain", "", nullptr, {"GET", "PUT"}};
-        }
-        return {200, "text/plain", request.method + " " + request.target + " " + request.body};
-    }
-
-private:
-    const std::string password_ = "se:cret \"x\"";
-};
-
-struct Reply
-{
-    CURLcode code = CURLE_OK;
-    long status = 0;
-    std::string headers;
-    std::string body;
-};
-
-size_t Append(const char* data, size_t, size_t size, void* text)
-{
-    static_cast<std::string*>(text)->append(data, size);
-    return size;
-}
-
-// A client with its own connection.
-class Client
-{
-public:
-    explicit Client(const DeviceServer& server,
-                    const std::string& credentials = "admin:se:cret \"x\"")
-        : url_(server.Url())
-    {
-        Set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_DIGEST));
-        const size_t colon = credentials.find(':');
-        Set(CURLOPT_USERNAME, credentials.substr(0, colon).c_str());
-        Set(CURLOPT_PASSWORD, credentials.substr(colon + 1).c_str());
-        Set(CURLOPT_TIMEOUT_MS, 20000L);
-        Set(CURLOPT_NOSIGNAL, 1L);
-        Set(CURLOPT_PROXY, "");
-    }
-    ~Client() { curl_easy_cleanup(curl_); }
-    Client(const Client&) = delete;
-    Client& operator=(const Client&) = delete;
-
-    template <class Value>
-    void Set(CURLoption option, Value value)
-    {
-        curl_easy_setopt(curl_, option, value);
-    }
-
-    Reply Get(const std::string& target) { return Send("GET", target, nullptr); }
-
-    Reply Send(const char* method, const std::string& target, const std::string* body)
-    {
-        Reply reply;
-        Set(CURLOPT_URL, (url_ + target).c_str());
-        Set(CURLOPT_CUSTOMREQUEST, method);
-        if (body != nullptr) {
-            Set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body->size()));
-            Set(CURLOPT_POSTFIELDS, body->c_str());
-        }
-        Set(CURLOPT_WRITEFUNCTION, &Append);
-        Set(CURLOPT_WRITEDATA, static_cast<void*>(&reply.body));
-        Set(CURLOPT_HEADERFUNCTION, &Append);
-        Set(CURLOPT_HEADERDATA, static_cast<void*>(&reply.headers));
-        reply.code = curl_easy_perform(curl_);
-        curl_easy_getinfo(curl_, CURLINFO_RESPONSE_CODE, &reply.status);
-        return reply;
-    }
-
-private:
-    CURL* curl_ = curl_easy_init();
-    const std::string url_;
-};
-
-std::unique_ptr<DeviceServer> StartServer(ServerOptions options = {})
-{
-    std::string error;
-    auto server = DeviceServer::Start(std::make_shared<EchoModel>(), std::move(options), error);
-    EXPECT_NE(server, nullptr) << error;
-    return server;
-}
-
-std::string StartError(ServerOptions options)
-{
-    std::string error;
-    EXPECT_EQ(DeviceServer::Start(std::make_shared<EchoModel>(), std::move(options), error),
-              nullptr);
-    return error;
-}
-
-// A connection for bytes that no well-behaved client sends.
-class RawConnection
-{
-public:
-    RawConnection(const DeviceServer& server, const std::string& bytes)
-    {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(server.Port());
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        EXPECT_EQ(connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-        EXPECT_EQ(send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL), ssize_t(bytes.size()));
-    }
-    RawConnection(RawConnection&& other) noexcept : socket_(std::exchange(other.socket_, -1)) {}
-    RawConnection& operator=(RawConnection&&) = delete;
-    ~RawConnection() { close(socket_); }
-
-    /// Reads until the text contains `part` or the connection ends.
-    [[nodiscard]] std::string ReadUntil(const std::string& part) const
-    {
-        std::string text;
-        char block[4096];
-        while (text.find(part) == std::string::npos) {
-            const ssize_t count = recv(socket_, block, sizeof block, 0);
-            if (count <= 0) {
-                break;
-            }
-            text.append(block, static_cast<size_t>(count));
-        }
-        return text;
-    }
-    /// Waits for the end of the connection.
-    void ReadToEnd() const { static_cast<void>(ReadUntil("never sent")); }
-
-private:
-    int socket_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-};
 
 ServerOptions WithFault(Fault fault)
 {
     ServerOptions options;
     options.faults = {std::move(fault)};
     return options;
-}
-
-size_t CountOf(const std::string& text, const std::string& part)
-{
-    size_t count = 0;
-    for (size_t at = 0; (at = text.find(part, at)) != std::string::npos; at += part.size()) {
-        ++count;
-    }
-    return count;
 }
 
 TEST(DeviceServer, HandsTargetAndBodyToTheModel)
@@ -198,94 +32,6 @@ TEST(DeviceServer, HandsTargetAndBodyToTheModel)
               "GET /TARN/arm/<1>/a%3Fb?ways=%3Caway%3E&format=json ");
     const std::string body(300000, 'b');
     EXPECT_EQ(client.Send("PUT", "/x", &body).body, "PUT /x " + body);
-}
-
-TEST(DeviceServer, DigestAdmitsOnlyTheRightPassword)
-{
-    const auto server = StartServer();
-    struct Case
-    {
-        const char* credentials;
-        long status;
-    };
-    for (const Case& tried : {Case{"admin:se:cret \"x\"", 200}, Case{"admin:wrong", 401},
-                              Case{"admin:", 401}, Case{"nobody:se:cret \"x\"", 401}}) {
-        Client client(*server, tried.credentials);
-        EXPECT_EQ(client.Get("/x").status, tried.status) << tried.credentials;
-    }
-    Client basic(*server);
-    basic.Set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_BASIC));
-    const Reply reply = basic.Get("/x");
-    EXPECT_EQ(reply.status, 401);
-    EXPECT_THAT(reply.body, HasSubstr("<subStatusCode>unauthorized</subStatusCode>"));
-    EXPECT_THAT(reply.headers, HasSubstr("algorithm=SHA-256"));
-    EXPECT_THAT(reply.headers, HasSubstr("algorithm=MD5"));
-}
-
-TEST(DeviceServer, AReplayedAnswerToAChallengeIsStale)
-{
-    const auto server = StartServer();
-    Client client(*server);
-    std::string sent;
-    client.Set(CURLOPT_VERBOSE, 1L);
-    client.Set(CURLOPT_DEBUGDATA, static_cast<void*>(&sent));
-    client.Set(
-        CURLOPT_DEBUGFUNCTION, +[](CURL*, curl_infotype kind, char* data, size_t size, void* text) {
-            if (kind == CURLINFO_HEADER_OUT) {
-                static_cast<std::string*>(text)->append(data, size);
-            }
-            return 0;
-        });
-    ASSERT_EQ(client.Get("/x").status, 200);
-    const size_t from = sent.find("Authorization: Digest");
-    ASSERT_NE(from, std::string::npos);
-    const std::string header = sent.substr(from, sent.find("\r\n", from) - from);
-
-    const auto replay = [&](const std::string& target, const std::string& line) {
-        Client thief(*server);
-        thief.Set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_NONE));
-        curl_slist* headers = curl_slist_append(nullptr, line.c_str());
-        thief.Set(CURLOPT_HTTPHEADER, headers);
-        Reply reply = thief.Get(target);
-        curl_slist_free_all(headers);
-        return reply;
-    };
-    const Reply again = replay("/x", header);
-    EXPECT_EQ(again.status, 401);
-    EXPECT_THAT(again.headers, HasSubstr("stale=true"));
-    // Names of scheme, fields and algorithms are case-insensitive.
-    const auto spelt = [&](const std::string& name, const std::string& otherwise) {
-        std::string line = header;
-        EXPECT_NE(line.find(name), std::string::npos);
-        return line.replace(line.find(name), name.size(), otherwise);
-    };
-    for (const std::string& line : {spelt("Digest ", "dIGEST "), spelt("realm=", "Realm="),
-                                    spelt("algorithm=SHA-256", "ALGORITHM=sha-256")}) {
-        EXPECT_THAT(replay("/x", line).headers, HasSubstr("stale=true")) << line;
-    }
-    // For another target the answer is simply wrong.
-    const Reply elsewhere = replay("/y", header);
-    EXPECT_EQ(elsewhere.status, 401);
-    EXPECT_EQ(CountOf(elsewhere.headers, "stale=true"), 0u);
-    for (const char* broken :
-         {"Authorization: Digest", "Authorization: Digest ,,,=", "Authorization: Digest nc=\"",
-          "Authorization: Digest username=\"admin\", username=\"admin\"",
-          "Authorization: Bearer x"}) {
-        EXPECT_EQ(replay("/x", broken).status, 401) << broken;
-    }
-}
-
-TEST(DeviceServer, AnOldNonceIsRenewedWithoutAskingForThePassword)
-{
-    ServerOptions options;
-    options.nonceLifetime = 50ms;
-    const auto server = StartServer(std::move(options));
-    Client client(*server);
-    ASSERT_EQ(client.Get("/x").status, 200);
-    std::this_thread::sleep_for(100ms);
-    const Reply reply = client.Get("/x");
-    EXPECT_EQ(reply.status, 200);
-    EXPECT_THAT(reply.headers, HasSubstr("stale=true"));
 }
 
 TEST(DeviceServer, SixteenClientsAtOnceGetTheirOwnAnswers)
@@ -313,37 +59,6 @@ TEST(DeviceServer, SixteenClientsAtOnceGetTheirOwnAnswers)
     server->Stop();
     // One more for the challenge that each client answers first.
     EXPECT_EQ(logged, 16 * 51);
-}
-
-TEST(DeviceServer, TlsIsTrustedByItsOwnCertificateOnly)
-{
-    ServerOptions options;
-    options.tls = true;
-    const auto server = StartServer(std::move(options));
-    const std::string pem = server->CertificatePem();
-    {
-        Client client(*server);
-        EXPECT_EQ(client.Get("/x").code, CURLE_PEER_FAILED_VERIFICATION);
-    }
-    Client client(*server);
-    const curl_blob trusted{const_cast<char*>(pem.data()), pem.size(), CURL_BLOB_COPY};
-    client.Set(CURLOPT_CAINFO_BLOB, &trusted);
-    EXPECT_EQ(client.Get("/x").status, 200);
-    EXPECT_EQ(client.Get("/y").body, "GET /y ");
-}
-
-TEST(DeviceServer, TlsBefore12IsRefused)
-{
-    ServerOptions options;
-    options.tls = true;
-    const auto server = StartServer(std::move(options));
-    for (const long version : {CURL_SSLVERSION_MAX_TLSv1_1, CURL_SSLVERSION_MAX_TLSv1_2}) {
-        Client client(*server);
-        client.Set(CURLOPT_SSL_VERIFYPEER, 0L);
-        client.Set(CURLOPT_SSL_CIPHER_LIST, "ALL:@SECLEVEL=0");
-        client.Set(CURLOPT_SSLVERSION, CURL_SSLVERSION_TLSv1 | version);
-        EXPECT_EQ(client.Get("/x").code == CURLE_OK, version == CURL_SSLVERSION_MAX_TLSv1_2);
-    }
 }
 
 TEST(DeviceServer, SaysWhyItCannotStart)
@@ -401,21 +116,6 @@ TEST(DeviceServer, SlowClientsKeepNobodyOutAndAreDroppedInTheEnd)
     const auto server = StartServer(impatient);
     RawConnection(*server, "GET / HTTP/1.1\r\nHost:").ReadToEnd();
     RawConnection(*server, "PUT / HTTP/1.1\r\nHost: x\r\nContent-Length: 9\r\n\r\nx").ReadToEnd();
-}
-
-TEST(DeviceServer, RefusesABodyBeforeItIsSent)
-{
-    const auto start = [](unsigned size) {
-        return "PUT /x HTTP/1.1\r\nHost: x\r\nExpect: 100-Continue\r\nContent-Length: " +
-               std::to_string(size) + "\r\n\r\n";
-    };
-    const auto closed = StartServer();
-    EXPECT_THAT(RawConnection(*closed, start(9)).ReadUntil("\r\n"), HasSubstr(" 401 "));
-    ServerOptions options;
-    options.authentication = false;
-    const auto open = StartServer(options);
-    EXPECT_THAT(RawConnection(*open, start(9)).ReadUntil("\r\n"), HasSubstr(" 100 "));
-    EXPECT_THAT(RawConnection(*open, start(2u << 20)).ReadUntil("\r\n"), HasSubstr(" 413 "));
 }
 
 TEST(DeviceServer, AnswersHeadAndTellsAllowedMethods)

@@ -1,5 +1,4 @@
-// What simulated cameras, recorders and switches keep, limit and search, by themselves and through
-// the library.
+// The state of simulated cameras, recorders and switches, directly and through the library.
 // SPDX-License-Identifier: Apache-2.0
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -103,6 +102,8 @@ TEST(DeviceStateTest, MergedListsKeepTheItemsThatAPutDoesNotHold)
     Check("dome", {{"PUT", kPresets, preset("2", "a &amp; b"), 200, "ok"},
                    {"PUT", kPresets, preset("300", "last"), 200, "ok"},
                    {"PUT", kPresets, preset("301", "none"), 400, "badParameters"},
+                   {"PUT", kPresets, preset("3", std::string(600'000, 'x').c_str()), 200, "ok"},
+                   {"PUT", kPresets, preset("4", std::string(600'000, 'x').c_str()), 413, "Large"},
                    {"GET", kPresets, "", 200, "<id>2</id>\n    <presetName>a &amp; b<"},
                    {"GET", kPresets, "", 200, "<id>300</id>"},
                    {"GET", kPresets, "", 200, "North gate"}});
@@ -170,6 +171,7 @@ TEST(DeviceStateTest, ContentSearchesThatMakeNoSenseAreRefused)
           Search("a", track, Span("2026-11-18T00:00:00Z", "2026-11-17T00:00:00Z"), "5"), 400,
           "badParameters"},
          {"POST", kPath, "<Search/>", 400, "badXmlContent"},
+         {"POST", kPath, "<Search/>" + std::string(70'000, ' '), 413, "bodyTooLarge"},
          {"POST", kPath, "<CMSearchDescription>", 400, "badXmlFormat"},
          {"POST", kPath, "", 400, "badXmlFormat"},
          {"GET", kPath, "", 405, "methodNotAllowed"}});
@@ -379,7 +381,7 @@ TEST_P(AskedDeviceTest, PtzChannelsShowTheirListsAndKeepTheirTracking)
     EXPECT_FALSE(CVelTarnPTZAutoTracking::GetAutoTrackingState(recorder, 1, tracking));
 }
 
-// Asks a device and expects a document of the record with something in it.
+// Expects a device to answer with a document that fills the record.
 template <class Record, class Error, class... Parameters, class... Arguments>
 void Answers(const Asked& device, bool (*get)(Record&, Error, int, Parameters...),
              const Arguments&... arguments)
@@ -431,7 +433,7 @@ TEST_P(AskedDeviceTest, EveryAbilityIsAnsweredBySomeDevice)
     Answers(Login("recorder"), &WallAbility::GetWallAbility, 1, 1);
 }
 
-// What a channel's documents say of PTZ and of events agrees between them and with the device's.
+// A channel's documents agree with each other and with the device's about PTZ and events.
 TEST_P(AskedDeviceTest, EventsOfAChannelAgreeWithTheDevice)
 {
     struct Channel

@@ -59,10 +59,12 @@ TEST(SearchTask, SearchesFilterAndTheirPagesAddUp)
         EXPECT_EQ(seen, search.total) << search.path << search.conditions;
         EXPECT_EQ(page["responseStatusStrg"], search.total == 0 ? "NO MATCHES" : "OK");
     }
-    Play(*recorder, {{"POST", "SDT/Face/captureSearch", R"({"maxResults": -1})", 400, "badJson"},
-                     {"POST", "SDT/Face/captureSearch", R"({"startTime": "now"})", 400, "badJson"},
-                     {"POST", "SDT/Face/captureSearch", "[]", 400, "badJsonContent"},
-                     {"POST", "SDT/Face/captureSearch", "{", 400, "badJsonFormat"}});
+    Play(*recorder,
+         {{"POST", "SDT/Face/captureSearch", R"({"maxResults": -1})", 400, "badJson"},
+          {"POST", "SDT/Face/captureSearch", R"({"startTime": "now"})", 400, "badJson"},
+          {"POST", "SDT/Face/captureSearch", "[]", 400, "badJsonContent"},
+          {"POST", "SDT/Face/captureSearch", "{}" + std::string(70'000, ' '), 400, "bad"},
+          {"POST", "SDT/Face/captureSearch", "{", 400, "badJsonFormat"}});
 }
 
 TEST(SearchTask, TasksProgressWhenLookedAtAndObeyOnlyWhatFitsTheirState)
@@ -162,7 +164,7 @@ TEST_P(AskedTaskTest, FacesArePackedThenFetchedFromTheirUrl)
     EXPECT_TRUE(Device::IsWholePackage(answer.answer));
 }
 
-// Requests made of pieces of real ones, at random but the same on every run, from several threads.
+// Random requests, the same on every run, from several threads.
 TEST(SearchTask, NoRequestStopsADevice)
 {
     std::vector<std::string> pieces = Keel::StringUtil::SplitString(
