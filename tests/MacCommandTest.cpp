@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 
 #include "Keel/StringUtil.h"
-#include "Tool/session/MacAddress.h"
+#include "Tool/command/MacAddress.h"
 
 namespace
 {

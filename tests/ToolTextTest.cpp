@@ -9,14 +9,15 @@
 #include <json/writer.h>
 
 #include "CapabilitySet/RecordTree.h"
+#include "Tool/Failure.h"
 #include "Tool/command/FaultArgument.h"
+#include "Tool/record/Base64.h"
 #include "Tool/record/Document.h"
 #include "Tool/record/JsonOutput.h"
 #include "Tool/record/Records.h"
 #include "Tool/record/Table.h"
-#include "Tool/session/Base64.h"
+#include "Tool/record/Values.h"
 #include "Tool/session/Connection.h"
-#include "Tool/session/Failure.h"
 #include "Tool/terminal/Grid.h"
 #include "Tool/terminal/Progress.h"
 #include "Tool/terminal/Text.h"

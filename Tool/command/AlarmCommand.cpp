@@ -1,11 +1,13 @@
 // capset alarm: what an alarm host is doing, and commands to it.
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <memory>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Tool/command/AlarmItems.h"
 #include "Tool/command/AlarmLists.h"
-#include "Tool/command/DeviceCommand.h"
+#include "Tool/command/Commands.h"
+#include "Tool/command/ReportCommand.h"
 #include "Tool/record/JsonOutput.h"
 #include "Tool/record/JsonTree.h"
 #include "Tool/session/Paging.h"
@@ -70,11 +72,11 @@ const std::vector<NamedPart>& ConfigurationParts()
     return all;
 }
 
-void AddPartsCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+void AddPartsCommand(Command& group, CommonOptions& common, const CommandText& text,
                      const std::string& title, const std::vector<NamedPart>& parts)
 {
     const auto wanted = std::make_shared<std::vector<std::string>>();
-    CLI::App& command = AddDeviceCommand(group, line, text, [&parts, wanted, title](Talk& talk) {
+    Command& command = AddReportCommand(group, common, text, [&parts, wanted, title](Talk& talk) {
         Report report{{title, RecordNode::Kind::Record, {}, true, {}}};
         report.shown = report.values;
         for (const NamedPart& part : parts) {
@@ -90,9 +92,7 @@ void AddPartsCommand(CLI::App& group, CommandLine& line, const CommandText& text
     for (const NamedPart& part : parts) {
         names.emplace_back(part.name);
     }
-    command.add_option("part", *wanted, "all by default, or some of " + Joined(names))
-        ->check(CLI::IsMember(names).description(""))
-        ->type_name("");
+    command.Positional("part", *wanted, "all by default, or some of " + Joined(names)).OneOf(names);
 }
 
 struct LogOptions
@@ -101,11 +101,11 @@ struct LogOptions
     PageOptions page;
 };
 
-void AddLogCommand(CLI::App& group, CommandLine& line)
+void AddLogCommand(Command& group, CommonOptions& common)
 {
     const auto options = std::make_shared<LogOptions>();
-    CLI::App& command = AddDeviceCommand(
-        group, line, {"log", "Read the log", "sim:alarmhost --limit 20"}, [options](Talk& talk) {
+    Command& command = AddReportCommand(
+        group, common, {"log", "Read the log", "sim:alarmhost --limit 20"}, [options](Talk& talk) {
             AlarmHostLogConditionDescription condition;
             condition.startTime = StartTime(options->time, "");
             condition.endTime = EndTime(options->time, "");
@@ -139,22 +139,22 @@ struct ItemOptions
 };
 using Options = std::shared_ptr<ItemOptions>;
 
-void AddItems(CLI::App& command, ItemOptions& options, const std::string& noun)
+void AddItems(Command& command, ItemOptions& options, const std::string& noun)
 {
-    command.add_option("--" + noun, options.ids, "number of the " + noun + ", or several: 1,2,5")
-        ->required()
-        ->delimiter(',')
-        ->type_name("N,...")
-        ->group("Command");
+    command
+        .Option("--" + noun, options.ids, "N,...", "number of the " + noun + ", or several: 1,2,5")
+        .SeparatedByCommas()
+        .Required()
+        .Group("Command");
 }
 
 /// Commands to subsystems: `one` is the operation for a single one, `path` that of the batch.
 template <class One>
-void AddSubSystemCommand(CLI::App& group, CommandLine& line, const CommandText& text,
-                         const std::string& verb, const Options& options, One one)
+Command& AddSubSystemCommand(Command& group, CommonOptions& common, const CommandText& text,
+                             const std::string& verb, const Options& options, One one)
 {
     const std::string path = "/TARN/SecurityCP/control/" + verb;
-    CLI::App& command = AddDeviceCommand(group, line, text, [options, one, path](Talk& talk) {
+    Command& command = AddReportCommand(group, common, text, [options, one, path](Talk& talk) {
         OperateSubSystemsInfo info;
         for (const int id : options->ids) {
             info.subSystems.emplace_back().id = id;
@@ -173,37 +173,37 @@ void AddSubSystemCommand(CLI::App& group, CommandLine& line, const CommandText& 
             });
     });
     AddItems(command, *options, "subsystem");
+    return command;
 }
 
-void AddSubSystemCommands(CLI::App& group, CommandLine& line)
+void AddSubSystemCommands(Command& group, CommonOptions& common)
 {
     const auto arming = std::make_shared<ItemOptions>();
-    AddSubSystemCommand(
-        group, line, {"arm", "Arm subsystems", "sim:alarmhost --subsystem 1 --way away"}, "arm",
+    Command& arm = AddSubSystemCommand(
+        group, common, {"arm", "Arm subsystems", "sim:alarmhost --subsystem 1 --way away"}, "arm",
         arming, [arming](JsonStatus& status, int id, unsigned int& error, int userID) {
             return JsonConfigApp::SetDevArming(status, arming->way, id, error, userID);
         });
-    group.get_subcommand("arm")
-        ->add_option("--way", arming->way, "away, stay or another way of the host's")
-        ->required()
-        ->type_name("WAY")
-        ->group("Command");
-    AddSubSystemCommand(group, line,
+    arm.Option("--way", arming->way, "WAY",
+               "away, stay, or another way that AlarmHostOperateCapability lists")
+        .Required()
+        .Group("Command");
+    AddSubSystemCommand(group, common,
                         {"disarm", "Disarm subsystems", "sim:alarmhost --subsystem 1,2"}, "disarm",
                         std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevDisArm);
     AddSubSystemCommand(
-        group, line, {"clear", "Clear subsystems' alarms", "sim:alarmhost --subsystem 1"},
+        group, common, {"clear", "Clear subsystems' alarms", "sim:alarmhost --subsystem 1"},
         "clearAlarm", std::make_shared<ItemOptions>(), &JsonConfigApp::SetDevClearAlarm);
 }
 
 using ZoneOperation = bool (*)(const AlarmHostBypassCfg&, JsonStatus&, unsigned int&, const int,
                                const int);
 
-void AddZoneCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+void AddZoneCommand(Command& group, CommonOptions& common, const CommandText& text,
                     ZoneOperation operation)
 {
     const auto options = std::make_shared<ItemOptions>();
-    CLI::App& command = AddDeviceCommand(group, line, text, [options, operation](Talk& talk) {
+    Command& command = AddReportCommand(group, common, text, [options, operation](Talk& talk) {
         const auto send = [&](int zone) {
             AlarmHostBypassCfg cfg;
             cfg.zone = JoinedNumbers(options->ids);
@@ -220,12 +220,12 @@ void AddZoneCommand(CLI::App& group, CommandLine& line, const CommandText& text,
 /// Sends a switch's position to one item, or with kBatch to all that the options list.
 using SwitchSender = std::function<void(Talk& talk, const ItemOptions& options, int id)>;
 
-void AddSwitchCommand(CLI::App& group, CommandLine& line, const CommandText& text,
+void AddSwitchCommand(Command& group, CommonOptions& common, const CommandText& text,
                       const SwitchSender& sender)
 {
     const auto options = std::make_shared<ItemOptions>();
     const std::string noun = text.name;
-    CLI::App& command = AddDeviceCommand(group, line, text, [options, noun, sender](Talk& talk) {
+    Command& command = AddReportCommand(group, common, text, [options, noun, sender](Talk& talk) {
         if (options->on == options->off) {
             throw Failure("say --on or --off", kUsage);
         }
@@ -233,8 +233,8 @@ void AddSwitchCommand(CLI::App& group, CommandLine& line, const CommandText& tex
         return CommandItems(talk, noun, options->ids, send, [&] { send(kBatch); });
     });
     AddItems(command, *options, noun);
-    CLI::Option* const on = command.add_flag("--on", options->on, "switch on")->group("Command");
-    command.add_flag("--off", options->off, "switch off")->group("Command")->excludes(on);
+    command.Flag("--on", options->on, "switch on").Group("Command");
+    command.Flag("--off", options->off, "switch off").Group("Command").Excludes("--on");
 }
 
 const char* PositionOf(const ItemOptions& options)
@@ -267,12 +267,12 @@ void SwitchSiren(Talk& talk, const ItemOptions& options, int id)
               Dump(body));
 }
 
-void AddDetectorCommand(CLI::App& group, CommandLine& line)
+void AddDetectorCommand(Command& group, CommonOptions& common)
 {
     const auto options = std::make_shared<ItemOptions>();
     options->command = "silence";
-    CLI::App& command = AddDeviceCommand(
-        group, line, {"silence", "Silence fire detectors", "sim:alarmhost --detector 1"},
+    Command& command = AddReportCommand(
+        group, common, {"silence", "Silence fire detectors", "sim:alarmhost --detector 1"},
         [options](Talk& talk) {
             DetectorSilence silence;
             silence.cmd = options->command;
@@ -288,45 +288,45 @@ void AddDetectorCommand(CLI::App& group, CommandLine& line)
             return CommandItems(talk, "detector", options->ids, send, {});
         });
     AddItems(command, *options, "detector");
-    command.add_option("--sensor", options->sensor, "one of the detectors at it")
-        ->type_name("N")
-        ->group("Command");
     command
-        .add_option("--command", options->command,
-                    "silence by default, or another command that "
-                    "the host's capability lists")
-        ->type_name("WORD")
-        ->group("Command");
+        .Option("--sensor", options->sensor, "N",
+                "one detector of a channel; all of them by default")
+        .Group("Command");
+    command
+        .Option("--command", options->command, "WORD",
+                "silence by default, or another command that DetectorSilenceCap lists")
+        .Group("Command");
 }
 
 }  // namespace
 
-void AddAlarmCommands(CLI::App& app, CommandLine& line)
+void AddAlarmCommands(Command& program, CommonOptions& common)
 {
-    CLI::App& group = AddCommandGroup(app, "alarm", "Alarm hosts: state, arming, zones, outputs",
-                                      "alarm arm sim:alarmhost --subsystem 1 --way away");
-    AddPartsCommand(group, line, {"status", "Tell what the host is doing", "sim:alarmhost zones"},
+    Command& group = program.Add("alarm", "Alarm hosts: state, arming, zones, outputs");
+    group.Example("capset alarm arm sim:alarmhost --subsystem 1 --way away");
+    AddPartsCommand(group, common, {"status", "Tell what the host is doing", "sim:alarmhost zones"},
                     "AlarmHostStatus", StatusParts());
-    AddPartsCommand(group, line, {"config", "Tell how the host is set up", "sim:alarmhost outputs"},
+    AddPartsCommand(group, common,
+                    {"config", "Tell how the host is set up", "sim:alarmhost outputs"},
                     "AlarmHostConfiguration", ConfigurationParts());
-    AddDeviceCommand(
-        group, line,
+    AddReportCommand(
+        group, common,
         {"zones", "List the zones, how they are set up and what they are doing", "sim:alarmhost"},
         ListZones);
-    AddDeviceCommand(group, line, {"detectors", "List the fire detectors", "sim:alarmhost"},
+    AddReportCommand(group, common, {"detectors", "List the fire detectors", "sim:alarmhost"},
                      ListDetectors);
-    AddLogCommand(group, line);
-    AddSubSystemCommands(group, line);
-    AddZoneCommand(group, line, {"bypass", "Bypass zones", "sim:alarmhost --zone 3"},
+    AddLogCommand(group, common);
+    AddSubSystemCommands(group, common);
+    AddZoneCommand(group, common, {"bypass", "Bypass zones", "sim:alarmhost --zone 3"},
                    &JsonConfigApp::SetDevBypass);
-    AddZoneCommand(group, line,
+    AddZoneCommand(group, common,
                    {"recover", "Take zones back from bypass", "sim:alarmhost --zone 3"},
                    &JsonConfigApp::SetDevBypassRecover);
-    AddSwitchCommand(group, line, {"output", "Switch outputs", "sim:alarmhost --output 1,2 --on"},
+    AddSwitchCommand(group, common, {"output", "Switch outputs", "sim:alarmhost --output 1,2 --on"},
                      SwitchOutput);
-    AddSwitchCommand(group, line, {"siren", "Switch sirens", "sim:alarmhost --siren 4 --off"},
+    AddSwitchCommand(group, common, {"siren", "Switch sirens", "sim:alarmhost --siren 4 --off"},
                      SwitchSiren);
-    AddDetectorCommand(group, line);
+    AddDetectorCommand(group, common);
 }
 
 }  // namespace Tool

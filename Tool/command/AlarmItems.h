@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Tool/command/DeviceCommand.h"
+#include "Tool/command/ReportCommand.h"
 
 namespace Tool
 {

@@ -8,7 +8,7 @@
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Tool/record/JsonTree.h"
-#include "Tool/session/Paging.h"
+#include "Tool/record/Rows.h"
 
 namespace Tool
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Tool/command/DeviceCommand.h"
+#include "Tool/command/ReportCommand.h"
 
 namespace Tool
 {

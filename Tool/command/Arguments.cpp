@@ -1,67 +1,127 @@
-// What the subcommands' command lines have in common.
+// Arguments that several commands share.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/command/Arguments.h"
-
-#include <map>
 
 namespace Tool
 {
 
-CLI::App& AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
-                     const std::string& examples)
+namespace
 {
-    CLI::App& command = *parent.add_subcommand(name, description);
-    command.footer(examples);
-    return command;
+
+constexpr int kMostResults = 1'000'000;
+
+ColourChoice ColourNamed(const std::string& name)
+{
+    return name == "always"  ? ColourChoice::Always
+           : name == "never" ? ColourChoice::Never
+                             : ColourChoice::Auto;
 }
 
-void AddCommonOptions(CLI::App& command, CommonOptions& options)
+}  // namespace
+
+void AddCommonOptions(Command& command, CommonOptions& options)
 {
-    static const std::map<std::string, ColourChoice> choices{{"auto", ColourChoice::Auto},
-                                                             {"always", ColourChoice::Always},
-                                                             {"never", ColourChoice::Never}};
     command
-        .add_option_function<std::string>(
+        .Option(
             "--color",
-            [&options](const std::string& choice) { options.colour = choices.at(choice); },
-            "colours: auto (on a terminal, unless NO_COLOR is set), always or never")
-        ->check(CLI::IsMember(&choices).description(""))
-        ->type_name("WHEN")
-        ->group("Output");
+            [&options](const std::string& name) {
+                options.colour = ColourNamed(name);
+                return std::string();
+            },
+            "WHEN", "colours: auto (on a terminal, unless NO_COLOR is set), always or never")
+        .OneOf({"auto", "always", "never"})
+        .Group("Output");
     command
-        .add_option("--log-level", options.logLevel,
-                    "log of the library to stderr: debug, info or error")
-        ->check(CLI::IsMember({"debug", "info", "error"}).description(""))
-        ->type_name("LEVEL")
-        ->group("Output");
+        .Option("--log-level", options.logLevel, "LEVEL",
+                "log to stderr: error (what fails), info (also every request, its answer and its "
+                "time) or debug")
+        .OneOf({"debug", "info", "error"})
+        .Group("Output");
 }
 
-void AddConnectionOptions(CLI::App& command, ConnectionOptions& options)
+void AddConnectionOptions(Command& command, ConnectionOptions& options)
 {
-    command
-        .add_option("device", options.device,
-                    "sim:PROFILE, http://[USER@]HOST[:PORT] or https://[USER@]HOST[:PORT]")
-        ->required()
-        ->type_name("");
-    const auto add = [&](const char* name, auto& value, const char* description, const char* type) {
-        return command.add_option(name, value, description)->type_name(type)->group("Connection");
-    };
-    add("--user", options.user,
-        "user name; the password comes from CAPSET_PASSWORD or a prompt, never from here", "NAME");
-    add("--ca", options.ca, "PEM file of certificates to trust", "FILE")
-        ->check(CLI::Validator(CLI::ExistingFile).description(""));
-    command.add_flag("--insecure", options.insecure, "trust any certificate")->group("Connection");
+    constexpr const char* kGroup = "Connection";
     constexpr double kLongest = 86400;
-    add("--timeout", options.timeout, "longest time for a whole answer, 15 by default", "SECONDS")
-        ->check(CLI::Range(0.001, kLongest).description(""));
-    add("--connect-timeout", options.connectTimeout,
-        "longest time for reaching the device, 5 by default", "SECONDS")
-        ->check(CLI::Range(0.001, kLongest).description(""));
+    command
+        .Positional("device", options.device,
+                    "sim:PROFILE, http://[USER@]HOST[:PORT] or https://[USER@]HOST[:PORT]")
+        .Required();
+    command
+        .Option("--user", options.user, "NAME",
+                "user name; the password comes from CAPSET_PASSWORD or a prompt, never from the "
+                "command line")
+        .Group(kGroup);
+    command.Option("--ca", options.ca, "FILE", "PEM file of certificates to trust")
+        .ExistingFile()
+        .Group(kGroup);
+    command.Flag("--insecure", options.insecure, "trust any certificate").Group(kGroup);
+    command
+        .Option("--timeout", options.timeout, "TIME",
+                "longest time for a whole answer, 15s by default")
+        .Between(0.001, kLongest)
+        .Group(kGroup);
+    command
+        .Option("--connect-timeout", options.connectTimeout, "TIME",
+                "longest time for reaching the device, 5s by default")
+        .Between(0.001, kLongest)
+        .Group(kGroup);
 }
 
-void AddJsonFlag(CLI::App& command, bool& json)
+void AddJsonFlag(Command& command, bool& json)
 {
-    command.add_flag("--json", json, "JSON for programs (see docs/capset.md)")->group("Output");
+    command.Flag("--json", json, "JSON for programs").Group("Output");
+}
+
+void AddPageOptions(Command& command, PageOptions& options)
+{
+    constexpr int kLargestPage = 100'000;
+    command.Option("--max", options.pageSize, "N", "results to ask for at once, 50 by default")
+        .Between(1, kLargestPage)
+        .Group("Search");
+    AddLimitOption(command, options);
+}
+
+void AddLimitOption(Command& command, PageOptions& options)
+{
+    command
+        .Option("--limit", options.limit, "N",
+                "most results to fetch, " + std::to_string(PageOptions::kUsualLimit) +
+                    " by default; 0: no limit")
+        .Between(0, kMostResults)
+        .Group("Search");
+}
+
+void AddTimeOptions(Command& command, TimeOptions& options)
+{
+    command
+        .Option("--from", options.from, "TIME",
+                "first day, or day and time: 2026-11-20, 2026-11-20T08:30:00")
+        .Checked(CheckTime)
+        .Group("Search");
+    command.Option("--to", options.to, "TIME", "last day, or day and time")
+        .Checked(CheckTime)
+        .Group("Search");
+}
+
+void AddTaskOptions(Command& command, TaskOptions& options)
+{
+    command.Option("--task", options.task, "ID", "continue a task that was started before")
+        .Group("Task");
+    command
+        .Option("--wait", options.wait, "TIME",
+                "give up after this long without progress, 120s by default; 0: start the task, "
+                "print its ID and do not wait")
+        .Between(0, 1e9)
+        .Group("Task");
+}
+
+void AddDownloadOption(Command& command, std::string& file)
+{
+    command
+        .Option("--download", file, "FILE",
+                "save the results as the device packs them, instead of printing a table")
+        .Group("Search");
 }
 
 }  // namespace Tool

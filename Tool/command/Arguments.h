@@ -1,21 +1,20 @@
-// What the subcommands' command lines have in common.
+// Arguments that several commands share.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <functional>
 #include <string>
 
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
-
+#include "Tool/commandline/Command.h"
 #include "Tool/session/Connection.h"
+#include "Tool/session/Paging.h"
+#include "Tool/session/SearchTime.h"
+#include "Tool/session/TaskRun.h"
 #include "Tool/terminal/Terminal.h"
 
 namespace Tool
 {
 
-/// What any subcommand may be told.
+/// What every command can be told.
 struct CommonOptions
 {
     ColourChoice colour = ColourChoice::Auto;
@@ -27,38 +26,28 @@ struct CommonOptions
     }
 };
 
-/// The command that the command line chose; its result is the exit code.
-using Command = std::function<int()>;
-
-/// What the subcommands share while the command line is read.
-struct CommandLine
-{
-    CommonOptions common;
-    Command chosen;
-};
-
-/// A subcommand with its one-line description and its examples at the end of its help.
-CLI::App& AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
-                     const std::string& examples);
-
 /// --color and --log-level.
-void AddCommonOptions(CLI::App& command, CommonOptions& options);
+void AddCommonOptions(Command& command, CommonOptions& options);
 
 /// The device and how to reach it.
-void AddConnectionOptions(CLI::App& command, ConnectionOptions& options);
+void AddConnectionOptions(Command& command, ConnectionOptions& options);
 
 /// --json.
-void AddJsonFlag(CLI::App& command, bool& json);
+void AddJsonFlag(Command& command, bool& json);
 
-// Each of these adds a subcommand, which sets the chosen command when it was called.
-void AddShowCommands(CLI::App& app, CommandLine& line);
-void AddCallCommand(CLI::App& app, CommandLine& line);
-void AddParseCommand(CLI::App& app, CommandLine& line);
-void AddPtzCommands(CLI::App& app, CommandLine& line);
-void AddSwitchCommands(CLI::App& app, CommandLine& line);
-void AddSearchCommands(CLI::App& app, CommandLine& line);
-void AddAlarmCommands(CLI::App& app, CommandLine& line);
-void AddDeviceCommands(CLI::App& app, CommandLine& line);
-void AddMacCommand(CLI::App& app, CommandLine& line);
+/// --max and --limit.
+void AddPageOptions(Command& command, PageOptions& options);
+
+/// --limit alone, for answers that come in one page.
+void AddLimitOption(Command& command, PageOptions& options);
+
+/// --from and --to.
+void AddTimeOptions(Command& command, TimeOptions& options);
+
+/// --task and --wait.
+void AddTaskOptions(Command& command, TaskOptions& options);
+
+/// --download.
+void AddDownloadOption(Command& command, std::string& file);
 
 }  // namespace Tool

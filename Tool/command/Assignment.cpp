@@ -1,4 +1,4 @@
-// Settings as people write them, NAME=VALUE, put into a record's own fields.
+// Settings as users write them, NAME=VALUE.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/command/Assignment.h"
 
@@ -23,9 +23,41 @@ Assignment ReadAssignment(const std::string& text)
 void RefuseName(const Assignment& assignment, const std::string& name,
                 const std::vector<std::string>& members)
 {
+    const std::string sets = "\"" + assignment.text + "\" sets nothing: ";
+    if (name.empty() && !members.empty()) {
+        // The path ends at a nested record.
+        std::string path = assignment.path.front();
+        for (std::size_t i = 1; i < assignment.path.size(); ++i) {
+            path += "." + assignment.path[i];
+        }
+        std::vector<std::string> names;
+        for (const std::string& member : members) {
+            names.push_back(path + "." + member);
+        }
+        throw Failure(sets + "write " + Joined(names, "or"), kUsage);
+    }
     const std::string known = members.empty() ? "" : "; there are " + Joined(members);
-    throw Failure("\"" + assignment.text + "\" sets nothing: there is no \"" + name + "\"" + known,
-                  kUsage);
+    throw Failure(sets + "there is no \"" + name + "\"" + known, kUsage);
+}
+
+void AssignMember(Json::Value& object, const Assignment& assignment)
+{
+    Json::Value* member = &object;
+    for (const std::string& name : assignment.path) {
+        if (!member->isNull() && !member->isObject()) {
+            throw Failure("\"" + assignment.text +
+                              "\" sets nothing: another filter gives what is "
+                              "before \"" +
+                              name + "\" a value of its own",
+                          kUsage);
+        }
+        member = &(*member)[name];
+    }
+    if (member->isObject()) {
+        throw Failure("\"" + assignment.text + "\" would replace members that another filter sets",
+                      kUsage);
+    }
+    *member = assignment.value;
 }
 
 void RefuseValue(const Assignment& assignment, const std::string& wanted)

@@ -1,4 +1,4 @@
-// Settings as people write them, NAME=VALUE, put into a record's own fields.
+// Settings as users write them, NAME=VALUE, put into the fields of a record.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,13 +9,15 @@
 #include <string_view>
 #include <vector>
 
-#include "Tool/session/Failure.h"
+#include <json/value.h>
+
+#include "Tool/Failure.h"
 #include "Tool/terminal/Text.h"
 
 namespace Tool
 {
 
-/// "WirelessSecurity.WPA.sharedKey=secret" taken apart. An item of a list is named by its id:
+/// "WirelessSecurity.WPA.sharedKey=secret", split. An item of a list is named by its id:
 /// "3.uplinkRate=10240".
 struct Assignment
 {
@@ -24,13 +26,13 @@ struct Assignment
     std::string value;
 };
 
-/// Throws a usage failure for a text that is no assignment.
+/// Throws a usage failure if the text is not an assignment.
 Assignment ReadAssignment(const std::string& text);
 
-/// Throws the usage failure of a name that no member bears.
+/// Throws the usage failure of a name that is not among the members.
 [[noreturn]] void RefuseName(const Assignment& assignment, const std::string& name,
                              const std::vector<std::string>& members);
-/// Throws the usage failure of a value that its member cannot hold.
+/// Throws the usage failure of a value that the member cannot hold. `wanted`: "yes or no".
 [[noreturn]] void RefuseValue(const Assignment& assignment, const std::string& wanted);
 
 inline void AssignValue(std::string& member, const Assignment& assignment)
@@ -59,13 +61,17 @@ void AssignValue(Number& member, const Assignment& assignment)
     }
 }
 
+/// Sets a member of a JSON object as text; "a.b=c" one of a nested object, which is made if need
+/// be. Throws a usage failure if "a" is there and is not an object.
+void AssignMember(Json::Value& object, const Assignment& assignment);
+
 template <class Record>
 void Assign(Record& record, const Assignment& assignment, std::size_t depth = 0);
 
 template <class Member>
 concept IsNumberedList = requires(Member& m) { (*m.front()).id; };
 
-/// Puts the value into the item of that id.
+/// Sets a member of the item with that id.
 template <class List>
 void AssignToItem(List& list, const Assignment& assignment, std::size_t depth)
 {
@@ -83,7 +89,7 @@ void AssignToItem(List& list, const Assignment& assignment, std::size_t depth)
     RefuseName(assignment, assignment.path[depth], ends);
 }
 
-/// Puts the value into the member that the path names from `depth` on, whatever the case.
+/// Sets the member that the path names from `depth` on, in upper or lower case.
 template <class Record>
 void Assign(Record& record, const Assignment& assignment, std::size_t depth)
 {
@@ -93,7 +99,7 @@ void Assign(Record& record, const Assignment& assignment, std::size_t depth)
     Record::Fields(record, [&](const char* field, auto& member, auto... /*how*/) {
         using Member = std::remove_reference_t<decltype(member)>;
         if constexpr (IsNumberedList<Member>) {
-            // A record that is a list needs no name for it.
+            // The list of a record is meant without being named.
             isFound = true;
             AssignToItem(member, assignment, depth);
             return;
@@ -111,7 +117,7 @@ void Assign(Record& record, const Assignment& assignment, std::size_t depth)
         } else if constexpr (requires { Member::Fields(member, [](auto&&...) {}); }) {
             Assign(member, assignment, depth + 1);
         } else {
-            RefuseValue(assignment, "a member of it");
+            RefuseValue(assignment, "which of its values is meant");
         }
     });
     if (!isFound) {

@@ -6,12 +6,13 @@
 #include <vector>
 
 #include "PelNetSDK/Login.h"
-#include "Tool/command/Arguments.h"
+#include "Tool/Failure.h"
+#include "Tool/command/Commands.h"
+#include "Tool/record/Base64.h"
 #include "Tool/record/Document.h"
 #include "Tool/record/JsonOutput.h"
-#include "Tool/session/Base64.h"
-#include "Tool/session/Failure.h"
 #include "Tool/session/Refusal.h"
+#include "Tool/session/SdkFailure.h"
 #include "Tool/terminal/Progress.h"
 #include "Tool/terminal/Text.h"
 
@@ -108,7 +109,7 @@ Json::Value ReplyToJson(const CallOptions& options, const std::string& device, c
     return value;
 }
 
-int Call(const CallOptions& options, const CommonOptions& /*common*/)
+int Call(const CallOptions& options)
 {
     const std::string body = options.bodyFile.empty() ? std::string() : ReadInput(options.bodyFile);
     const Session session(options.connection);
@@ -131,30 +132,24 @@ int Call(const CallOptions& options, const CommonOptions& /*common*/)
 
 }  // namespace
 
-void AddCallCommand(CLI::App& app, CommandLine& line)
+void AddCallCommand(Command& program, CommonOptions& common)
 {
-    CLI::App& command =
-        AddCommand(app, "call", "Send any request to a device",
-                   "Examples:\n"
-                   "  capset call sim:dome \"GET /TARN/System/deviceInfo\"\n"
-                   "  capset call sim:dome \"PUT /TARN/System/time\" --body time.xml");
+    Command& command = program.Add("call", "Send any request to a device");
+    command.Example("capset call sim:dome \"GET /TARN/System/deviceInfo\"");
+    command.Example("capset call sim:dome \"PUT /TARN/System/time\" --body time.xml");
     const auto options = std::make_shared<CallOptions>();
     AddConnectionOptions(command, options->connection);
     command
-        .add_option("request", options->request,
-                    "method, blank and path; a path alone is asked for with GET")
-        ->required()
-        ->type_name("");
-    command.add_option("--body", options->bodyFile, "file to send, - for the standard input")
-        ->type_name("FILE");
+        .Positional("request", options->request,
+                    "method and path, such as \"GET /TARN/System/time\"; GET if there is no method")
+        .Required();
+    command.Option("--body", options->bodyFile, "FILE", "file to send; - for the standard input");
     AddJsonFlag(command, options->json);
-    command.add_flag("--raw", options->raw, "the answer as it came, not set for reading")
-        ->group("Output")
-        ->excludes(command.get_option("--json"));
-    AddCommonOptions(command, line.common);
-    command.callback([&line, options] {
-        line.chosen = [&line, options] { return Call(*options, line.common); };
-    });
+    command.Flag("--raw", options->raw, "print the answer as it came, not indented")
+        .Group("Output")
+        .Excludes("--json");
+    AddCommonOptions(command, common);
+    command.SetAction([options] { return Call(*options); });
 }
 
 }  // namespace Tool

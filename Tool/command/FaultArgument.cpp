@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Tool/session/Failure.h"
+#include "Tool/Failure.h"
 #include "Tool/terminal/Text.h"
 
 namespace Tool

@@ -1,15 +1,15 @@
-// capset mac: tells the companies of MAC addresses.
+// capset mac: looks up the makers of MAC addresses.
 // SPDX-License-Identifier: Apache-2.0
 #include <memory>
 #include <sstream>
 #include <vector>
 
 #include "CapabilitySet/JsonTARN/JsonCap/MacCompanyHelper.h"
-#include "Tool/command/Arguments.h"
+#include "Tool/Failure.h"
+#include "Tool/command/Commands.h"
+#include "Tool/command/MacAddress.h"
 #include "Tool/record/Document.h"
 #include "Tool/record/JsonOutput.h"
-#include "Tool/session/Failure.h"
-#include "Tool/session/MacAddress.h"
 #include "Tool/terminal/Grid.h"
 #include "Tool/terminal/Text.h"
 
@@ -127,24 +127,19 @@ int TellCompanies(const MacOptions& options, const CommonOptions& common)
 
 }  // namespace
 
-void AddMacCommand(CLI::App& app, CommandLine& line)
+void AddMacCommand(Command& program, CommonOptions& common)
 {
-    CLI::App& command = AddCommand(app, "mac", "Tell the companies of MAC addresses",
-                                   "The exit code is 1 when one of them is no address.\n\n"
-                                   "Examples:\n"
-                                   "  capset mac 40:55:82:00:11:22 FCD733\n"
-                                   "  ip neigh | awk '/lladdr/ {print $5}' | capset mac --json");
+    Command& command = program.Add("mac", "Look up the makers of MAC addresses");
+    command.Note("The exit code is 1 if one of them is not an address.");
+    command.Example("capset mac 40:55:82:00:11:22 FCD733");
+    command.Example("ip neigh | awk '/lladdr/ {print $5}' | capset mac --json");
     const auto options = std::make_shared<MacOptions>();
-    command
-        .add_option("address", options->addresses,
-                    "whole addresses or their first three bytes and more, written in any of the "
-                    "usual ways; - or none at all for the lines of the standard input")
-        ->type_name("");
+    command.Positional("address", options->addresses,
+                       "addresses, or at least their first three bytes, in any usual form; - or "
+                       "nothing: one per line of the standard input");
     AddJsonFlag(command, options->json);
-    AddCommonOptions(command, line.common);
-    command.callback([&line, options] {
-        line.chosen = [&line, options] { return TellCompanies(*options, line.common); };
-    });
+    AddCommonOptions(command, common);
+    command.SetAction([&common, options] { return TellCompanies(*options, common); });
 }
 
 }  // namespace Tool

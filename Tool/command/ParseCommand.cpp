@@ -3,13 +3,13 @@
 #include <memory>
 
 #include "PelNetSDK/Login.h"
-#include "Tool/command/Arguments.h"
+#include "Tool/Failure.h"
+#include "Tool/command/Commands.h"
+#include "Tool/command/ShowOutput.h"
 #include "Tool/record/Document.h"
-#include "Tool/record/Inquiry.h"
 #include "Tool/record/JsonOutput.h"
 #include "Tool/record/RecordNames.h"
-#include "Tool/record/ShowOutput.h"
-#include "Tool/session/Failure.h"
+#include "Tool/session/Inquiry.h"
 
 namespace Tool
 {
@@ -49,27 +49,22 @@ int Parse(const ParseOptions& options, const CommonOptions& common)
 
 }  // namespace
 
-void AddParseCommand(CLI::App& app, CommandLine& line)
+void AddParseCommand(Command& program, CommonOptions& common)
 {
-    CLI::App& command = AddCommand(app, "parse", "Read a saved document as a record",
-                                   "Examples:\n"
-                                   "  capset parse PTZAbility saved.xml --explain\n"
-                                   "  capset show sim:dome PTZAbility --raw | "
-                                   "capset parse PTZAbility -");
+    Command& command = program.Add("parse", "Read a saved document as a record");
+    command.Example("capset parse PTZAbility saved.xml --explain");
+    command.Example("capset show sim:dome PTZAbility --raw | capset parse PTZAbility -");
     const auto options = std::make_shared<ParseOptions>();
-    command.add_option("record", options->record, "name of the record")->required()->type_name("");
-    command.add_option("file", options->file, "file of the document, - for the standard input")
-        ->required()
-        ->type_name("");
+    command.Positional("record", options->record, "name of the record").Required();
+    command.Positional("file", options->file, "the saved document; - for the standard input")
+        .Required();
     AddJsonFlag(command, options->json);
     command
-        .add_flag("--explain", options->explain,
-                  "what the document held beside the record, and why")
-        ->group("Output");
-    AddCommonOptions(command, line.common);
-    command.callback([&line, options] {
-        line.chosen = [&line, options] { return Parse(*options, line.common); };
-    });
+        .Flag("--explain", options->explain,
+              "list elements of the document that the record does not read, and why")
+        .Group("Output");
+    AddCommonOptions(command, common);
+    command.SetAction([&common, options] { return Parse(*options, common); });
 }
 
 }  // namespace Tool

@@ -1,13 +1,14 @@
 // capset search people and task: searches by human features, which go on in the device.
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <charconv>
 #include <iterator>
 #include <memory>
 #include <optional>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
-#include "Tool/command/SearchCommands.h"
-#include "Tool/command/TaskRun.h"
+#include "Tool/command/Commands.h"
+#include "Tool/command/ReportCommand.h"
 #include "Tool/record/JsonTree.h"
 #include "Tool/session/PackageDownload.h"
 #include "Tool/session/Paging.h"
@@ -130,7 +131,7 @@ Report Manage(Talk& talk, const std::string& task, const std::string& action)
     return ReportTask(task, Look(talk, task));
 }
 
-void AddTaskCommand(CLI::App& group, CommandLine& line)
+void AddTaskCommand(Command& group, CommonOptions& common)
 {
     struct Options
     {
@@ -138,34 +139,33 @@ void AddTaskCommand(CLI::App& group, CommandLine& line)
         std::string action;
     };
     const auto options = std::make_shared<Options>();
-    CLI::App& command = AddDeviceCommand(
-        group, line,
-        {"task", "Tell how far a search for people is, pause, resume, cancel or delete it",
+    Command& command = AddReportCommand(
+        group, common,
+        {"task", "Show how far a search for people is, pause, resume, cancel or delete it",
          "sim:recorder 12 pause"},
         [options](Talk& talk) { return Manage(talk, options->task, options->action); });
-    command.add_option("task", options->task, "the ID that \"search people\" told")
-        ->required()
-        ->type_name("");
+    command.Positional("task", options->task, "the ID that \"search people\" printed").Required();
     const std::vector<std::string> actions(std::begin(kActions), std::end(kActions));
-    command.add_option("action", options->action, Joined(actions, "or") + "; nothing: tell alone")
-        ->check(CLI::IsMember(actions).description(""))
-        ->type_name("");
+    command
+        .Positional("action", options->action,
+                    Joined(actions, "or") + "; nothing: only show the state")
+        .OneOf(actions);
 }
 
 }  // namespace
 
-void AddPeopleCommands(CLI::App& group, CommandLine& line)
+void AddPeopleCommands(Command& group, CommonOptions& common)
 {
     const auto options = std::make_shared<PeopleOptions>();
-    CLI::App& command = AddDeviceCommand(
-        group, line,
+    Command& command = AddReportCommand(
+        group, common,
         {"people", "Find people that libraries know among the captures, as a task of the device",
          "sim:recorder --limit 10"},
         [options](Talk& talk) { return SearchPeople(talk, *options); });
     AddLimitOption(command, options->page);
     AddDownloadOption(command, options->download);
     AddTaskOptions(command, options->task);
-    AddTaskCommand(group, line);
+    AddTaskCommand(group, common);
 }
 
 }  // namespace Tool

@@ -4,7 +4,8 @@
 #include <optional>
 
 #include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
-#include "Tool/command/DeviceCommand.h"
+#include "Tool/command/Commands.h"
+#include "Tool/command/ReportCommand.h"
 #include "Tool/record/PtzLists.h"
 
 namespace Tool
@@ -22,19 +23,17 @@ struct TrackOptions
     bool off = false;
 };
 
-void AddChannelOption(CLI::App& command, int& channel)
+void AddChannelOption(Command& command, int& channel)
 {
-    command.add_option("--channel", channel, "channel, 1 by default")
-        ->type_name("N")
-        ->group("Selectors");
+    command.Option("--channel", channel, "N", "channel, 1 by default").Group("Selectors");
 }
 
 template <class List>
-void AddListCommand(CLI::App& ptz, CommandLine& line, const CommandText& text)
+void AddListCommand(Command& ptz, CommonOptions& common, const CommandText& text)
 {
     const auto channel = std::make_shared<int>(1);
-    CLI::App& command =
-        AddDeviceCommand(ptz, line, text, [channel, name = std::string(text.name)](Talk& talk) {
+    Command& command =
+        AddReportCommand(ptz, common, text, [channel, name = std::string(text.name)](Talk& talk) {
             return Report{ReadPtzList<List>(
                 List::kRoot,
                 talk.Send("GET " + PtzListPath(talk.ProtocolChannel(*channel), name)))};
@@ -76,23 +75,23 @@ Report Track(Talk& talk, const TrackOptions& options)
 
 }  // namespace
 
-void AddPtzCommands(CLI::App& app, CommandLine& line)
+void AddPtzCommands(Command& program, CommonOptions& common)
 {
-    CLI::App& ptz = AddCommandGroup(app, "ptz", "Presets, patrols, patterns, auto-tracking",
-                                    "ptz presets sim:dome");
-    AddListCommand<CVelTarnPTZPresetList>(ptz, line,
+    Command& ptz = program.Add("ptz", "Presets, patrols, patterns, auto-tracking");
+    ptz.Example("capset ptz presets sim:dome");
+    AddListCommand<CVelTarnPTZPresetList>(ptz, common,
                                           {"presets", "List the stored positions", "sim:dome"});
-    AddListCommand<CVelTarnPTZPatrolList>(ptz, line,
+    AddListCommand<CVelTarnPTZPatrolList>(ptz, common,
                                           {"patrols", "List the tours of presets", "sim:dome"});
-    AddListCommand<CVelTarnPTZPatternList>(ptz, line,
+    AddListCommand<CVelTarnPTZPatternList>(ptz, common,
                                            {"patterns", "List the recorded movements", "sim:dome"});
     const auto options = std::make_shared<TrackOptions>();
-    CLI::App& track =
-        AddDeviceCommand(ptz, line, {"track", "Read or switch auto-tracking", "sim:dome --on"},
+    Command& track =
+        AddReportCommand(ptz, common, {"track", "Read or switch auto-tracking", "sim:dome --on"},
                          [options](Talk& talk) { return Track(talk, *options); });
     AddChannelOption(track, options->channel);
-    CLI::Option* const on = track.add_flag("--on", options->on, "track what moves");
-    track.add_flag("--off", options->off, "stay where it is")->excludes(on);
+    track.Flag("--on", options->on, "follow what moves");
+    track.Flag("--off", options->off, "stay in place").Excludes("--on");
 }
 
 }  // namespace Tool

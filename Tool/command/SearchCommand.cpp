@@ -5,12 +5,12 @@
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 #include "Tool/command/Assignment.h"
-#include "Tool/command/DeviceCommand.h"
-#include "Tool/command/SearchCommands.h"
-#include "Tool/command/TaskRun.h"
+#include "Tool/command/Commands.h"
+#include "Tool/command/ReportCommand.h"
 #include "Tool/record/JsonTree.h"
 #include "Tool/session/PackageDownload.h"
 #include "Tool/session/Paging.h"
+#include "Tool/session/TaskRun.h"
 
 namespace Tool
 {
@@ -20,7 +20,12 @@ using namespace CapabilitySet;
 namespace
 {
 
-/// What any search may be told.
+constexpr const char* kGroup = "Search";
+constexpr const char* kMemberFilter =
+    "NAME=VALUE of the search, as the device names it, NAME.NAME for a nested member; can be "
+    "repeated";
+
+/// What any search can be told.
 struct SearchOptions
 {
     TimeOptions time;
@@ -34,28 +39,22 @@ struct SearchOptions
 using Options = std::shared_ptr<SearchOptions>;
 
 /// A command whose action gets the options; those of time and paging are there already.
-CLI::App& AddSearch(CLI::App& group, CommandLine& line, const CommandText& text,
-                    const Options& options, Report (*search)(Talk&, const SearchOptions&))
+Command& AddSearch(Command& group, CommonOptions& common, const CommandText& text,
+                   const Options& options, Report (*search)(Talk&, const SearchOptions&))
 {
-    CLI::App& command = AddDeviceCommand(
-        group, line, text, [options, search](Talk& talk) { return search(talk, *options); });
+    Command& command = AddReportCommand(
+        group, common, text, [options, search](Talk& talk) { return search(talk, *options); });
     AddTimeOptions(command, options->time);
     AddPageOptions(command, options->page);
     return command;
 }
 
-void AddListOption(CLI::App& command, const char* name, auto& value, const char* description,
-                   const char* type)
+void AddFilterOption(Command& command, SearchOptions& options, const char* description)
 {
-    command.add_option(name, value, description)
-        ->type_name(type)
-        ->expected(1)
-        ->allow_extra_args(false)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-        ->group("Search");
+    command.Option("--filter", options.filters, "FILTER", description).Group(kGroup);
 }
 
-/// Asks for pages of JSON by a description that is the same but for its page.
+/// Fetches pages of JSON with a description that differs only in its page.
 template <class Result, class Description, class Operation>
 Report FetchJsonPages(Talk& talk, const SearchOptions& options, const std::string& name,
                       Description description, Operation operation)
@@ -115,7 +114,7 @@ Report SearchCaptures(Talk& talk, const SearchOptions& options)
         });
 }
 
-/// Has the device pack what a search finds, a task, and saves the package.
+/// Has the device pack the results, which is a task, and saves the package.
 Report DownloadFaces(Talk& talk, const SearchOptions& options, FDLibSearchDescription& description)
 {
     DownloadFile file(options.download);
@@ -143,6 +142,20 @@ Report DownloadFaces(Talk& talk, const SearchOptions& options, FDLibSearchDescri
     return RunTask(talk, options.task, {"the device is packing", begin, look, finish});
 }
 
+/// Puts a filter into the search's own members, or else into the JSON sent along with them.
+void AddFilter(FDLibSearchDescription& description, const Assignment& filter)
+{
+    if (filter.path.front() == "searchType" && filter.path.size() == 1) {
+        description.searchType = filter.value;
+    } else if (filter.path.front() == "Attendance" && filter.path.size() > 1) {
+        // Devices read these only in a search of this type.
+        description.searchType = "attendance";
+        Assign(description.Attendance, filter, 1);
+    } else {
+        AssignMember(description.root, filter);
+    }
+}
+
 Report SearchFaces(Talk& talk, const SearchOptions& options)
 {
     FDLibSearchDescription description;
@@ -150,12 +163,11 @@ Report SearchFaces(Talk& talk, const SearchOptions& options)
     description.startTime = StartTime(options.time, "");
     description.endTime = EndTime(options.time, "");
     for (const std::string& filter : options.filters) {
-        const Assignment assignment = ReadAssignment(filter);
-        description.root[assignment.path.front()] = assignment.value;
+        AddFilter(description, ReadAssignment(filter));
     }
     description.maxResultNumber = options.page.limit;
     if (options.download.empty() && !options.task.task.empty()) {
-        throw Failure("--task takes up the packing of a download: say --download FILE", kUsage);
+        throw Failure("--task continues the packing of a download: add --download FILE", kUsage);
     }
     if (options.download.empty()) {
         return FetchJsonPages<FDLibSearchResult>(talk, options, "Faces", description,
@@ -173,8 +185,7 @@ Report SearchTargets(Talk& talk, const SearchOptions& options)
     description.root["startTime"] = StartTime(options.time, "Z");
     description.root["endTime"] = EndTime(options.time, "Z");
     for (const std::string& filter : options.filters) {
-        const Assignment assignment = ReadAssignment(filter);
-        description.root[assignment.path.front()] = assignment.value;
+        AssignMember(description.root, ReadAssignment(filter));
     }
     return FetchJsonPages<TargetSearchResult>(talk, options, "Targets", description,
                                               &JsonConfigApp::SearchTargetFiles);
@@ -182,49 +193,48 @@ Report SearchTargets(Talk& talk, const SearchOptions& options)
 
 }  // namespace
 
-void AddSearchCommands(CLI::App& app, CommandLine& line)
+void AddSearchCommands(Command& program, CommonOptions& common)
 {
-    CLI::App& group = AddCommandGroup(app, "search", "Find recordings, faces, targets and people",
-                                      "search content sim:recorder --track 101");
+    Command& group = program.Add("search", "Find recordings, faces, targets and people");
+    group.Example("capset search content sim:recorder --track 101");
     Options options = std::make_shared<SearchOptions>();
-    CLI::App& content = AddSearch(group, line,
-                                  {"content", "Find recordings",
-                                   "sim:recorder --track 101 --from 2026-11-18 --to 2026-11-19"},
-                                  options, &SearchContent);
-    AddListOption(content, "--track", options->tracks,
-                  "track to search, channel times 100 plus stream, such as 101; can be repeated",
-                  "ID");
+    Command& content = AddSearch(group, common,
+                                 {"content", "Find recordings",
+                                  "sim:recorder --track 101 --from 2026-11-18 --to 2026-11-19"},
+                                 options, &SearchContent);
+    content
+        .Option("--track", options->tracks, "ID",
+                "track to search: 100 times the channel plus the stream, such as 101; can be "
+                "repeated")
+        .Group(kGroup);
 
     options = std::make_shared<SearchOptions>();
-    CLI::App& captures = AddSearch(
-        group, line, {"captures", "Find captured faces", "sim:recorder --filter gender=female"},
+    Command& captures = AddSearch(
+        group, common, {"captures", "Find captured faces", "sim:recorder --filter gender=female"},
         options, &SearchCaptures);
-    AddListOption(captures, "--channel", options->channels, "channel to search; can be repeated",
-                  "N");
-    AddListOption(captures, "--filter", options->filters,
-                  "NAME=VALUE of a face's looks: ageGroup, gender, glasses, mask ...; can be "
-                  "repeated",
-                  "FILTER");
+    captures.Option("--channel", options->channels, "N", "channel to search; can be repeated")
+        .Group(kGroup);
+    AddFilterOption(captures, *options,
+                    "NAME=VALUE of a face's looks: ageGroup, gender, glasses, mask ...; can be "
+                    "repeated");
     AddDownloadOption(captures, options->download);
 
     options = std::make_shared<SearchOptions>();
-    CLI::App& faces = AddSearch(
-        group, line, {"faces", "Find faces that libraries know", "sim:recorder --limit 10"},
+    Command& faces = AddSearch(
+        group, common, {"faces", "Find faces that libraries know", "sim:recorder --limit 10"},
         options, &SearchFaces);
-    AddListOption(faces, "--filter", options->filters,
-                  "NAME=VALUE of the search, as the device names it; can be repeated", "FILTER");
+    AddFilterOption(faces, *options, kMemberFilter);
     AddDownloadOption(faces, options->download);
     AddTaskOptions(faces, options->task);
 
     options = std::make_shared<SearchOptions>();
-    CLI::App& targets = AddSearch(
-        group, line,
-        {"targets", "Find files by what is to be seen", "sim:recorder --filter targetType=human"},
+    Command& targets = AddSearch(
+        group, common,
+        {"targets", "Find files by what they show", "sim:recorder --filter targetType=human"},
         options, &SearchTargets);
-    AddListOption(targets, "--filter", options->filters,
-                  "NAME=VALUE of the search, as the device names it; can be repeated", "FILTER");
+    AddFilterOption(targets, *options, kMemberFilter);
 
-    AddPeopleCommands(group, line);
+    AddPeopleCommands(group, common);
 }
 
 }  // namespace Tool

@@ -4,13 +4,14 @@
 #include <memory>
 #include <optional>
 
-#include "Tool/command/Arguments.h"
+#include "Tool/Failure.h"
+#include "Tool/command/Commands.h"
+#include "Tool/command/ShowOutput.h"
 #include "Tool/record/Document.h"
-#include "Tool/record/Inquiry.h"
 #include "Tool/record/JsonOutput.h"
 #include "Tool/record/RecordNames.h"
-#include "Tool/record/ShowOutput.h"
-#include "Tool/session/Failure.h"
+#include "Tool/session/Inquiry.h"
+#include "Tool/session/SdkFailure.h"
 #include "Tool/terminal/Progress.h"
 #include "Tool/terminal/Text.h"
 
@@ -28,7 +29,10 @@ struct ShowOptions
     bool json = false;
     bool raw = false;
     bool explain = false;
+    bool list = false;
 };
+
+constexpr const char* kSelectors = "Selectors";
 
 /// Asks for one record after another, hands each finding over as it comes, and keeps what all of
 /// them amount to.
@@ -141,40 +145,50 @@ std::string UsersOf(const std::string& option)
     return " (" + Listed(names) + ")";
 }
 
-void AddSelectors(CLI::App& command, Selectors& selectors)
+void AddSelectors(Command& command, Selectors& selectors)
 {
-    const auto add = [&command](const std::string& name, auto& value,
-                                const std::string& description, const char* type) {
-        return command.add_option(name, value, description)->type_name(type)->group("Selectors");
-    };
     const auto addNumber = [&](const std::string& name, std::optional<int>& value,
                                const std::string& what) {
-        add(name, value, what + ", 1 by default" + UsersOf(name), "N");
+        command.Option(name, value, "N", what + ", 1 by default" + UsersOf(name)).Group(kSelectors);
     };
-    add("--channel", selectors.channel,
-        "channel of records that tell of one, 1 by default; -1: the device as a whole", "N");
-    add("--channels", selectors.channels, "channels asked for together" + UsersOf("--channels"),
-        "N,N...")
-        ->delimiter(',')
-        ->expected(1)
-        ->allow_extra_args(false);
+    command
+        .Option("--channel", selectors.channel, "N",
+                "channel, 1 by default; -1: the device as a whole")
+        .Group(kSelectors);
+    command
+        .Option("--channels", selectors.channels, "N,N...",
+                "channels to ask for together" + UsersOf("--channels"))
+        .SeparatedByCommas()
+        .Group(kSelectors);
     addNumber("--audio-channel", selectors.audioChannel, "audio channel");
     addNumber("--talk-channel", selectors.talkChannel, "two-way audio channel");
     addNumber("--wall", selectors.wall, "video wall");
     addNumber("--output", selectors.output, "output of the video wall");
-    add("--part", selectors.part, "one part by its element's name" + UsersOf("--part"), "NAME");
-    command.add_flag("--extended", selectors.extended, "the extended form" + UsersOf("--extended"))
-        ->group("Selectors");
+    command
+        .Option("--part", selectors.part, "NAME",
+                "one part, by its element's name" + UsersOf("--part"))
+        .Group(kSelectors);
+    command.Flag("--extended", selectors.extended, "the extended form" + UsersOf("--extended"))
+        .Group(kSelectors);
 }
 
-std::vector<std::string> GivenSelectors(const CLI::App& command)
+/// The options that select something, as they were given.
+std::vector<std::string> Given(const Selectors& selectors)
 {
     std::vector<std::string> given;
-    for (const CLI::Option* option : command.get_options()) {
-        if (option->get_group() == "Selectors" && option->count() > 0) {
-            given.push_back(option->get_name());
+    const auto add = [&given](bool isGiven, const char* option) {
+        if (isGiven) {
+            given.emplace_back(option);
         }
-    }
+    };
+    add(selectors.channel.has_value(), "--channel");
+    add(selectors.channels.has_value(), "--channels");
+    add(selectors.audioChannel.has_value(), "--audio-channel");
+    add(selectors.talkChannel.has_value(), "--talk-channel");
+    add(selectors.wall.has_value(), "--wall");
+    add(selectors.output.has_value(), "--output");
+    add(selectors.part.has_value(), "--part");
+    add(selectors.extended, "--extended");
     return given;
 }
 
@@ -199,62 +213,47 @@ int ListRecords(const CommonOptions& common, bool json)
     return kAnswered;
 }
 
-void AddRecordsCommand(CLI::App& app, CommandLine& line)
+void AddRecordsCommand(Command& program, CommonOptions& common)
 {
-    CLI::App& command = AddCommand(app, "records", "List all records with one line each",
-                                   "Example:\n  capset records");
+    Command& command = program.Add("records", "List all records");
+    command.Example("capset records");
     const auto json = std::make_shared<bool>(false);
     AddJsonFlag(command, *json);
-    AddCommonOptions(command, line.common);
-    command.callback(
-        [&line, json] { line.chosen = [&line, json] { return ListRecords(line.common, *json); }; });
+    AddCommonOptions(command, common);
+    command.SetAction([&common, json] { return ListRecords(common, *json); });
 }
 
 }  // namespace
 
-void AddShowCommands(CLI::App& app, CommandLine& line)
+void AddShowCommands(Command& program, CommonOptions& common)
 {
-    CLI::App& command =
-        AddCommand(app, "show", "Show what a device can do",
-                   "Examples:\n"
-                   "  capset show sim:dome PTZAbility\n"
-                   "  capset show sim:recorder PTZAbility --channel 2 --json\n"
-                   "  CAPSET_PASSWORD=... capset show https://admin@192.0.2.7 --ca device.pem");
+    Command& command = program.Add("show", "Show what a device can do");
+    command.Example("capset show sim:dome PTZAbility");
+    command.Example("capset show sim:recorder PTZAbility --channel 2 --json");
+    command.Example("capset show https://admin@192.0.2.7 --ca device.pem");
     const auto options = std::make_shared<ShowOptions>();
     AddConnectionOptions(command, options->connection);
-    command
-        .add_option("record", options->records,
-                    "records by name, whatever the case; all of them when none is named")
-        ->type_name("");
+    command.Positional("record", options->records,
+                       "names of records, in upper or lower case; all records by default");
     AddSelectors(command, options->selectors);
     AddJsonFlag(command, options->json);
-    CLI::Option* const json = command.get_option("--json");
-    CLI::Option* const explain = command.add_flag(
-        "--explain", options->explain, "what the document held beside the record, and why");
-    explain->group("Output");
-    command.add_flag("--raw", options->raw, "the device's document as it came")
-        ->group("Output")
-        ->excludes(json)
-        ->excludes(explain);
-    // A flag that, like --help, needs no device.
     command
-        .add_flag_callback(
-            "--list",
-            [&line] {
-                ListRecords(line.common, false);
-                throw CLI::Success();
-            },
-            "list all records (the same as \"capset records\")")
-        ->group("Output")
-        ->trigger_on_parse();
-    AddCommonOptions(command, line.common);
-    command.callback([&command, &line, options] {
-        const std::vector<std::string> given = GivenSelectors(command);
-        line.chosen = [&line, options, given] {
-            return Inquiries(*options, line.common).Run(given);
-        };
+        .Flag("--explain", options->explain,
+              "list elements of the document that the record does not read, and why")
+        .Group("Output");
+    command.Flag("--raw", options->raw, "print the device's document as it came")
+        .Group("Output")
+        .Excludes("--json")
+        .Excludes("--explain");
+    command.Flag("--list", options->list, "list all records, like \"capset records\"")
+        .Group("Output")
+        .WaivesRequired();
+    AddCommonOptions(command, common);
+    command.SetAction([&common, options] {
+        return options->list ? ListRecords(common, options->json)
+                             : Inquiries(*options, common).Run(Given(options->selectors));
     });
-    AddRecordsCommand(app, line);
+    AddRecordsCommand(program, common);
 }
 
 }  // namespace Tool

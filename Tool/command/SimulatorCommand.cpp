@@ -11,12 +11,12 @@
 #include "Device/DeviceModel.h"
 #include "Device/hostile/HostileDocuments.h"
 #include "Device/http/DeviceServer.h"
-#include "Tool/command/Arguments.h"
+#include "Tool/Failure.h"
+#include "Tool/command/Commands.h"
 #include "Tool/command/FaultArgument.h"
+#include "Tool/command/RequestLog.h"
 #include "Tool/record/Document.h"
 #include "Tool/record/JsonOutput.h"
-#include "Tool/session/Failure.h"
-#include "Tool/session/RequestLog.h"
 #include "Tool/terminal/Grid.h"
 #include "Tool/terminal/Text.h"
 
@@ -212,85 +212,63 @@ int Serve(const ServeOptions& options, const CommonOptions& common)
     return kAnswered;
 }
 
-void AddServeOptions(CLI::App& command, ServeOptions& options)
+void AddServeOptions(Command& command, ServeOptions& options)
 {
-    command.add_option("profile", options.profile, "name of a profile, or a profile's folder")
-        ->required()
-        ->type_name("");
-    command
-        .add_option("--address", options.address,
-                    "numeric address to listen on, 127.0.0.1 by default")
-        ->type_name("ADDRESS");
-    command.add_option("--port", options.port, "port to listen on, any free one by default")
-        ->check(CLI::Range(0, 65535).description(""))
-        ->type_name("N");
-    command.add_flag("--tls", options.tls, "HTTPS, with a self-signed certificate unless --cert");
-    CLI::Option* const certificate =
-        command.add_option("--cert", options.certificateFile, "PEM file of the certificate")
-            ->check(CLI::Validator(CLI::ExistingFile).description(""))
-            ->type_name("FILE");
-    CLI::Option* const key = command.add_option("--key", options.keyFile, "PEM file of its key")
-                                 ->check(CLI::Validator(CLI::ExistingFile).description(""))
-                                 ->type_name("FILE");
-    certificate->needs(key);
-    key->needs(certificate);
-    command
-        .add_option("--write-certificate", options.writeCertificate,
-                    "write the certificate there, for clients that are to trust it")
-        ->type_name("FILE");
-    command.add_flag("--no-auth", options.noAuthentication, "let everybody in");
-    command
-        .add_option("--fault", options.faults,
-                    "commit a fault: KIND[=VALUE][*TIMES][@PATH], where KIND is delay, drip, "
-                    "truncate, stall, reset, storm, stale, 5xx, oversize or refuse; can be "
-                    "repeated")
-        ->type_name("FAULT")
-        ->expected(1)
-        ->allow_extra_args(false)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    command.Positional("profile", options.profile, "name of a profile, or a profile's folder")
+        .Required();
+    command.Option("--address", options.address, "ADDRESS",
+                   "numeric address to listen on, 127.0.0.1 by default");
+    command.Option("--port", options.port, "N", "port to listen on, any free one by default")
+        .Between(0, 65535);
+    command.Flag("--tls", options.tls, "HTTPS, with a self-signed certificate unless --cert");
+    command.Option("--cert", options.certificateFile, "FILE", "PEM file of the certificate")
+        .ExistingFile()
+        .Needs("--key");
+    command.Option("--key", options.keyFile, "FILE", "PEM file of its key")
+        .ExistingFile()
+        .Needs("--cert");
+    command.Option("--write-certificate", options.writeCertificate, "FILE",
+                   "save the certificate there, for clients that should trust it");
+    command.Flag("--no-auth", options.noAuthentication, "let everybody in");
+    command.Option("--fault", options.faults, "FAULT",
+                   "misbehave: KIND[=VALUE][*TIMES][@PATH], where KIND is delay, drip, truncate, "
+                   "stall, reset, storm, stale, 5xx, oversize or refuse; can be repeated");
 }
 
-void AddListCommand(CLI::App& device, CommandLine& line)
+void AddListCommand(Command& device, CommonOptions& common)
 {
     struct ListOptions
     {
         bool json = false;
         bool hostile = false;
     };
-    CLI::App& command =
-        AddCommand(device, "list", "List the simulated devices", "Example:\n  capset device list");
+    Command& command = device.Add("list", "List the simulated devices");
+    command.Example("capset device list");
     const auto options = std::make_shared<ListOptions>();
-    command.add_flag("--hostile", options->hostile, "the cases of the hostile device instead");
+    command.Flag("--hostile", options->hostile, "the cases of the hostile device instead");
     AddJsonFlag(command, options->json);
-    AddCommonOptions(command, line.common);
-    command.callback([&line, options] {
-        line.chosen = [&line, options] {
-            return options->hostile ? ListHostileCases(line.common, options->json)
-                                    : ListProfiles(line.common, options->json);
-        };
+    AddCommonOptions(command, common);
+    command.SetAction([&common, options] {
+        return options->hostile ? ListHostileCases(common, options->json)
+                                : ListProfiles(common, options->json);
     });
 }
 
 }  // namespace
 
-void AddDeviceCommands(CLI::App& app, CommandLine& line)
+void AddDeviceCommands(Command& program, CommonOptions& common)
 {
-    CLI::App& device = AddCommand(app, "device", "Simulated devices: list them, serve one",
-                                  "Example:\n  capset device serve dome --port 8080");
-    device.require_subcommand(1);
-    AddListCommand(device, line);
-    CLI::App& command =
-        AddCommand(device, "serve", "Serve a simulated device over HTTP until interrupted",
-                   "Examples:\n"
-                   "  capset device serve dome --port 8080\n"
-                   "  capset device serve recorder --tls --write-certificate device.pem\n"
-                   "  capset device serve dome --fault delay=2s --fault reset*3@/TARN/System");
+    Command& device = program.Add("device", "Simulated devices: list them, serve one");
+    device.Example("capset device serve dome --port 8080");
+    AddListCommand(device, common);
+    Command& command = device.Add("serve", "Serve a simulated device over HTTP until interrupted");
+    command.Example("capset device serve dome --port 8080");
+    command.Example("capset device serve recorder --tls --write-certificate device.pem");
+    command.Example("capset device serve dome --fault delay=2s --fault reset*3@/TARN/System");
     const auto options = std::make_shared<ServeOptions>();
     AddServeOptions(command, *options);
-    AddCommonOptions(command, line.common);
-    command.callback([&line, options] {
-        line.chosen = [&line, options] { return Serve(*options, line.common); };
-    });
+    AddCommonOptions(command, common);
+    command.SetAction([&common, options] { return Serve(*options, common); });
 }
 
 }  // namespace Tool

@@ -5,7 +5,8 @@
 
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
 #include "Tool/command/Assignment.h"
-#include "Tool/command/DeviceCommand.h"
+#include "Tool/command/Commands.h"
+#include "Tool/command/ReportCommand.h"
 #include "Tool/session/Paging.h"
 
 namespace Tool
@@ -31,9 +32,10 @@ Record Read(Talk& talk, Getter<Record> get)
 }
 
 template <class Record>
-void AddReadCommand(CLI::App& group, CommandLine& line, const CommandText& text, Getter<Record> get)
+void AddReadCommand(Command& group, CommonOptions& common, const CommandText& text,
+                    Getter<Record> get)
 {
-    AddDeviceCommand(group, line, text, [get](Talk& talk) {
+    AddReportCommand(group, common, text, [get](Talk& talk) {
         return Report{Describe(Record::kElement, Read(talk, get))};
     });
 }
@@ -87,7 +89,16 @@ const std::map<std::string, Changer>& Changers()
     return all;
 }
 
-void AddSetCommand(CLI::App& group, CommandLine& line)
+std::vector<std::string> Names(const std::map<std::string, Changer>& changers)
+{
+    std::vector<std::string> names;
+    for (const auto& [name, changer] : changers) {
+        names.push_back(name);
+    }
+    return names;
+}
+
+void AddSetCommand(Command& group, CommonOptions& common)
 {
     struct SetOptions
     {
@@ -95,8 +106,8 @@ void AddSetCommand(CLI::App& group, CommandLine& line)
         std::vector<std::string> assignments;
     };
     const auto options = std::make_shared<SetOptions>();
-    CLI::App& command =
-        AddDeviceCommand(group, line,
+    Command& command =
+        AddReportCommand(group, common,
                          {"set", "Change settings: they are read, changed, sent and read back",
                           "sim:switch rates 3.uplinkRate=10240"},
                          [options](Talk& talk) {
@@ -106,17 +117,14 @@ void AddSetCommand(CLI::App& group, CommandLine& line)
                              }
                              return Changers().at(options->setting)(talk, assignments);
                          });
-    command.add_option("setting", options->setting, "info, rates, wireless, region or discovery")
-        ->required()
-        ->check(CLI::IsMember(&Changers()).description(""))
-        ->type_name("");
+    command.Positional("setting", options->setting, "info, rates, wireless, region or discovery")
+        .OneOf(Names(Changers()))
+        .Required();
     command
-        .add_option(
-            "assignment", options->assignments,
-            "NAME=VALUE with the name that the reading command shows; .NAME for a member of "
-            "a member, ID.NAME for one of a list")
-        ->required()
-        ->type_name("");
+        .Positional("assignment", options->assignments,
+                    "NAME=VALUE, with names as the reading command shows them; NAME.NAME for a "
+                    "nested member, ID.NAME for an item of a list")
+        .Required();
 }
 
 Report ReadWorkStates(Talk& talk, const PageOptions& options)
@@ -136,32 +144,32 @@ Report ReadWorkStates(Talk& talk, const PageOptions& options)
 
 }  // namespace
 
-void AddSwitchCommands(CLI::App& app, CommandLine& line)
+void AddSwitchCommands(Command& program, CommonOptions& common)
 {
-    CLI::App& group = AddCommandGroup(app, "switch", "Managed switches: ports, rates, wireless",
-                                      "switch ports sim:switch");
-    AddReadCommand(group, line, {"info", "Tell what the switch is", "sim:switch"},
+    Command& group = program.Add("switch", "Managed switches: ports, rates, wireless");
+    group.Example("capset switch ports sim:switch");
+    AddReadCommand(group, common, {"info", "Tell what the switch is", "sim:switch"},
                    &ParamInterface::GetSwitchesBasicInfo);
-    AddReadCommand(group, line, {"ports", "List the ports", "sim:switch"},
+    AddReadCommand(group, common, {"ports", "List the ports", "sim:switch"},
                    &ParamInterface::GetPortInfo);
-    AddReadCommand(group, line, {"rates", "List the ports' rate limits", "sim:switch"},
+    AddReadCommand(group, common, {"rates", "List the ports' rate limits", "sim:switch"},
                    &ParamInterface::GetPortRates);
     const auto options = std::make_shared<PageOptions>();
     AddPageOptions(
-        AddDeviceCommand(group, line, {"state", "List what the switches are doing", "sim:switch"},
+        AddReportCommand(group, common, {"state", "List what the switches are doing", "sim:switch"},
                          [options](Talk& talk) { return ReadWorkStates(talk, *options); }),
         *options);
-    AddReadCommand(group, line, {"wireless", "Tell the wireless link's settings", "sim:switch"},
+    AddReadCommand(group, common, {"wireless", "Tell the wireless link's settings", "sim:switch"},
                    &ParamInterface::GetWireless);
-    AddReadCommand(group, line, {"region", "Tell the wireless bridge's region", "sim:switch"},
+    AddReadCommand(group, common, {"region", "Tell the wireless bridge's region", "sim:switch"},
                    &ParamInterface::GetBridgeRegion);
-    AddReadCommand(group, line, {"discovery", "Tell how the switch is found", "sim:switch"},
+    AddReadCommand(group, common, {"discovery", "Tell how the switch is found", "sim:switch"},
                    &ParamInterface::GetDiscoveryMode);
-    AddReadCommand(group, line, {"apps", "List the applications", "sim:switch"},
+    AddReadCommand(group, common, {"apps", "List the applications", "sim:switch"},
                    &ParamInterface::GetApps);
-    AddReadCommand(group, line, {"status", "Tell time, temperatures and fans", "sim:switch"},
+    AddReadCommand(group, common, {"status", "Tell time, temperatures and fans", "sim:switch"},
                    &ParamInterface::GetDeviceStatus);
-    AddSetCommand(group, line);
+    AddSetCommand(group, common);
 }
 
 }  // namespace Tool

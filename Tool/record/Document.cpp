@@ -14,8 +14,8 @@
 #include <json/value.h>
 
 #include "CapabilitySet/private/xml/XmlDocument.h"
+#include "Tool/Failure.h"
 #include "Tool/record/JsonOutput.h"
-#include "Tool/session/Failure.h"
 #include "Tool/terminal/Terminal.h"
 #include "Tool/terminal/Text.h"
 

@@ -144,15 +144,6 @@ Json::Value ToJson(const RecordNode& node)
     return Json::nullValue;
 }
 
-Json::Value ErrorToJson(const SdkFailure& failure)
-{
-    Json::Value error(Json::objectValue);
-    error["number"] = failure.error;
-    error["text"] =
-        failure.text + (failure.detail.empty() ? std::string() : " (" + failure.detail + ")");
-    return error;
-}
-
 std::string Dump(const Json::Value& value, JsonText form)
 {
     Json::StreamWriterBuilder builder;

@@ -7,7 +7,6 @@
 #include <json/value.h>
 
 #include "CapabilitySet/RecordTree.h"
-#include "Tool/session/Failure.h"
 
 namespace Tool
 {
@@ -15,9 +14,6 @@ namespace Tool
 /// A member's value: flags are booleans, numbers numbers, lists arrays, options and ranges objects,
 /// and what is not announced is null.
 Json::Value ToJson(const CapabilitySet::RecordNode& node);
-
-/// {"number": 23, "text": "..."}.
-Json::Value ErrorToJson(const SdkFailure& failure);
 
 /// What a text of JSON may hold beside ASCII.
 enum class JsonText

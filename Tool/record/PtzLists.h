@@ -6,8 +6,8 @@
 #include <type_traits>
 
 #include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
+#include "Tool/Failure.h"
 #include "Tool/record/XmlReadingReport.h"
-#include "Tool/session/Failure.h"
 
 namespace Tool
 {

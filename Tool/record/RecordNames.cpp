@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "Tool/session/Failure.h"
+#include "Tool/Failure.h"
 #include "Tool/terminal/Text.h"
 
 namespace Tool

@@ -7,18 +7,10 @@
 #include <vector>
 
 #include "CapabilitySet/RecordTree.h"
-#include "Tool/terminal/Terminal.h"
+#include "Tool/terminal/Grid.h"
 
 namespace Tool
 {
-
-/// A short text in a table, harmless to print.
-struct Cell
-{
-    std::string text;
-    Style style = Style::Plain;
-    bool isNumber = false;
-};
 
 /// The member as one text: "yes", "1..8 (default 4)", "a, b, c". Nothing when it has members of its
 /// own that need lines of their own.

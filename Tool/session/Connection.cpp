@@ -9,7 +9,8 @@
 #include <string_view>
 
 #include "PelNetSDK/Login.h"
-#include "Tool/session/Failure.h"
+#include "Tool/Failure.h"
+#include "Tool/session/SdkFailure.h"
 #include "Tool/terminal/Password.h"
 #include "Tool/terminal/Progress.h"
 #include "Tool/terminal/Text.h"
@@ -118,7 +119,7 @@ std::string LoginFailure(const Address& address, const std::string& user)
     const SdkFailure failure = LastFailure(NET_ORB_GetLastError());
     const bool anonymous = failure.error == NET_ORB_PASSWORD_ERROR && user.empty();
     return "cannot log in to " + address.address + ": " + Told(failure) +
-           (anonymous ? "; name a user with --user" : Hint(failure.error));
+           (anonymous ? "; name a user with --user" : Hint(failure));
 }
 
 }  // namespace
@@ -133,15 +134,18 @@ Address ParseAddress(const std::string& text)
             return ParseNetworkAddress(scheme, std::string_view(text).substr(scheme.size()));
         }
     }
-    // What holds an "@" may hold a password, which is not shown again.
-    const std::string what =
-        text.find('@') == std::string::npos ? "\"" + text + "\"" : std::string("this");
-    Refuse(what + " is no address of a device: " + kForms);
+    // A text with "@" may contain a password, which is not repeated.
+    if (text.find('@') != std::string::npos) {
+        Refuse(std::string("this is not the address of a device: ") + kForms);
+    }
+    const bool isName = !text.empty() && text.find_first_of("/ ") == std::string::npos;
+    Refuse("\"" + text + "\" is not the address of a device: " +
+           (isName ? "did you mean http://" + text + " or sim:" + text + "?" : kForms));
 }
 
-unsigned int Milliseconds(double seconds)
+unsigned int Milliseconds(std::chrono::duration<double> time)
 {
-    return static_cast<unsigned int>(std::lround(seconds * 1000));
+    return static_cast<unsigned int>(std::lround(time.count() * 1000));
 }
 
 Session::Session(const ConnectionOptions& options)

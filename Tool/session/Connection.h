@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <chrono>
 #include <string>
 
 namespace Tool
@@ -25,8 +26,8 @@ struct ConnectionOptions
     std::string user;
     std::string ca;
     bool insecure = false;
-    double timeout = 0;         ///< seconds, 0: the SDK's default
-    double connectTimeout = 0;  ///< seconds, 0: the SDK's default
+    std::chrono::duration<double> timeout{0};         ///< 0: the SDK's default
+    std::chrono::duration<double> connectTimeout{0};  ///< 0: the SDK's default
 };
 
 /// A device that is logged in as long as the object lives.
@@ -48,7 +49,7 @@ private:
     int userID_ = -1;
 };
 
-/// Seconds of an option in the SDK's milliseconds.
-unsigned int Milliseconds(double seconds);
+/// A duration as the SDK takes it.
+unsigned int Milliseconds(std::chrono::duration<double> time);
 
 }  // namespace Tool

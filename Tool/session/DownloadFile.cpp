@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "Tool/session/Failure.h"
+#include "Tool/Failure.h"
 
 namespace Tool
 {

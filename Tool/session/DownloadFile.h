@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "Tool/session/Interruption.h"
+#include "Tool/terminal/Interruption.h"
 
 namespace Tool
 {

@@ -43,15 +43,6 @@ std::string PathOf(const std::string& url)
 
 }  // namespace
 
-void AddDownloadOption(CLI::App& command, std::string& file)
-{
-    command
-        .add_option("--download", file,
-                    "save what is found as the device packs it, in place of a table")
-        ->type_name("FILE")
-        ->group("Search");
-}
-
 Report Download(Talk& talk, DownloadFile& file, const PackageOperation& operation)
 {
     tagNET_ORB_XML_CONFIG_OUTPUT package{};

@@ -6,14 +6,12 @@
 #include <string>
 
 #include "PelNetSDK/PelNetSDK.h"
-#include "Tool/command/DeviceCommand.h"
 #include "Tool/session/DownloadFile.h"
+#include "Tool/session/Report.h"
+#include "Tool/session/Talk.h"
 
 namespace Tool
 {
-
-/// --download FILE.
-void AddDownloadOption(CLI::App& command, std::string& file);
 
 /// An operation of the library that hands out a package: an array of `returnedSize` bytes in
 /// `outBuffer`, which the caller then owns.

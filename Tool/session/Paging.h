@@ -1,4 +1,4 @@
-// Searches that are answered page by page, fetched until all is there.
+// Searches that are answered page by page, fetched until all results are there.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "Tool/command/DeviceCommand.h"
+#include "Tool/session/Report.h"
+#include "Tool/session/Talk.h"
 
 namespace Tool
 {
@@ -14,44 +15,26 @@ namespace Tool
 /// How much of a search is wanted.
 struct PageOptions
 {
+    /// A device can claim to have more results for ever.
+    static constexpr int kUsualLimit = 50'000;
+
     int pageSize = 50;
-    int limit = 0;  ///< most results, 0: all
+    int limit = kUsualLimit;  ///< most results, 0: no limit
 };
-
-/// --max and --limit.
-void AddPageOptions(CLI::App& command, PageOptions& options);
-
-/// --limit alone, for what comes in one page.
-void AddLimitOption(CLI::App& command, PageOptions& options);
-
-/// The time that a search looks at.
-struct TimeOptions
-{
-    std::string from;
-    std::string to;
-};
-
-/// --from and --to. Each is a day, or a day and a time; nothing else gets by.
-void AddTimeOptions(CLI::App& command, TimeOptions& options);
-
-/// The beginning of --from and the end of --to as devices write them, all times when one is not
-/// given. `zone` is appended to times without one.
-std::string StartTime(const TimeOptions& options, const std::string& zone);
-std::string EndTime(const TimeOptions& options, const std::string& zone);
 
 /// One page as a device answered it.
 struct Page
 {
     std::vector<CapabilitySet::RecordNode> items;
     bool hasMore = false;
-    int total = 0;  ///< results of all pages, 0: the device does not tell
+    int total = 0;  ///< results of all pages, 0: the device does not say
 };
 
-/// A page of a document that tells it in the usual words: "matchList" or another list of matches,
-/// "responseStatusStrg" ("MORE"), "totalMatches".
+/// A page from a document with the usual members: "matchList" or another list of matches,
+/// "responseStatusStrg" ("MORE") and "totalMatches".
 Page ReadPage(const CapabilitySet::RecordNode& answer);
 
-/// A name for a search that no other has.
+/// A random name for a search.
 std::string NewSearchID();
 
 /// Which page is asked for.
@@ -62,12 +45,10 @@ struct PageRequest
     int count = 0;
 };
 
-/// Fetches page after page, and reports the results in a list of the record that is named. A device
-/// that sends the same page again and again is left alone.
+/// Fetches page after page and reports the results as "matches" and "total" of a record with that
+/// name. It stops at the limit, at the total that the device announced, when a page is empty or
+/// the same as the one before, and with a failure when the answers grow beyond all reason.
 Report FetchPages(Talk& talk, const PageOptions& options, const std::string& name,
                   const std::function<Page(const PageRequest&)>& fetch);
-
-/// The same with nested members moved up, so that they stand in one row of a table.
-CapabilitySet::RecordNode Flattened(const CapabilitySet::RecordNode& item);
 
 }  // namespace Tool

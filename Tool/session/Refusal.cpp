@@ -36,7 +36,7 @@ std::string Told(const Refusal& refusal)
         // The detail is that document's code once more.
         failure.detail.clear();
     }
-    return Told(failure) + status + Hint(failure.error) + TaskHint(refusal.task);
+    return Told(failure) + status + Hint(failure) + TaskHint(refusal.task);
 }
 
 void AddToJson(Json::Value& value, const Refusal& refusal)

@@ -6,7 +6,8 @@
 
 #include <json/value.h>
 
-#include "Tool/session/Failure.h"
+#include "Tool/Failure.h"
+#include "Tool/session/SdkFailure.h"
 
 namespace Tool
 {

@@ -6,11 +6,18 @@
 #include <string>
 #include <vector>
 
-#include "Tool/record/Values.h"
 #include "Tool/terminal/Terminal.h"
 
 namespace Tool
 {
+
+/// A short text in a table, safe to print.
+struct Cell
+{
+    std::string text;
+    Style style = Style::Plain;
+    bool isNumber = false;
+};
 
 /// Rows of as many cells as there are columns. The last column takes what is left of the width and
 /// wraps; columns of numbers are set to the right.

@@ -12,7 +12,7 @@
 #include <termios.h>
 #include <unistd.h>
 
-#include "Tool/session/Failure.h"
+#include "Tool/Failure.h"
 #include "Tool/terminal/Text.h"
 
 namespace Tool

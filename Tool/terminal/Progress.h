@@ -10,7 +10,7 @@
 #include <string>
 #include <thread>
 
-#include "Tool/session/Interruption.h"
+#include "Tool/terminal/Interruption.h"
 
 namespace Tool
 {

@@ -1,6 +1,6 @@
 // One line for each request that a served device answered.
 // SPDX-License-Identifier: Apache-2.0
-#include "Tool/session/RequestLog.h"
+#include "Tool/command/RequestLog.h"
 
 #include <cstdio>
 

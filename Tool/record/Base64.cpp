@@ -1,6 +1,6 @@
 // Bytes as Base64 text.
 // SPDX-License-Identifier: Apache-2.0
-#include "Tool/session/Base64.h"
+#include "Tool/record/Base64.h"
 
 namespace Tool
 {

@@ -1,6 +1,6 @@
 // Asking a device for one record, and judging what came.
 // SPDX-License-Identifier: Apache-2.0
-#include "Tool/record/Inquiry.h"
+#include "Tool/session/Inquiry.h"
 
 #include "PelNetSDK/Login.h"
 #include "Tool/record/JsonOutput.h"

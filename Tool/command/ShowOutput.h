@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "Tool/record/Inquiry.h"
+#include "Tool/session/Inquiry.h"
 #include "Tool/terminal/Terminal.h"
 
 namespace Tool

@@ -1,6 +1,6 @@
 // MAC addresses as people write them.
 // SPDX-License-Identifier: Apache-2.0
-#include "Tool/session/MacAddress.h"
+#include "Tool/command/MacAddress.h"
 
 #include <algorithm>
 #include <charconv>

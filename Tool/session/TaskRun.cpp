@@ -1,6 +1,6 @@
-// Tasks that go on in a device: begun, or taken up again, and waited for.
+// Tasks that run in a device.
 // SPDX-License-Identifier: Apache-2.0
-#include "Tool/command/TaskRun.h"
+#include "Tool/session/TaskRun.h"
 
 #include <algorithm>
 #include <chrono>
@@ -8,7 +8,7 @@
 #include <thread>
 
 #include "PelNetSDK/Login.h"
-#include "Tool/session/Interruption.h"
+#include "Tool/terminal/Interruption.h"
 #include "Tool/terminal/Text.h"
 
 namespace Tool
@@ -29,7 +29,7 @@ std::string Standing(const std::string& task, const std::string& verb, const Tas
     return "task " + task + verb + std::to_string(state.percent) + " %";
 }
 
-/// Looks at the task until it is done; earlier, when nobody wants to wait.
+/// Polls the task until it is done; once if nobody wants to wait.
 TaskState Await(Talk& talk, const TaskOptions& options, const TaskSteps& steps,
                 const std::string& task)
 {
@@ -40,7 +40,7 @@ TaskState Await(Talk& talk, const TaskOptions& options, const TaskSteps& steps,
     Clock::time_point moved = Clock::now();
     for (;;) {
         TaskState state = steps.look(task);
-        if (state.isDone || options.wait <= 0) {
+        if (state.isDone || options.wait.count() <= 0) {
             return state;
         }
         if (!state.halt.empty()) {
@@ -51,7 +51,7 @@ TaskState Await(Talk& talk, const TaskOptions& options, const TaskSteps& steps,
         if (state.percent > furthest) {
             furthest = state.percent;
             moved = Clock::now();
-        } else if (Clock::now() - moved > std::chrono::duration<double>(options.wait)) {
+        } else if (Clock::now() - moved > options.wait) {
             GiveUp(talk, NET_ORB_DEVICE_BUSY,
                    Standing(task, " has stood at ", state) + " for too long");
         }
@@ -64,26 +64,11 @@ Report BeginAndFinish(Talk& talk, const TaskOptions& options, const TaskSteps& s
                       const std::string& task)
 {
     const TaskState state = Await(talk, options, steps, task);
-    return options.wait <= 0 && !state.isDone ? ReportTask(task, state) : steps.finish(task);
+    return options.wait.count() <= 0 && !state.isDone ? ReportTask(task, state)
+                                                      : steps.finish(task);
 }
 
 }  // namespace
-
-void AddTaskOptions(CLI::App& command, TaskOptions& options)
-{
-    command
-        .add_option("--task", options.task,
-                    "take up a task that was begun before, by the ID that was told")
-        ->type_name("ID")
-        ->group("Task");
-    command
-        .add_option("--wait", options.wait,
-                    "give up when the task makes no progress for so long, 120 by default; 0 to "
-                    "begin it, tell its ID and not wait")
-        ->check(CLI::NonNegativeNumber.description(""))
-        ->type_name("SECONDS")
-        ->group("Task");
-}
 
 Report ReportTask(const std::string& task, const TaskState& state)
 {
@@ -104,7 +89,7 @@ Report RunTask(Talk& talk, const TaskOptions& options, const TaskSteps& steps)
     if (task.empty()) {
         GiveUp(talk, NET_ORB_NETWORK_ERRORDATA, "the device named no task");
     }
-    // A simulated device of this process ends with it, and its tasks too.
+    // A simulated device ends with this process, and so do its tasks.
     const bool isLasting = !talk.Device().starts_with("sim:");
     std::optional<AtInterruption> farewell;
     if (isLasting) {
@@ -116,7 +101,7 @@ Report RunTask(Talk& talk, const TaskOptions& options, const TaskSteps& steps)
         return BeginAndFinish(talk, options, steps, task);
     } catch (const DeviceFailure& failure) {
         Refusal why = failure.Why();
-        // A task that the device refuses is none to take up.
+        // A task that the device refuses cannot be continued.
         const unsigned int error = why.failure.error;
         const bool isRefused = error == NET_ORB_DEVICE_REFUSED || MeansUnsupported(error);
         why.task = isLasting && !isRefused ? task : std::string();

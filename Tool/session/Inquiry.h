@@ -6,8 +6,9 @@
 
 #include <json/value.h>
 
+#include "Tool/Failure.h"
 #include "Tool/record/Records.h"
-#include "Tool/session/Failure.h"
+#include "Tool/session/SdkFailure.h"
 
 namespace Tool
 {

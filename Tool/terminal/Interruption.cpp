@@ -1,6 +1,6 @@
 // What is still done when SIGINT, SIGTERM or SIGHUP ends the program.
 // SPDX-License-Identifier: Apache-2.0
-#include "Tool/session/Interruption.h"
+#include "Tool/terminal/Interruption.h"
 
 #include <algorithm>
 #include <array>

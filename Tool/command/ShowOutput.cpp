@@ -1,6 +1,6 @@
 // Findings as people see them.
 // SPDX-License-Identifier: Apache-2.0
-#include "Tool/record/ShowOutput.h"
+#include "Tool/command/ShowOutput.h"
 
 #include <algorithm>
 
@@ -68,7 +68,7 @@ std::string RenderReading(const Reading& reading, const std::string& source, boo
 std::string FailureSentence(const Finding& finding, const std::string& device)
 {
     return finding.record->name + " of " + device + ": " + Told(finding.failure) +
-           Hint(finding.failure.error);
+           Hint(finding.failure);
 }
 
 std::string RenderSummary(std::span<const Finding> findings, const std::string& device,
