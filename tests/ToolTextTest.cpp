@@ -18,6 +18,8 @@
 #include "Tool/record/Table.h"
 #include "Tool/record/Values.h"
 #include "Tool/session/Connection.h"
+#include "Tool/session/Paging.h"
+#include "Tool/session/SearchTime.h"
 #include "Tool/terminal/Grid.h"
 #include "Tool/terminal/Progress.h"
 #include "Tool/terminal/Text.h"
@@ -47,9 +49,10 @@ TEST_F(ToolText, NothingThatSteersATerminalGetsThrough)
          "\\u009B31m"},              // a control sequence in one character
         {"\xff\xc3", "\\xFF\\xC3"},  // no UTF-8, and a cut one
         {std::string("a\0b", 3), "a\\u0000b"},
-        {"abc\xe2\x80\xae"
-         "fed",
-         "abc\\u202Efed"},  // turns the direction of writing
+        // Marks that change the direction of writing: both ends of each range.
+        {"\u061c\u200e\u200f\u202a\u202e\u2066\u2069",
+         "\\u061C\\u200E\\u200F\\u202A\\u202E\\u2066\\u2069"},
+        {"\u202f\u2010", "\u202f\u2010"},
         {"北门", "北门"},
     };
     for (const auto& [given, shown] : cases) {
@@ -185,7 +188,14 @@ TEST_F(ToolText, JsonKeepsTypesOrderAndRepeatedElements)
     EXPECT_EQ(Dump(value).find('\033'), std::string::npos);
 
     EXPECT_EQ(ToJson(Leaf("n", Kind::Number, "18446744073709551615")).asUInt64(), UINT64_MAX);
-    EXPECT_EQ(ToJson(Leaf("n", Kind::Number, "-0.5")).asDouble(), -0.5);
+    for (const char* number : {"0.4", "-0.1", "0.30000000000000004", "1.0", "1e+22", "7",
+                               "1.7976931348623157e+308", "123456789.12345679"}) {
+        // The shortest text that reads back the same.
+        EXPECT_EQ(Dump(ToJson(Leaf("n", Kind::Number, number))), std::string(number) + "\n");
+        Json::Value read;
+        ASSERT_TRUE(ReadJson(number, read));
+        EXPECT_EQ(CapabilitySet::tree::Node("n", read).text, number);
+    }
     const CapabilitySet::AbilityElement root{
         "r", "", {{"v", "1"}}, {{"a", "1", {}, {}}, {"b", "2", {}, {}}, {"a", "3", {}, {}}}};
     value = ToJson(CapabilitySet::tree::Node("r", root));
@@ -264,6 +274,7 @@ TEST_F(ToolText, ALineOfProgressTellsWhatMattersInAnyWidth)
     EXPECT_EQ(ProgressLine(searching, 40), "searching  ━━━━━━╸┄┄┄┄┄  56 %  0 s");
     EXPECT_EQ(ProgressLine({.what = "a", .received = 3u << 20, .total = 6u << 20}, 24),
               "a  3.0 of 6.0 MiB  0 s");
+    EXPECT_EQ(ProgressLine(searching, 40, Glyphs::Ascii), "searching  ######-.....  56 %  0 s");
     for (std::size_t width = 1; width < 120; ++width) {
         for (const int percent : {-1, 0, 100, 2000000000}) {
             EXPECT_LE(
@@ -271,6 +282,62 @@ TEST_F(ToolText, ALineOfProgressTellsWhatMattersInAnyWidth)
                 std::max<std::size_t>(width, 6));
         }
     }
+}
+
+/// A device that answers a search with `items` per page and says what `more` and `total` tell it.
+struct SearchedDevice
+{
+    int items;
+    bool more;
+    int total;
+    int limit;
+    std::vector<int> asked;  ///< results asked for, page by page
+    std::size_t got;
+    std::string remark;
+};
+
+TEST_F(ToolText, PagesEndAtTheLimitTheTotalOrTheDevicesLastResult)
+{
+    ConnectionOptions connection;
+    connection.device = "sim:dome";
+    const Session session(connection);
+    for (const SearchedDevice& device : {
+             SearchedDevice{4, true, 10, 7, {4, 3}, 7, "7 of 10 results"},
+             {4, true, 8, 0, {4, 4}, 8, "8 results"},  // for ever MORE
+             {4, true, 0, 8, {4, 4}, 8, "8 results, and there are more"},
+             {4, false, 0, 3, {3}, 3, "3 of 4 results"},  // all at once, whatever was asked for
+             {0, true, 9, 0, {4}, 0, "0 of 9 results"},
+         }) {
+        Talk talk(session, "search");
+        std::vector<int> asked;
+        int next = 0;
+        const Report report = FetchPages(
+            talk, {.pageSize = 4, .limit = device.limit}, "Found", [&](const PageRequest& request) {
+                EXPECT_EQ(request.position, next);
+                asked.push_back(request.count);
+                Page page{{}, device.more, device.total};
+                for (int i = 0; i < device.items; ++i) {
+                    page.items.push_back(CapabilitySet::tree::Integer("id", next++));
+                }
+                return page;
+            });
+        EXPECT_EQ(asked, device.asked);
+        EXPECT_EQ(report.values.children[0].children.size(), device.got);
+        EXPECT_EQ(report.remark, device.remark);
+    }
+}
+
+TEST_F(ToolText, TimesOfASearchAreCompletedAndChecked)
+{
+    EXPECT_EQ(StartTime({"2026-11-20", ""}, "Z"), "2026-11-20T00:00:00Z");
+    EXPECT_EQ(EndTime({"", "2026-11-20 08:30+01:00"}, "Z"), "2026-11-20T08:30:00+01:00");
+    EXPECT_EQ(EndTime({"", "2026-11-20"}, ""), "2026-11-20T23:59:59");
+    for (const char* text : {"2026-02-29", "2026-13-01", "2026-1-1", "2026-11-20T24:00", "now", "",
+                             "2026-11-20T08:30:00 CET", "2026-11-20T08"}) {
+        EXPECT_NE(CheckTime(text), "") << text;
+    }
+    EXPECT_NO_THROW(StartTime({"2026-11-20T09:00+02:00", "2026-11-20T08:00Z"}, "Z"));
+    EXPECT_THROW(StartTime({"2026-11-20T09:00Z", "2026-11-20T09:30+01:00"}, "Z"), Failure);
 }
 
 TEST_F(ToolText, Base64PadsWhatIsLeftOver)

@@ -24,6 +24,14 @@ std::string Shortest(Value value)
     return {digits.data(), end.ptr};
 }
 
+/// A real number stays one: 1.0, not 1.
+std::string RealText(double value)
+{
+    std::string text = Shortest(value);
+    const bool isWhole = text.find_first_of(".einf") == std::string::npos;
+    return isWhole ? text + ".0" : text;
+}
+
 RecordNode Bounds(std::string name, bool announced, unsigned int min, unsigned int max)
 {
     return {
@@ -157,7 +165,8 @@ RecordNode Node(std::string name, const Json::Value& value)
     if (value.isNumeric()) {
         node.kind = Kind::Number;
     }
-    node.text = value.asString();
+    // JsonCpp would write 0.4 as 0.40000000000000002.
+    node.text = value.type() == Json::realValue ? RealText(value.asDouble()) : value.asString();
     return node;
 }
 

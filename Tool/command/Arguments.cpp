@@ -73,6 +73,13 @@ void AddJsonFlag(Command& command, bool& json)
     command.Flag("--json", json, "JSON for programs").Group("Output");
 }
 
+void AddOutputOptions(Command& command, RecordOutput& output)
+{
+    AddJsonFlag(command, output.json);
+    command.Flag("--show-secrets", output.showSecrets, "show passwords and keys in clear text")
+        .Group("Output");
+}
+
 void AddPageOptions(Command& command, PageOptions& options)
 {
     constexpr int kLargestPage = 100'000;

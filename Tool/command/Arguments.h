@@ -32,6 +32,16 @@ void AddCommonOptions(Command& command, CommonOptions& options);
 /// The device and how to reach it.
 void AddConnectionOptions(Command& command, ConnectionOptions& options);
 
+/// How records are shown.
+struct RecordOutput
+{
+    bool json = false;
+    bool showSecrets = false;
+};
+
+/// --json and --show-secrets.
+void AddOutputOptions(Command& command, RecordOutput& output);
+
 /// --json.
 void AddJsonFlag(Command& command, bool& json);
 

@@ -47,6 +47,9 @@ struct Buffer
     std::unique_ptr<char[]> data;
 };
 
+/// Updates of a device's software can be this large.
+constexpr std::size_t kLargestBody = 1u << 30;
+
 /// The largest answer the SDK takes, and a little more.
 constexpr unsigned int kLargestAnswer = 1200u << 20;
 
@@ -111,7 +114,8 @@ Json::Value ReplyToJson(const CallOptions& options, const std::string& device, c
 
 int Call(const CallOptions& options)
 {
-    const std::string body = options.bodyFile.empty() ? std::string() : ReadInput(options.bodyFile);
+    const std::string body =
+        options.bodyFile.empty() ? std::string() : ReadInput(options.bodyFile, kLargestBody);
     const Session session(options.connection);
     Reply reply;
     {

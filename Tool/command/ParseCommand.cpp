@@ -9,6 +9,7 @@
 #include "Tool/record/Document.h"
 #include "Tool/record/JsonOutput.h"
 #include "Tool/record/RecordNames.h"
+#include "Tool/record/Secrets.h"
 #include "Tool/session/Inquiry.h"
 
 namespace Tool
@@ -21,7 +22,7 @@ struct ParseOptions
 {
     std::string record;
     std::string file;
-    bool json = false;
+    RecordOutput output;
     bool explain = false;
 };
 
@@ -32,12 +33,16 @@ int Parse(const ParseOptions& options, const CommonOptions& common)
     finding.record = &record;
     finding.reading = record.read(ReadInput(options.file));
     const std::string source = options.file == "-" ? "standard input" : options.file;
+    if (!options.output.showSecrets) {
+        HideSecrets(finding.reading.values);
+        HideSecrets(finding.reading.shown);
+    }
     const std::string& problem = finding.reading.problem;
     finding.outcome = problem.empty() ? Outcome::Answered : Outcome::Failed;
     if (!problem.empty()) {
         finding.failure = {NET_ORB_NOSUPPORT, "cannot be read as " + record.name, problem};
     }
-    if (options.json) {
+    if (options.output.json) {
         Print(Dump(ToJson(finding, source, options.explain)));
     } else if (problem.empty()) {
         Print(RenderReading(finding.reading, source, options.explain, common.PaintFor(stdout)));
@@ -58,7 +63,7 @@ void AddParseCommand(Command& program, CommonOptions& common)
     command.Positional("record", options->record, "name of the record").Required();
     command.Positional("file", options->file, "the saved document; - for the standard input")
         .Required();
-    AddJsonFlag(command, options->json);
+    AddOutputOptions(command, options->output);
     command
         .Flag("--explain", options->explain,
               "list elements of the document that the record does not read, and why")

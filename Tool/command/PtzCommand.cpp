@@ -16,6 +16,8 @@ using namespace CapabilitySet;
 namespace
 {
 
+constexpr const char* kChannelOption = "--channel N";
+
 struct TrackOptions
 {
     int channel = 1;
@@ -34,6 +36,7 @@ void AddListCommand(Command& ptz, CommonOptions& common, const CommandText& text
     const auto channel = std::make_shared<int>(1);
     Command& command =
         AddReportCommand(ptz, common, text, [channel, name = std::string(text.name)](Talk& talk) {
+            talk.SetChannelOption(kChannelOption);
             return Report{ReadPtzList<List>(
                 List::kRoot,
                 talk.Send("GET " + PtzListPath(talk.ProtocolChannel(*channel), name)))};
@@ -52,6 +55,7 @@ bool ReadTracking(Talk& talk, int channel)
 
 Report Track(Talk& talk, const TrackOptions& options)
 {
+    talk.SetChannelOption(kChannelOption);
     const bool wanted = options.on;
     const bool isSetting = options.on || options.off;
     if (isSetting) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "Tool/record/JsonOutput.h"
+#include "Tool/record/Secrets.h"
 #include "Tool/record/Table.h"
 #include "Tool/terminal/Text.h"
 
@@ -18,7 +19,7 @@ namespace
 struct DeviceOptions
 {
     ConnectionOptions connection;
-    bool json = false;
+    RecordOutput output;
 };
 
 Json::Value ReportHead(const std::string& command, const std::string& device, bool answered)
@@ -52,7 +53,7 @@ int RunDeviceCommand(const std::string& command, const DeviceOptions& options,
         Talk talk(session, command);
         report = action(talk);
     } catch (const DeviceFailure& failure) {
-        if (!options.json) {
+        if (!options.output.json) {
             throw;
         }
         Json::Value value = ReportHead(command, session.Device(), false);
@@ -60,7 +61,13 @@ int RunDeviceCommand(const std::string& command, const DeviceOptions& options,
         Print(Dump(value));
         return failure.Code();
     }
-    if (options.json) {
+    if (!options.output.showSecrets) {
+        HideSecrets(report.values);
+        if (report.shown) {
+            HideSecrets(*report.shown);
+        }
+    }
+    if (options.output.json) {
         Json::Value value = ReportHead(command, session.Device(), true);
         value["values"] = ToJson(report.values);
         Print(Dump(value));
@@ -79,7 +86,7 @@ Command& AddReportCommand(Command& group, CommonOptions& common, const CommandTe
     command.Example(command.FullName() + " " + text.example);
     const auto options = std::make_shared<DeviceOptions>();
     AddConnectionOptions(command, options->connection);
-    AddJsonFlag(command, options->json);
+    AddOutputOptions(command, options->output);
     AddCommonOptions(command, common);
     const std::string words = command.FullName().substr(command.FullName().find(' ') + 1);
     command.SetAction([&common, words, options, action = std::move(action)] {

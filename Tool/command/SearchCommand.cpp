@@ -73,13 +73,14 @@ Report FetchJsonPages(Talk& talk, const SearchOptions& options, const std::strin
 
 Report SearchContent(Talk& talk, const SearchOptions& options)
 {
+    talk.SetChannelOption("--track ID");
     CMSearchDescription description;
     description.trackIDList.trackID = options.tracks;
     const auto span = std::make_shared<TimeSpan>();
     span->startTime = StartTime(options.time, "Z");
     span->endTime = EndTime(options.time, "Z");
     description.timeSpanList.timeSpan.push_back(span);
-    return FetchPages(talk, options.page, "Recordings", [&](const PageRequest& request) {
+    Report report = FetchPages(talk, options.page, "Recordings", [&](const PageRequest& request) {
         description.searchID = request.searchID;
         description.searchResultPosition = request.position;
         description.maxResults = request.count;
@@ -89,10 +90,22 @@ Report SearchContent(Talk& talk, const SearchOptions& options)
         });
         return ReadPage(Describe("Recordings", result));
     });
+    // Each is longer than a line, and programs need them rather than people.
+    for (RecordNode& list : report.shown->children) {
+        for (RecordNode& row : list.children) {
+            std::erase_if(row.children,
+                          [](const RecordNode& each) { return each.name == "playbackURI"; });
+        }
+    }
+    if (!report.values.children.front().children.empty()) {
+        report.remark += "; --json also gives where each can be played";
+    }
+    return report;
 }
 
 Report SearchCaptures(Talk& talk, const SearchOptions& options)
 {
+    talk.SetChannelOption("--channel N");
     CaptureSearchDescription description;
     for (const std::string& filter : options.filters) {
         Assign(static_cast<FaceAttributes&>(description), ReadAssignment(filter));

@@ -4,12 +4,15 @@
 #include <memory>
 #include <optional>
 
+#include "PelNetSDK/Login.h"
 #include "Tool/Failure.h"
 #include "Tool/command/Commands.h"
 #include "Tool/command/ShowOutput.h"
 #include "Tool/record/Document.h"
 #include "Tool/record/JsonOutput.h"
 #include "Tool/record/RecordNames.h"
+#include "Tool/record/Secrets.h"
+#include "Tool/record/Values.h"
 #include "Tool/session/Inquiry.h"
 #include "Tool/session/SdkFailure.h"
 #include "Tool/terminal/Progress.h"
@@ -17,6 +20,8 @@
 
 namespace Tool
 {
+
+using CapabilitySet::RecordNode;
 
 namespace
 {
@@ -26,7 +31,7 @@ struct ShowOptions
     ConnectionOptions connection;
     std::vector<std::string> records;
     Selectors selectors;
-    bool json = false;
+    RecordOutput output;
     bool raw = false;
     bool explain = false;
     bool list = false;
@@ -34,8 +39,35 @@ struct ShowOptions
 
 constexpr const char* kSelectors = "Selectors";
 
-/// Asks for one record after another, hands each finding over as it comes, and keeps what all of
-/// them amount to.
+/// Some devices answer with all parts, whichever was asked for.
+void KeepPart(Finding& finding, const std::string& part)
+{
+    std::vector<std::string> names;
+    for (const RecordNode& each : finding.reading.values.children) {
+        if (!IsAttribute(each)) {
+            names.push_back(each.name);
+        }
+    }
+    if (std::ranges::count(finding.record->options, "--part") == 0) {
+        return;
+    }
+    const bool isThere = std::ranges::any_of(
+        names, [&part](const std::string& name) { return SameIgnoringCase(name, part); });
+    if (!isThere) {
+        finding.outcome = Outcome::Failed;
+        finding.failure = {NET_ORB_PARAMETER_ERROR,
+                           "there is no part \"" + part + "\"; there are " + Joined(names),
+                           {}};
+        return;
+    }
+    for (RecordNode* tree : {&finding.reading.values, &finding.reading.shown}) {
+        std::erase_if(tree->children, [&part](const RecordNode& each) {
+            return !IsAttribute(each) && !SameIgnoringCase(each.name, part);
+        });
+    }
+}
+
+/// Asks for one record after another, shows each finding as it comes, and sums them up.
 class Inquiries
 {
 public:
@@ -55,18 +87,20 @@ public:
             throw Failure("--raw shows the document of one record: name it", kUsage);
         }
         const Session session(options_.connection);
-        bool canPrint = true;
+        Progress progress("asking " + session.Device());
         for (const RecordEntry* record : records_) {
+            progress.Say("for " + record->name + Place());
             findings_.push_back(Ask(*record, session));
-            canPrint = Hand(findings_.back(), session.Device());
-            // What was read is not needed any more, and there may be much of it.
+            progress.Clear();
+            const bool canPrint = Show(findings_.back(), session.Device());
+            // The document and what was read from it may be large, and are not needed again.
             findings_.back().document = {};
             findings_.back().reading = {};
             if (!canPrint) {
                 break;
             }
         }
-        if (options_.json) {
+        if (options_.output.json) {
             Print(Dump(options_.records.size() == 1 ? json_[0] : json_));
         } else if (options_.records.empty()) {
             Print("\n");
@@ -76,39 +110,48 @@ public:
     }
 
 private:
+    /// " (3 of 73)".
+    [[nodiscard]] std::string Place() const
+    {
+        return records_.size() == 1 ? std::string()
+                                    : " (" + std::to_string(findings_.size() + 1) + " of " +
+                                          std::to_string(records_.size()) + ")";
+    }
+
     Finding Ask(const RecordEntry& record, const Session& session)
     {
         if (unreachable_) {
             return {&record, Outcome::NotAsked, unreachable_->failure, {}, {}};
         }
-        std::string what = "asking " + session.Device() + " for " + record.name;
-        if (records_.size() > 1) {
-            what += " (" + std::to_string(findings_.size() + 1) + " of " +
-                    std::to_string(records_.size()) + ")";
-        }
-        const Progress progress(what);
         Finding finding = Inquire(record, session.UserID(), options_.selectors);
         if (finding.outcome == Outcome::Failed && MeansUnreachable(finding.failure.error)) {
             unreachable_ = finding;
+        }
+        if (finding.outcome == Outcome::Answered && options_.selectors.part) {
+            KeepPart(finding, *options_.selectors.part);
+        }
+        if (!options_.output.showSecrets) {
+            HideSecrets(finding.reading.values);
+            HideSecrets(finding.reading.shown);
         }
         return finding;
     }
 
     /// False once nothing more can be printed.
-    bool Hand(const Finding& finding, const std::string& device)
+    bool Show(const Finding& finding, const std::string& device)
     {
         const bool answered = finding.outcome == Outcome::Answered;
         const bool isNamed = !options_.records.empty();
-        if (options_.json) {
+        if (options_.output.json) {
             json_.append(ToJson(finding, device, options_.explain));
         }
-        if (!answered && isNamed && (!options_.json)) {
+        if (!answered && isNamed && !options_.output.json) {
             Complain(FailureSentence(finding, device));
         }
         if (options_.raw && !finding.document.empty()) {
             PrintDocument(finding.document);
         }
-        if (options_.json || options_.raw || !answered) {
+        if (options_.output.json || options_.raw || !answered) {
             return true;
         }
         const std::string between = printed_++ > 0 ? "\n\n" : "";
@@ -236,7 +279,7 @@ void AddShowCommands(Command& program, CommonOptions& common)
     command.Positional("record", options->records,
                        "names of records, in upper or lower case; all records by default");
     AddSelectors(command, options->selectors);
-    AddJsonFlag(command, options->json);
+    AddOutputOptions(command, options->output);
     command
         .Flag("--explain", options->explain,
               "list elements of the document that the record does not read, and why")
@@ -250,7 +293,7 @@ void AddShowCommands(Command& program, CommonOptions& common)
         .WaivesRequired();
     AddCommonOptions(command, common);
     command.SetAction([&common, options] {
-        return options->list ? ListRecords(common, options->json)
+        return options->list ? ListRecords(common, options->output.json)
                              : Inquiries(*options, common).Run(Given(options->selectors));
     });
     AddRecordsCommand(program, common);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "PelNetSDK/Login.h"
 #include "Tool/record/Table.h"
 #include "Tool/terminal/Grid.h"
 #include "Tool/terminal/Text.h"
@@ -67,8 +68,10 @@ std::string RenderReading(const Reading& reading, const std::string& source, boo
 
 std::string FailureSentence(const Finding& finding, const std::string& device)
 {
+    const bool isChannel = finding.failure.error == NET_ORB_CHANNEL_ERROR &&
+                           std::ranges::count(finding.record->options, "--channel") > 0;
     return finding.record->name + " of " + device + ": " + Told(finding.failure) +
-           Hint(finding.failure);
+           (isChannel ? "; choose one with --channel N" : Hint(finding.failure));
 }
 
 std::string RenderSummary(std::span<const Finding> findings, const std::string& device,

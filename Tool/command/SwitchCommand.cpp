@@ -1,5 +1,8 @@
 // capset switch: what a managed switch is, does and is set to.
 // SPDX-License-Identifier: Apache-2.0
+#include <array>
+#include <charconv>
+#include <cstdio>
 #include <map>
 #include <memory>
 
@@ -127,9 +130,29 @@ void AddSetCommand(Command& group, CommonOptions& common)
         .Required();
 }
 
+/// Counters of bytes as people read them, "2.6 TB", so that a port fits in one row.
+void RoundBytes(RecordNode& row)
+{
+    for (RecordNode& member : row.children) {
+        double bytes = 0;
+        const char* const end = member.text.data() + member.text.size();
+        if (member.name.ends_with("Bytes") &&
+            std::from_chars(member.text.data(), end, bytes).ptr == end && bytes >= 1000) {
+            constexpr std::array kUnits{"kB", "MB", "GB", "TB", "PB", "EB"};
+            std::size_t unit = 0;
+            for (bytes /= 1000; bytes >= 1000 && unit + 1 < kUnits.size(); ++unit) {
+                bytes /= 1000;
+            }
+            std::array<char, 32> text{};
+            std::snprintf(text.data(), text.size(), "%.1f %s", bytes, kUnits[unit]);
+            member = tree::Text(member.name, text.data());
+        }
+    }
+}
+
 Report ReadWorkStates(Talk& talk, const PageOptions& options)
 {
-    return FetchPages(talk, options, "WorkState", [&talk](const PageRequest& request) {
+    Report report = FetchPages(talk, options, "WorkState", [&talk](const PageRequest& request) {
         SwitchesWorkStateSearchCond condition;
         condition.searchID = request.searchID;
         condition.maxMatchResults = request.count;
@@ -140,6 +163,12 @@ Report ReadWorkStates(Talk& talk, const PageOptions& options)
         });
         return ReadPage(Describe("WorkState", result));
     });
+    for (RecordNode& list : report.shown->children) {
+        for (RecordNode& row : list.children) {
+            RoundBytes(row);
+        }
+    }
+    return report;
 }
 
 }  // namespace

@@ -176,7 +176,7 @@ std::vector<std::pair<std::string, std::string>> ReadStatus(const std::string& d
     return Members([&value](std::string_view name) { return JsonMember(value, name); });
 }
 
-std::string ReadInput(const std::string& file)
+std::string ReadInput(const std::string& file, std::size_t largest)
 {
     const bool isStdin = file == "-";
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> opened(
@@ -188,6 +188,10 @@ std::string ReadInput(const std::string& file)
     std::array<char, 65536> piece{};
     while (isGood) {
         const std::size_t size = std::fread(piece.data(), 1, piece.size(), input);
+        if (size > largest - bytes.size()) {
+            throw Failure((isStdin ? "the standard input" : file) + " is larger than " +
+                          std::to_string(largest >> 20) + " MiB");
+        }
         bytes.append(piece.data(), size);
         if (size < piece.size()) {
             isGood = std::ferror(input) == 0;

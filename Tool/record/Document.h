@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
@@ -28,7 +29,11 @@ void PrintDocument(const std::string& document);
 /// statusString, subStatusCode, errorCode, errorMsg. Empty when the text is no such document.
 std::vector<std::pair<std::string, std::string>> ReadStatus(const std::string& document);
 
-/// The bytes of a file, or of stdin for "-". Throws a failure that names the file.
-std::string ReadInput(const std::string& file);
+/// No document of a device is larger.
+inline constexpr std::size_t kLargestInput = 64u << 20;
+
+/// The bytes of a file, or of stdin for "-". Throws a failure that names the file if it cannot be
+/// read or is larger than `largest` bytes.
+std::string ReadInput(const std::string& file, std::size_t largest = kLargestInput);
 
 }  // namespace Tool

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/record/JsonOutput.h"
 
+#include <array>
 #include <charconv>
+#include <cmath>
 #include <exception>
 #include <memory>
+#include <sstream>
 
 #include <json/reader.h>
 #include <json/writer.h>
@@ -103,20 +106,67 @@ Json::Value MembersToJson(const RecordNode& node)
     return value;
 }
 
-/// The writer puts a brace on a line of its own, below its key. Line feeds stand between the
-/// writer's tokens alone: those of texts are escaped.
-std::string BracesBesideKeys(const std::string& text)
+/// Writes members sorted by name, one item a line. JsonCpp's own writer would print 17 digits of
+/// 0.4, or drop digits of other numbers.
+class Writer
 {
-    std::string out;
-    out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool endsInKey = text[i] == '\n' && out.ends_with(": ");
-        const std::size_t next = endsInKey ? text.find_first_not_of(' ', i + 1) : i;
-        i = next == std::string::npos ? i : next;
-        out += text[i];
+public:
+    explicit Writer(JsonText form)
+    {
+        Json::StreamWriterBuilder builder;
+        builder["indentation"] = "";
+        builder["emitUTF8"] = form == JsonText::Utf8;
+        texts_.reset(builder.newStreamWriter());
     }
-    return out;
-}
+
+    /// Recursion is safe: neither readers nor records nest deeper than 1,000.
+    void Write(const Json::Value& value, const std::string& indent)
+    {
+        if (value.isObject() && !value.empty()) {
+            WriteItems(value, indent, '{', '}');
+        } else if (value.isArray() && !value.empty()) {
+            WriteItems(value, indent, '[', ']');
+        } else if (value.type() == Json::realValue) {
+            out_ << RealText(value.asDouble());
+        } else {
+            texts_->write(value, &out_);
+        }
+    }
+
+    [[nodiscard]] std::string Text() const { return out_.str() + "\n"; }
+
+private:
+    void WriteItems(const Json::Value& value, const std::string& indent, char open, char close)
+    {
+        const std::string inner = indent + "  ";
+        char before = open;
+        for (auto item = value.begin(); item != value.end(); ++item) {
+            out_ << before << '\n' << inner;
+            before = ',';
+            if (value.isObject()) {
+                texts_->write(item.key(), &out_);
+                out_ << ": ";
+            }
+            Write(*item, inner);
+        }
+        out_ << '\n' << indent << close;
+    }
+
+    /// The shortest text that reads back the same; a real number stays one: 1.0, not 1.
+    static std::string RealText(double value)
+    {
+        if (!std::isfinite(value)) {
+            return "null";
+        }
+        std::array<char, 32> digits{};
+        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+        std::string text(digits.data(), end.ptr);
+        return text.find_first_of(".e") == std::string::npos ? text + ".0" : text;
+    }
+
+    std::unique_ptr<Json::StreamWriter> texts_;
+    std::ostringstream out_;
+};
 
 }  // namespace
 
@@ -146,13 +196,9 @@ Json::Value ToJson(const RecordNode& node)
 
 std::string Dump(const Json::Value& value, JsonText form)
 {
-    Json::StreamWriterBuilder builder;
-    builder["indentation"] = "  ";
-    builder["enableYAMLCompatibility"] = true;
-    builder["emitUTF8"] = form == JsonText::Utf8;
-    // What a device writes with up to 15 digits comes out as it was written.
-    builder["precision"] = 15;
-    return BracesBesideKeys(Json::writeString(builder, value)) + "\n";
+    Writer writer(form);
+    writer.Write(value, {});
+    return writer.Text();
 }
 
 bool ReadJson(const std::string& text, Json::Value& value)

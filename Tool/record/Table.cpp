@@ -145,12 +145,15 @@ private:
             Line(name, {joined}, indent);
             return;
         }
-        const std::size_t inner = std::min(indent + kIndent, width_);
-        if (std::optional<Grid> grid = AsGrid(items); grid && grid->Fit(width_ - inner)) {
-            const std::string count = std::to_string(items.size());
-            Heading(name, count + (items.size() == 1 ? " entry" : " entries"), indent);
-            out_ += grid->Render(indent + kIndent, width_, paint_);
-            return;
+        const std::optional<Grid> grid = AsGrid(items);
+        for (const std::size_t left : {indent + kIndent, indent}) {
+            Grid fitted = grid.value_or(Grid({}));
+            if (grid && fitted.Fit(width_ - std::min(left, width_))) {
+                const std::string count = std::to_string(items.size());
+                Heading(name, count + (items.size() == 1 ? " entry" : " entries"), indent);
+                out_ += fitted.Render(left, width_, paint_);
+                return;
+            }
         }
         std::size_t number = 0;
         for (const RecordNode& item : items) {

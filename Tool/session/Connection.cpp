@@ -10,6 +10,7 @@
 
 #include "PelNetSDK/Login.h"
 #include "Tool/Failure.h"
+#include "Tool/session/AnswerTap.h"
 #include "Tool/session/SdkFailure.h"
 #include "Tool/terminal/Password.h"
 #include "Tool/terminal/Progress.h"
@@ -175,6 +176,7 @@ Session::Session(const ConnectionOptions& options)
     if (userID_ < 0) {
         throw Failure(LoginFailure(address, user));
     }
+    NameDeviceInLog(device_);
 }
 
 Session::~Session()

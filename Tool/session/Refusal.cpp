@@ -22,7 +22,7 @@ std::string TaskHint(const std::string& task)
     for (const char c : isWord ? std::string_view() : std::string_view(task)) {
         quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
     }
-    return "; take it up again with --task " + quoted + (isWord ? "" : "'");
+    return "; continue it with --task " + quoted + (isWord ? "" : "'");
 }
 
 std::string Told(const Refusal& refusal)
@@ -33,10 +33,11 @@ std::string Told(const Refusal& refusal)
     }
     SdkFailure failure = refusal.failure;
     if (!status.empty()) {
-        // The detail is that document's code once more.
+        // The detail only repeats the code in that document.
         failure.detail.clear();
     }
-    return Told(failure) + status + Hint(failure) + TaskHint(refusal.task);
+    return Told(failure) + status + (refusal.hint.empty() ? Hint(failure) : refusal.hint) +
+           TaskHint(refusal.task);
 }
 
 void AddToJson(Json::Value& value, const Refusal& refusal)

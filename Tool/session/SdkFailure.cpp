@@ -88,8 +88,6 @@ std::string Hint(const SdkFailure& failure)
             return CertificateHint(failure);
         case NET_ORB_NETWORK_RECV_TIMEOUT:
             return "; wait longer with --timeout SECONDS";
-        case NET_ORB_CHANNEL_ERROR:
-            return "; choose one with --channel N";
         default:
             return {};
     }

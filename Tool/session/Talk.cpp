@@ -32,6 +32,9 @@ void Talk::Say(const std::string& step, int percent)
 
 void Talk::Fail(Refusal refusal) const
 {
+    if (refusal.failure.error == NET_ORB_CHANNEL_ERROR && !channelOption_.empty()) {
+        refusal.hint = "; choose one with " + channelOption_;
+    }
     throw DeviceFailure(what_, std::move(refusal));
 }
 

@@ -32,6 +32,10 @@ public:
     /// of a long answer has arrived is shown without this.
     void Say(const std::string& step, int percent = -1);
 
+    /// Names the option with which another channel is chosen, "--channel N", for failures that say
+    /// that there is no such channel.
+    void SetChannelOption(std::string option) { channelOption_ = std::move(option); }
+
     /// Runs an operation of the library, `operation(error)`. If it fails, throws a DeviceFailure
     /// with what the device answered. The operation returns an InterfaceRet, or a bool with an
     /// error number in its argument, which it may leave at 0.
@@ -80,6 +84,7 @@ private:
     const std::string what_;  ///< the command and the device
     Progress progress_;
     std::string answer_;
+    std::string channelOption_;
 };
 
 }  // namespace Tool

@@ -44,18 +44,51 @@ std::string RenderRow(const std::vector<Cell>& row, const std::vector<std::size_
     return out;
 }
 
+/// "linkState" as "link" and "State".
+std::vector<std::string> Words(const std::string& name)
+{
+    const auto isLower = [](char c) { return c >= 'a' && c <= 'z'; };
+    const auto isUpper = [](char c) { return c >= 'A' && c <= 'Z'; };
+    std::vector<std::string> words(1);
+    for (const char c : name) {
+        if (!words.back().empty() && isLower(words.back().back()) && isUpper(c)) {
+            words.emplace_back();
+        }
+        words.back() += c;
+    }
+    return words;
+}
+
 }  // namespace
+
+std::vector<std::vector<Cell>> Grid::HeadRows() const
+{
+    std::vector<std::vector<std::string>> columns;
+    std::size_t lines = 1;
+    for (const std::string& name : head_) {
+        columns.push_back(isHeadSplit_ ? Words(name) : std::vector{name});
+        lines = std::max(lines, columns.back().size());
+    }
+    std::vector<std::vector<Cell>> rows(lines);
+    for (const std::vector<std::string>& words : columns) {
+        const std::size_t blank = lines - words.size();
+        for (std::size_t i = 0; i < lines; ++i) {
+            rows[i].push_back({i < blank ? std::string() : words[i - blank], Style::Faint});
+        }
+    }
+    return rows;
+}
 
 std::vector<std::size_t> Grid::Widths() const
 {
-    std::vector<std::size_t> widths;
-    for (std::size_t i = 0; i < head_.size(); ++i) {
-        std::size_t width = Width(head_[i]);
-        for (const std::vector<Cell>& row : rows_) {
-            width = std::max(width, Width(row[i].text));
+    std::vector<std::size_t> widths(head_.size());
+    const auto widen = [&widths](const std::vector<Cell>& row) {
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            widths[i] = std::max(widths[i], Width(row[i].text));
         }
-        widths.push_back(width);
-    }
+    };
+    std::ranges::for_each(HeadRows(), widen);
+    std::ranges::for_each(rows_, widen);
     return widths;
 }
 
@@ -72,12 +105,18 @@ bool Grid::Fit(std::size_t width)
 {
     // Narrower than that a text is no pleasure to read.
     constexpr std::size_t kReadable = 24;
-    const std::vector<std::size_t> widths = Widths();
-    const std::size_t natural =
-        std::accumulate(widths.begin(), widths.end(), std::size_t{0}) + kGap * (widths.size() - 1);
-    if (natural <= width) {
-        return true;
+    const auto sum = [](const std::vector<std::size_t>& widths) {
+        return std::accumulate(widths.begin(), widths.end(), std::size_t{0}) +
+               kGap * (widths.size() - 1);
+    };
+    for (const bool isSplit : {false, true}) {
+        isHeadSplit_ = isSplit;
+        if (sum(Widths()) <= width) {
+            return true;
+        }
     }
+    const std::vector<std::size_t> widths = Widths();
+    const std::size_t natural = sum(widths);
     const auto widest = std::ranges::max_element(widths) - widths.begin();
     const auto moveToEnd = [widest](auto& row) {
         std::rotate(row.begin() + widest, row.begin() + widest + 1, row.end());
@@ -101,11 +140,9 @@ std::string Grid::Render(std::size_t indent, std::size_t width, const Paint& pai
     widths.back() = std::min(widths.back(), std::max(left, kLeastLastColumn));
     std::string out;
     if (std::ranges::any_of(head_, [](const std::string& each) { return !each.empty(); })) {
-        std::vector<Cell> head;
-        for (const std::string& each : head_) {
-            head.push_back({each, Style::Faint});
+        for (const std::vector<Cell>& row : HeadRows()) {
+            out += RenderRow(row, widths, numeric, indent, paint);
         }
-        out += RenderRow(head, widths, numeric, indent, paint);
     }
     for (const std::vector<Cell>& row : rows_) {
         out += RenderRow(row, widths, numeric, indent, paint);

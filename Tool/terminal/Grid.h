@@ -28,8 +28,9 @@ public:
 
     void Add(std::vector<Cell> row) { rows_.push_back(std::move(row)); }
 
-    /// Whether it fits into so many columns, the last one wrapped. When it would not fit otherwise,
-    /// the widest column is moved to the end.
+    /// Makes the grid fit into `width` columns: by splitting names of columns ("linkState") over
+    /// lines, or else by moving the widest column to the end, where it wraps. False if it is still
+    /// too wide.
     bool Fit(std::size_t width);
 
     [[nodiscard]] std::string Render(std::size_t indent, std::size_t width,
@@ -39,7 +40,10 @@ private:
     [[nodiscard]] std::vector<std::size_t> Widths() const;
     [[nodiscard]] bool IsNumeric(std::size_t column) const;
 
+    [[nodiscard]] std::vector<std::vector<Cell>> HeadRows() const;
+
     std::vector<std::string> head_;  ///< all empty: no head is shown
+    bool isHeadSplit_ = false;
     std::vector<std::vector<Cell>> rows_;
 };
 

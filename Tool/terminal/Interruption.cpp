@@ -1,4 +1,4 @@
-// What is still done when SIGINT, SIGTERM or SIGHUP ends the program.
+// What is still done when a signal ends the program.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/terminal/Interruption.h"
 
@@ -14,9 +14,11 @@ namespace Tool
 namespace
 {
 
-constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP};
+// Those that end a program, but for crashes and SIGKILL. SIGPIPE is ignored throughout.
+constexpr std::array kSignals{SIGHUP,  SIGINT,  SIGQUIT, SIGTERM,   SIGALRM, SIGUSR1,
+                              SIGUSR2, SIGXCPU, SIGXFSZ, SIGVTALRM, SIGPROF};
 
-// The handler knows nothing else. An empty text: there is nothing to do.
+// All that the handler can see. An empty text: there is nothing to do.
 using Text = std::array<char, AtInterruption::kLongest + 1>;
 std::array<Text, 3> texts{};
 

@@ -1,4 +1,4 @@
-// What is still done when SIGINT, SIGTERM or SIGHUP ends the program.
+// What is still done when a signal ends the program.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -8,7 +8,9 @@
 namespace Tool
 {
 
-/// Keeps these signals from the calling thread; one that came meanwhile strikes at the end.
+/// Holds back, on the calling thread, the signals that end the program: SIGHUP, SIGINT, SIGQUIT,
+/// SIGTERM, SIGALRM, SIGUSR1, SIGUSR2, SIGXCPU, SIGXFSZ, SIGVTALRM and SIGPROF. One that comes
+/// meanwhile is delivered when the object goes.
 class SignalsHeld
 {
 public:
@@ -21,21 +23,21 @@ private:
     sigset_t former_{};
 };
 
-/// A thing that is done, as long as the object lives, when one of these signals ends the program,
-/// which then ends by it as it would without. One object of each kind at a time; all of them live
-/// on the main thread, the only one that takes these signals. A signal that the program was started
-/// to ignore stays ignored.
+/// Something that is done when one of these signals ends the program while the object lives; the
+/// program still ends by the signal. One object of each kind at a time, all on the main thread,
+/// which is the only one that takes these signals. Signals that were ignored when the program
+/// started stay ignored.
 class AtInterruption
 {
 public:
-    /// In the order in which they are done.
+    /// In this order.
     enum class Kind
     {
-        ClearLine,   ///< writes the text, which clears a line of the terminal, to stderr
-        RemoveFile,  ///< removes the file of that name
+        ClearLine,   ///< writes the text, which clears a line, to stderr
+        RemoveFile,  ///< removes the file with that name
         Say,         ///< writes the text to stderr
     };
-    static constexpr std::size_t kLongest = 4095;  ///< of a text, which is cut there
+    static constexpr std::size_t kLongest = 4095;  ///< longer texts are cut
 
     AtInterruption(Kind kind, std::string_view text);
     ~AtInterruption();

@@ -1,4 +1,4 @@
-// The library's log on stderr.
+// The log on stderr.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/terminal/Log.h"
 
@@ -9,8 +9,17 @@
 #include <log4cxx/logger.h>
 #include <log4cxx/patternlayout.h>
 
+#include "Tool/terminal/Text.h"
+
 namespace Tool
 {
+
+namespace
+{
+
+bool isLoggingInfo = false;
+
+}  // namespace
 
 void LogToStderr(const std::string& level)
 {
@@ -21,6 +30,20 @@ void LogToStderr(const std::string& level)
     const log4cxx::LoggerPtr root = log4cxx::Logger::getRootLogger();
     root->addAppender(appender);
     root->setLevel(log4cxx::Level::toLevel(level));
+    isLoggingInfo = level != "error";
+}
+
+bool IsLoggingInfo()
+{
+    return isLoggingInfo;
+}
+
+void LogInfo(const std::string& line)
+{
+    static const log4cxx::LoggerPtr logger = log4cxx::Logger::getLogger("capset");
+    if (isLoggingInfo) {
+        logger->info(Harmless(line));
+    }
 }
 
 }  // namespace Tool

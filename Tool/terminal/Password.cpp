@@ -1,4 +1,4 @@
-// A password that came neither over the command line nor stays in memory.
+// A password that is neither on the command line nor left in memory.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/terminal/Password.h"
 
@@ -21,7 +21,7 @@ namespace Tool
 namespace
 {
 
-// Longer ones are refused: a string that grows would leave copies behind.
+// A string that grows beyond its capacity would leave copies in memory.
 constexpr std::size_t kLongest = 1024;
 
 volatile std::sig_atomic_t caughtSignal = 0;
@@ -31,7 +31,7 @@ void Catch(int signal)
     caughtSignal = signal;
 }
 
-/// The terminal without echo; however the prompt ends, the echo comes back.
+/// The terminal with its echo off until the object goes.
 class SilentTerminal
 {
 public:
@@ -40,7 +40,7 @@ public:
         struct sigaction action
         {
         };
-        action.sa_handler = Catch;  // without SA_RESTART: reading ends
+        action.sa_handler = Catch;  // without SA_RESTART, so that reading ends
         for (std::size_t i = 0; i < kSignals.size(); ++i) {
             sigaction(kSignals[i], &action, &former_[i]);
         }
@@ -65,7 +65,7 @@ public:
         [[maybe_unused]] const ssize_t written = write(terminal_, text.data(), text.size());
     }
 
-    /// One line. False at the end of input, at a signal, and for a line that is too long.
+    /// Reads one line. False at the end of input, at a signal, and if the line is too long.
     [[nodiscard]] bool ReadLine(std::string& line) const
     {
         char c = 0;
@@ -89,7 +89,7 @@ private:
     std::array<struct sigaction, kSignals.size()> former_{};
 };
 
-/// False when nothing was typed.
+/// False if nothing was typed.
 bool Prompt(int terminal, const std::string& question, std::string& password)
 {
     bool typed = false;
@@ -100,7 +100,7 @@ bool Prompt(int terminal, const std::string& question, std::string& password)
         silent.Write("\n");
     }
     if (caughtSignal != 0) {
-        // Now that the echo is back, what the signal meant happens.
+        // The echo is back: now the signal may take effect.
         std::raise(caughtSignal);
     }
     return typed;
@@ -112,7 +112,8 @@ Password::Password(const std::string& user, const std::string& device)
 {
     text_.reserve(kLongest);
     // NOLINTNEXTLINE(concurrency-mt-unsafe): nobody sets the environment
-    if (const char* const given = std::getenv("CAPSET_PASSWORD"); given != nullptr) {
+    if (const char* const given = std::getenv("CAPSET_PASSWORD");
+        given != nullptr && *given != '\0') {
         text_ = given;
         return;
     }

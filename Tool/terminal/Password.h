@@ -1,4 +1,4 @@
-// A password that came neither over the command line nor stays in memory.
+// A password that is neither on the command line nor left in memory.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -7,12 +7,12 @@
 namespace Tool
 {
 
-/// Taken from the environment's CAPSET_PASSWORD, or else from a prompt on the terminal that shows
-/// nothing of what is typed; wiped when the object goes.
+/// The environment's CAPSET_PASSWORD or, if that is unset or empty, what the user types at a prompt
+/// without echo. It is wiped when the object goes.
 class Password
 {
 public:
-    /// Throws a usage failure when there is neither.
+    /// Throws a usage failure if there is neither.
     Password(const std::string& user, const std::string& device);
     ~Password();
     Password(const Password&) = delete;

@@ -1,4 +1,4 @@
-// A line on the terminal while something takes its time.
+// A line on the terminal during lengthy operations.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/terminal/Progress.h"
 
@@ -17,12 +17,32 @@ namespace
 
 constexpr const char* kClearToEnd = "\033[K";
 
-std::string Bar(double share, std::size_t cells)
+struct GlyphSet
 {
+    const char* full;
+    const char* half;
+    const char* empty;
+    std::vector<const char*> turns;
+};
+
+const GlyphSet& SetOf(Glyphs glyphs)
+{
+    static const GlyphSet ascii{"#", "-", ".", {"|", "/", "-", "\\"}};
+    static const GlyphSet unicode{
+        "━", "╸", "┄", {"⠋", "⠙", "⠹", "⠸", "⠼", "⠴", "⠦", "⠧", "⠇", "⠏"}};
+    return glyphs == Glyphs::Ascii ? ascii : unicode;
+}
+
+std::string Bar(double share, std::size_t cells, Glyphs glyphs)
+{
+    if (share < 0) {
+        return {};
+    }
+    const GlyphSet& set = SetOf(glyphs);
     const auto halves = static_cast<std::size_t>(share * static_cast<double>(2 * cells));
     std::string bar;
     for (std::size_t cell = 0; cell < cells; ++cell) {
-        bar += 2 * cell + 1 < halves ? "━" : 2 * cell < halves ? "╸" : "┄";
+        bar += 2 * cell + 1 < halves ? set.full : 2 * cell < halves ? set.half : set.empty;
     }
     return bar;
 }
@@ -34,7 +54,7 @@ std::string Mebibytes(double bytes)
     return text.data();
 }
 
-/// "24.1 of 50.0 MiB", "62 %"; empty when nobody knows.
+/// "24.1 of 50.0 MiB", "62 %"; empty if not known.
 std::string Amount(const ProgressState& state)
 {
     if (state.received > 0) {
@@ -46,7 +66,7 @@ std::string Amount(const ProgressState& state)
     return state.percent < 0 ? std::string() : std::to_string(state.percent) + " %";
 }
 
-/// From 0 to 1; negative when nobody knows.
+/// From 0 to 1; negative if not known.
 double Share(const ProgressState& state)
 {
     if (state.received > 0) {
@@ -59,7 +79,7 @@ double Share(const ProgressState& state)
 
 }  // namespace
 
-std::string ProgressLine(const ProgressState& state, std::size_t width)
+std::string ProgressLine(const ProgressState& state, std::size_t width, Glyphs glyphs)
 {
     const std::string step = state.step.empty() ? state.what : state.step;
     const std::string whole = state.step.empty() ? state.what : state.what + ": " + state.step;
@@ -68,8 +88,8 @@ std::string ProgressLine(const ProgressState& state, std::size_t width)
                                   ? Mebibytes(state.bytesPerSecond) + " MiB/s"
                                   : std::string();
     const std::string time = std::to_string(state.time.count()) + " s";
-    const std::string wide = Share(state) < 0 ? "" : Bar(Share(state), 30);
-    const std::string narrow = Share(state) < 0 ? "" : Bar(Share(state), 12);
+    const std::string wide = Bar(Share(state), 30, glyphs);
+    const std::string narrow = Bar(Share(state), 12, glyphs);
     const std::array<std::array<std::string, 5>, 6> forms{{
         {whole, wide, amount, speed, time},
         {whole, narrow, amount, speed, time},
@@ -97,7 +117,7 @@ Progress::Progress(std::string what)
     state_.what = Harmless(what);
     if (IsTerminal(stderr)) {
         clearing_.emplace(AtInterruption::Kind::ClearLine, std::string("\r") + kClearToEnd);
-        // Signals are the main thread's.
+        // Only the main thread takes signals.
         const SignalsHeld held;
         thread_ = std::thread([this] { Run(); });
     }
@@ -137,24 +157,36 @@ void Progress::Receive(std::uint64_t received, std::uint64_t total)
     state_.bytesPerSecond = time.count() > 0.5 ? static_cast<double>(received) / time.count() : 0.0;
 }
 
+void Progress::Clear()
+{
+    const std::lock_guard lock(mutex_);
+    if (isShown_) {
+        std::fprintf(stderr, "\r%s", kClearToEnd);
+        std::fflush(stderr);
+        isShown_ = false;
+    }
+}
+
 void Progress::Run()
 {
     using namespace std::chrono_literals;
-    constexpr std::array kTurns{"⠋", "⠙", "⠹", "⠸", "⠼", "⠴", "⠦", "⠧", "⠇", "⠏"};
+    const Glyphs glyphs = IsUtf8Wanted() ? Glyphs::Unicode : Glyphs::Ascii;
+    const auto& turns = SetOf(glyphs).turns;
     std::unique_lock lock(mutex_);
     std::chrono::milliseconds pause = 1s;
     std::size_t turn = 0;
     while (!ended_.wait_for(lock, pause, [this] { return isEnding_; })) {
         pause = 100ms;
         state_.time = std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - start_);
-        // Columns stay free at the end for the "^C" of a terminal that shows it.
+        // Leave room for the "^C" that some terminals print.
         constexpr std::size_t kReserved = 5;
-        const std::string line = std::string(kTurns[turn++ % kTurns.size()]) + " " +
-                                 ProgressLine(state_, TerminalWidth(stderr) - kReserved);
+        const std::string line = std::string(turns[turn++ % turns.size()]) + " " +
+                                 ProgressLine(state_, TerminalWidth(stderr) - kReserved, glyphs);
         std::fprintf(stderr, "\r%s%s", line.c_str(), kClearToEnd);
         std::fflush(stderr);
+        isShown_ = true;
     }
-    if (turn > 0) {
+    if (isShown_) {
         std::fprintf(stderr, "\r%s", kClearToEnd);
         std::fflush(stderr);
     }

@@ -1,4 +1,4 @@
-// A line on the terminal while something takes its time.
+// A line on the terminal during lengthy operations.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,24 +15,31 @@
 namespace Tool
 {
 
-/// How far something is that takes its time.
+/// How far a lengthy operation is.
 struct ProgressState
 {
     std::string what;              ///< "search people at sim:recorder"
-    std::string step = {};         ///< what goes on of it: "downloading"
-    int percent = -1;              ///< of the step, -1: nobody knows
-    std::uint64_t received = 0;    ///< bytes of an answer so far, 0: not worth telling
-    std::uint64_t total = 0;       ///< of it in all, 0: nobody knows
-    double bytesPerSecond = 0;     ///< of late
-    std::chrono::seconds time{0};  ///< since the beginning
+    std::string step = {};         ///< the current step: "downloading"
+    int percent = -1;              ///< of the step, -1: not known
+    std::uint64_t received = 0;    ///< bytes of an answer so far, 0: too few to mention
+    std::uint64_t total = 0;       ///< bytes of the whole answer, 0: not known
+    double bytesPerSecond = 0;     ///< 0: not known
+    std::chrono::seconds time{0};  ///< since the start
 };
 
-/// As much of the state as fits one line of so many columns, with a bar where there is room.
-std::string ProgressLine(const ProgressState& state, std::size_t width);
+/// The characters of bars and spinners.
+enum class Glyphs
+{
+    Ascii,
+    Unicode,
+};
 
-/// Shows on stderr, when that is a terminal, what is going on, how far and for how long, as soon as
-/// it takes longer than a second; the line is gone when the object is, and when a signal ends the
-/// program.
+/// As much of the state as fits in one line of `width` columns, with a bar if there is room.
+std::string ProgressLine(const ProgressState& state, std::size_t width,
+                         Glyphs glyphs = Glyphs::Unicode);
+
+/// A line on stderr, if that is a terminal, with what is going on, how far and for how long. It
+/// appears after a second, and goes with the object and when a signal ends the program.
 class Progress
 {
 public:
@@ -41,10 +48,12 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    /// What goes on from now on, and if one knows, how far it is.
+    /// Sets the current step and, if known, how far it is.
     void Say(const std::string& step, int percent = -1);
-    /// How much of an answer has come. Answers that are small enough to come at once do not count.
+    /// Sets how much of an answer has arrived. Small answers are not mentioned.
     void Receive(std::uint64_t received, std::uint64_t total);
+    /// Removes the line for the moment, so that something else can be printed.
+    void Clear();
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -57,6 +66,7 @@ private:
     std::optional<AtInterruption> clearing_;
     std::mutex mutex_;
     std::condition_variable ended_;
+    bool isShown_ = false;
     bool isEnding_ = false;
     std::thread thread_;
 };

@@ -1,12 +1,15 @@
-// Texts as people see them.
+// Texts on a terminal.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/terminal/Text.h"
 
 #include <algorithm>
 #include <clocale>
+#include <cstring>
 #include <cwchar>
 #include <numeric>
 #include <utility>
+
+#include <langinfo.h>
 
 namespace Tool
 {
@@ -14,7 +17,7 @@ namespace Tool
 namespace
 {
 
-/// One character of a text, or one byte that is none.
+/// One character of a text, or one byte that is not part of any.
 struct Character
 {
     std::string_view bytes;
@@ -24,7 +27,7 @@ struct Character
 
 Character First(std::string_view text)
 {
-    // Most of every document; also what a C library without UTF-8 can read.
+    // The common case. It also works without a UTF-8 locale.
     if (static_cast<unsigned char>(text.front()) < 0x80) {
         return {text.substr(0, 1), static_cast<wchar_t>(text.front()), true};
     }
@@ -37,7 +40,7 @@ Character First(std::string_view text)
     return {text.substr(0, length), code, true};
 }
 
-/// Marks that turn the direction of writing show a reader another text than the one that is there.
+/// Marks that change the direction of writing can make a text look like another one.
 bool TurnsDirection(wchar_t code)
 {
     return code == 0x061C || code == 0x200E || code == 0x200F ||
@@ -86,7 +89,7 @@ char Lower(char c)
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// Letters to insert, drop, replace or swap with a neighbour to make one name of the other.
+/// The number of letters to insert, drop, replace or swap to turn one name into the other.
 std::size_t Distance(std::string_view a, std::string_view b)
 {
     std::vector<std::size_t> before(b.size() + 1);
@@ -108,6 +111,8 @@ std::size_t Distance(std::string_view a, std::string_view b)
     return row.back();
 }
 
+bool isUtf8Wanted = false;
+
 bool ContainsIgnoringCase(std::string_view whole, std::string_view part)
 {
     return !std::ranges::search(whole, part, {}, Lower, Lower).empty();
@@ -117,9 +122,18 @@ bool ContainsIgnoringCase(std::string_view whole, std::string_view part)
 
 void UseUtf8Widths()
 {
+    if (std::setlocale(LC_CTYPE, "") != nullptr) {
+        // NOLINTNEXTLINE(concurrency-mt-unsafe): there are no threads yet
+        isUtf8Wanted = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+    }
     if (std::setlocale(LC_CTYPE, "C.UTF-8") == nullptr) {
         std::setlocale(LC_CTYPE, "");
     }
+}
+
+bool IsUtf8Wanted()
+{
+    return isUtf8Wanted;
 }
 
 std::string Harmless(std::string_view text, bool keepLines)
@@ -217,7 +231,7 @@ bool SameIgnoringCase(std::string_view a, std::string_view b)
 std::string NearestName(std::string_view typed, std::span<const std::string> candidates)
 {
     std::string nearest;
-    // A third of the letters wrong is no slip of the finger any more.
+    // With more than a third of the letters wrong, it is another name.
     std::size_t least = std::max<std::size_t>(typed.size() / 3, 1) + 1;
     for (const std::string& candidate : candidates) {
         const std::size_t distance = Distance(typed, candidate);
@@ -226,7 +240,7 @@ std::string NearestName(std::string_view typed, std::span<const std::string> can
             nearest = candidate;
         }
     }
-    // "ptz" means the one name that holds it, or the shortest of several.
+    // "ptz" means the shortest name that contains it.
     if (nearest.empty() && typed.size() >= 3) {
         for (const std::string& candidate : candidates) {
             if (ContainsIgnoringCase(candidate, typed) &&

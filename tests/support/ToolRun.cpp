@@ -1,4 +1,4 @@
-// Runs the command-line tool as a process of its own, without a terminal.
+// Runs the command-line tool in a process of its own, without a terminal.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ToolRun.h"
 
@@ -36,14 +36,14 @@ void Redirect(const std::string& file, int flags, int descriptor)
     }
 }
 
-/// The child's side: never returns.
-[[noreturn]] void Become(const std::string& directory, const std::vector<std::string>& arguments,
+/// Runs in the child and never returns.
+[[noreturn]] void Become(const TemporaryFolder& folder, const std::vector<std::string>& arguments,
                          const Environment& environment)
 {
     setsid();
-    Redirect(directory + "/in", O_RDONLY, STDIN_FILENO);
-    Redirect(directory + "/out", O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
-    Redirect(directory + "/err", O_WRONLY | O_CREAT | O_TRUNC, STDERR_FILENO);
+    Redirect(folder.File("in"), O_RDONLY, STDIN_FILENO);
+    Redirect(folder.File("out"), O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
+    Redirect(folder.File("err"), O_WRONLY | O_CREAT | O_TRUNC, STDERR_FILENO);
     unsetenv("CAPSET_PASSWORD");
     for (const auto& [name, value] : environment) {
         setenv(name.c_str(), value.c_str(), 1);
@@ -65,21 +65,34 @@ std::vector<std::string> WithTool(std::vector<std::string> arguments)
 
 }  // namespace
 
+TemporaryFolder::TemporaryFolder()
+    : path_((std::filesystem::temp_directory_path() / "capset-XXXXXX").string())
+{
+    if (mkdtemp(path_.data()) == nullptr) {
+        throw std::runtime_error("no temporary folder");
+    }
+}
+
+TemporaryFolder::~TemporaryFolder()
+{
+    std::filesystem::remove_all(path_);
+}
+
+bool TemporaryFolder::IsEmpty() const
+{
+    return std::filesystem::is_empty(path_);
+}
+
 ToolProcess::ToolProcess(const std::vector<std::string>& arguments, const Environment& environment,
                          const std::string& input)
 {
-    std::string pattern = (std::filesystem::temp_directory_path() / "capset-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-        throw std::runtime_error("no temporary directory");
-    }
-    directory_ = pattern;
-    std::ofstream(directory_ + "/in", std::ios::binary) << input;
-    // A word with a slash is a program of its own.
+    std::ofstream(folder_.File("in"), std::ios::binary) << input;
+    // A path names another program.
     const bool isProgram = !arguments.empty() && arguments.front().starts_with('/');
     const std::vector<std::string> words = isProgram ? arguments : WithTool(arguments);
     process_ = fork();
     if (process_ == 0) {
-        Become(directory_, words, environment);
+        Become(folder_, words, environment);
     }
 }
 
@@ -89,7 +102,6 @@ ToolProcess::~ToolProcess()
         Signal(SIGKILL);
         waitpid(process_, nullptr, 0);
     }
-    std::filesystem::remove_all(directory_);
 }
 
 void ToolProcess::Signal(int signal) const
@@ -103,7 +115,7 @@ std::string ToolProcess::OutputWith(const std::string& text) const
     std::string out;
     for (int i = 0; i < 1000 && out.find(text) == std::string::npos; ++i) {
         std::this_thread::sleep_for(10ms);
-        out = Content(directory_ + "/out");
+        out = Content(folder_.File("out"));
     }
     return out;
 }
@@ -114,7 +126,7 @@ ToolResult ToolProcess::Wait()
     waitpid(process_, &status, 0);
     process_ = -1;
     const int exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    return {exitCode, Content(directory_ + "/out"), Content(directory_ + "/err")};
+    return {exitCode, Content(folder_.File("out")), Content(folder_.File("err"))};
 }
 
 ToolResult RunTool(const std::vector<std::string>& arguments, const Environment& environment,
@@ -125,7 +137,10 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const Environment&
 
 ToolResult RunShell(const std::string& line)
 {
-    return ToolProcess({"/bin/sh", "-c", line}, {{"CAPSET", CAPSET_PROGRAM}}).Wait();
+    const TemporaryFolder folder;
+    return ToolProcess({"/bin/sh", "-c", line},
+                       {{"CAPSET", CAPSET_PROGRAM}, {"FOLDER", folder.File("")}})
+        .Wait();
 }
 
 }  // namespace TestSupport

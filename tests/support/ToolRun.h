@@ -1,4 +1,4 @@
-// Runs the command-line tool as a process of its own, without a terminal.
+// Runs the command-line tool in a process of its own, without a terminal.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,6 +11,22 @@
 namespace TestSupport
 {
 
+/// A folder of its own, removed with everything in it.
+class TemporaryFolder
+{
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    [[nodiscard]] std::string File(const std::string& name) const { return path_ + "/" + name; }
+    [[nodiscard]] bool IsEmpty() const;
+
+private:
+    std::string path_;
+};
+
 struct ToolResult
 {
     int exitCode = -1;  ///< 128 and more: ended by a signal
@@ -20,11 +36,11 @@ struct ToolResult
 
 using Environment = std::vector<std::pair<std::string, std::string>>;
 
-/// A running tool. Ended, if need be by force, when the object goes.
+/// A running tool. It is killed if it still runs when the object goes.
 class ToolProcess
 {
 public:
-    /// Starts the tool in a session of its own, so that it finds no terminal to ask on.
+    /// Starts the tool in a session of its own, where it finds no terminal.
     explicit ToolProcess(const std::vector<std::string>& arguments,
                          const Environment& environment = {}, const std::string& input = {});
     ~ToolProcess();
@@ -32,13 +48,13 @@ public:
     ToolProcess& operator=(const ToolProcess&) = delete;
 
     void Signal(int signal) const;
-    /// What it has written so far, once that holds `text`; whatever there is after ten seconds.
+    /// What it has written so far, as soon as that contains `text`, or after ten seconds.
     [[nodiscard]] std::string OutputWith(const std::string& text) const;
     /// Waits for its end.
     ToolResult Wait();
 
 private:
-    std::string directory_;
+    TemporaryFolder folder_;
     pid_t process_ = -1;
 };
 
@@ -46,7 +62,7 @@ private:
 ToolResult RunTool(const std::vector<std::string>& arguments, const Environment& environment = {},
                    const std::string& input = {});
 
-/// Runs a line of the shell in which $CAPSET is the tool.
+/// Runs a shell line in which $CAPSET is the tool and $FOLDER an empty folder.
 ToolResult RunShell(const std::string& line);
 
 }  // namespace TestSupport
