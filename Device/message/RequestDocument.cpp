@@ -13,7 +13,7 @@
 #include "Device/Limits.h"
 #include "Device/document/JsonDocument.h"
 #include "Device/document/Text.h"
-#include "XmlGuard/AttributeFlood.h"
+#include "XmlGuard/TagScan.h"
 
 namespace Device
 {

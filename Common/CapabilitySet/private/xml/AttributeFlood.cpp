@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-#include "XmlGuard/AttributeFlood.h"
+#include "XmlGuard/TagScan.h"
 
 namespace CapabilitySet::xml
 {
