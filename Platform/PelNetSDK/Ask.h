@@ -5,8 +5,8 @@
 #include <exception>
 #include <new>
 
+#include "PelNetSDK/ErrorNumbers.h"
 #include "PelNetSDK/LastError.h"
-#include "PelNetSDK/Login.h"
 #include "PelNetSDK/Refusal.h"
 #include "PelNetSDK/Transport.h"
 

@@ -6,8 +6,8 @@
 #include <new>
 #include <string_view>
 
+#include "PelNetSDK/ErrorNumbers.h"
 #include "PelNetSDK/LastError.h"
-#include "PelNetSDK/Login.h"
 #include "PelNetSDK/ReceiveProgress.h"
 #include "PelNetSDK/Statistics.h"
 

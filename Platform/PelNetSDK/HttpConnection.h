@@ -11,27 +11,11 @@
 #include <memory>
 #include <string>
 
-#include "PelNetSDK/Secret.h"
+#include "PelNetSDK/HttpSettings.h"
 #include "PelNetSDK/Transport.h"
 
 namespace PelNet
 {
-
-/// How a device on the network is reached.
-struct HttpSettings
-{
-    std::string base;  ///< "http://host:port" or "https://host:port"
-    bool secure = false;
-    std::string user;
-    Secret password;
-    std::string certificateFile;  ///< PEM file of trusted certificates, empty: the system's
-    bool trustAnyCertificate = false;
-    bool allowBasic = false;
-    std::chrono::milliseconds connectTimeout{5000};
-    std::chrono::milliseconds receiveTimeout{15000};
-    /// Opens a socket that is connected already, -1 when it cannot; empty: to `base` by TCP.
-    std::function<int()> openSocket;
-};
 
 /// Used by one thread at a time. The handle is never reset: it keeps the connection and what the
 /// device's challenge told, so that authentication costs one exchange in all.

@@ -4,22 +4,15 @@
 
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <vector>
 
 #include "PelNetSDK/HttpConnection.h"
-#include "PelNetSDK/Login.h"
 
 namespace PelNet
 {
 
-/// The settings for "http://host[:port]" or "https://host[:port]"; nothing when the address is no
-/// such thing, carries credentials, a path or a query, or the certificate file cannot be read.
-[[nodiscard]] std::optional<HttpSettings> ReadHttpSettings(const tagNET_ORB_LOGIN_INFO& info);
-
-/// Each thread that asks has a connection of its own meanwhile; afterwards it waits for the next
-/// asker, the last used first. So a thread keeps its connection, and ended threads leave none
-/// behind unused.
+/// A thread that asks takes an idle connection, the last used first, or opens a new one, and gives
+/// it back afterwards. So a thread keeps its connection, and ended threads leave none unused.
 class HttpTransport : public Transport
 {
 public:

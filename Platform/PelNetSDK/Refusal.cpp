@@ -11,7 +11,7 @@
 #include <new>
 #include <string_view>
 
-#include "PelNetSDK/Login.h"
+#include "PelNetSDK/ErrorNumbers.h"
 
 namespace PelNet
 {

@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "PelNetSDK/Login.h"
+#include "PelNetSDK/ErrorNumbers.h"
 #include "PelNetSDK/ReceiveProgress.h"
 #include "PelNetSDK/Statistics.h"
 
