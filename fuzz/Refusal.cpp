@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "PelNetSDK/AnswerBody.h"
+#include "PelNetSDK/Limits.h"
 #include "PelNetSDK/Login.h"
 #include "PelNetSDK/Refusal.h"
 #include "fuzz/Check.h"
@@ -72,10 +73,10 @@ void Refusal(const std::string& text)
 {
     const auto document = PelNet::ReadStatusDocument(text);
     Require(AreSame(document, PelNet::ReadStatusDocument(text)), "a refusal reads alike each time");
-    Require(!document || text.size() <= PelNet::kLongestStatusDocument,
+    Require(!document || text.size() <= PelNet::limits::kStatusDocument,
             "a status document is short");
     // Neither form of document allows blanks before a declaration.
-    if (document && text[0] == '{' && text.size() + 3 <= PelNet::kLongestStatusDocument) {
+    if (document && text[0] == '{' && text.size() + 3 <= PelNet::limits::kStatusDocument) {
         Require(AreSame(document, PelNet::ReadStatusDocument(" \r\n" + text)),
                 "blanks before a document are nothing");
     }

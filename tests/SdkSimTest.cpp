@@ -119,6 +119,30 @@ TEST_F(SdkSim, KeptAnswerServesNothingButTheGrownRepeat)
     EXPECT_EQ(asked([&] { AskDeviceAbility(user, 1, "", 20'000); }), 1U) << "another question";
 }
 
+TEST(SessionTest, NothingIsKeptOnceItIsClosed)
+{
+    struct Silent : PelNet::Transport
+    {
+        unsigned Exchange(const PelNet::TransportRequest&, PelNet::TransportAnswer&) override
+        {
+            return NET_ORB_CANCELLED;
+        }
+        void Cancel() noexcept override {}
+    };
+    const PelNet::TransportRequest request{{"GET", "/a"}, {}};
+    PelNet::Session session(std::make_unique<Silent>());
+    const auto isKept = [&](bool closes) {
+        session.Keep({.session = &session, .line = request.line, .body = PelNet::AnswerBody(1)});
+        if (closes) {
+            session.Close();
+        }
+        return PelNet::KeptAnswer::OfThisThread()->Take(session, request, 1).has_value();
+    };
+    EXPECT_TRUE(isKept(false));
+    EXPECT_FALSE(isKept(true)) << "kept before";
+    EXPECT_FALSE(isKept(false)) << "by a request that was still running";
+}
+
 TEST_F(SdkSim, ChangeWithTooSmallBufferIsCarriedOutOnce)
 {
     const LoggedIn device(info_);
@@ -386,8 +410,8 @@ TEST(SessionTest, LearnsChannelsFromManyThreadsUpToABound)
 TEST_F(SdkSim, EveryErrorNumberHasAText)
 {
     for (const unsigned error :
-         {0U,  1U,  2U,  3U,  4U,  7U,  8U,  9U,   10U,  11U,  17U,   23U,  24U,
-          29U, 41U, 43U, 52U, 73U, 74U, 75U, 147U, 148U, 149U, 1000U, 1001U}) {
+         {0U,  1U,  2U,  3U,  4U,  7U,  8U,  9U,   10U,  11U,  17U,  23U,   24U,  29U,
+          41U, 43U, 52U, 73U, 74U, 75U, 147U, 148U, 149U, 150U, 1000U, 1001U}) {
         EXPECT_STRNE(NET_ORB_GetErrorText(error), "unknown error") << error;
     }
     EXPECT_STREQ(NET_ORB_GetErrorText(4711), "unknown error");

@@ -166,7 +166,9 @@ const Row kRows[] = {
     {"OversizeBeyondEveryBuffer",
      {.kind = FaultKind::Oversize, .bytes = 17 << 20},
      NET_ORB_BUFFER_TOO_SMALL,
-     kXmlRoads | kJsonRoads},
+     kXmlRoads | kJsonRoads,
+     0,   // the size announced is enough to refuse it
+     2},  // the manager asks again for that size
 };
 
 void PrintTo(const Row& row, std::ostream* out)

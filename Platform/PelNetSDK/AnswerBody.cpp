@@ -13,7 +13,7 @@ namespace
 constexpr std::size_t kFirstBlock = 16 * 1024;
 constexpr std::size_t kLargestBlock = 4 * 1024 * 1024;
 
-/// Copies what of the block, which begins at `begin`, is among the first `count` bytes.
+/// Copies the part of a block, which begins at `begin`, that is among the first `count` bytes.
 std::size_t CopyBlock(const std::string& block, void* target, std::size_t begin,
                       std::size_t count) noexcept
 {
@@ -78,7 +78,7 @@ std::size_t AnswerBody::CopyTo(void* target, std::size_t count) const noexcept
 std::size_t AnswerBody::MoveTo(void* target, std::size_t count) noexcept
 {
     const std::size_t copied = std::min(count, size_);
-    // Backwards: the newest block lies at the end of the heap, which shrinks only from there.
+    // Backwards: the newest block lies at the end of the heap, and the heap shrinks only there.
     for (std::size_t begin = size_; !blocks_.empty(); blocks_.pop_back()) {
         begin -= blocks_.back().size();
         CopyBlock(blocks_.back(), target, begin, count);

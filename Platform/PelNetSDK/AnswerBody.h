@@ -9,35 +9,32 @@
 namespace PelNet
 {
 
-/// Bytes in a chain of blocks: growing never copies what has arrived, so a package of hundreds of
-/// megabytes costs its own size and little more.
+/// A chain of blocks. Growing never copies what has arrived, so a package of hundreds of megabytes
+/// costs its own size and little more.
 class AnswerBody
 {
 public:
-    /// The largest answer accepted: the library's largest buffer is 1,000 MiB.
-    static constexpr std::size_t kDefaultLimit = std::size_t{1100} * 1024 * 1024;
-
-    explicit AnswerBody(std::size_t limit = kDefaultLimit) : limit_(limit) {}
+    explicit AnswerBody(std::size_t limit) : limit_(limit) {}
     AnswerBody(AnswerBody&& other) noexcept;
     AnswerBody& operator=(AnswerBody&&) = delete;
     AnswerBody(const AnswerBody&) = delete;
     AnswerBody& operator=(const AnswerBody&) = delete;
     ~AnswerBody() = default;
 
-    /// Appends bytes; false when the limit would be passed. Throws std::bad_alloc.
+    /// Appends bytes; false if the limit would be exceeded. Throws std::bad_alloc.
     [[nodiscard]] bool Append(const char* bytes, std::size_t count);
-    /// Takes a whole text without copying it; false when it is greater than the limit.
+    /// Takes a whole text without copying it; false if it is larger than the limit.
     [[nodiscard]] bool Adopt(std::string&& text);
     void Clear() noexcept;
 
     [[nodiscard]] std::size_t Size() const noexcept { return size_; }
     [[nodiscard]] std::size_t Limit() const noexcept { return limit_; }
-    /// Copies the first `count` bytes, or all when there are fewer; returns how many.
+    /// Copies the first `count` bytes, or all if there are fewer; returns how many.
     std::size_t CopyTo(void* target, std::size_t count) const noexcept;
-    /// The same, giving back each block once it is copied: no large answer is held twice. Nothing
-    /// is left of the body.
+    /// The same, but frees each block once it is copied, so that no large answer is held twice. The
+    /// body is empty afterwards.
     std::size_t MoveTo(void* target, std::size_t count) noexcept;
-    /// The first `count` bytes, or all when there are fewer.
+    /// The first `count` bytes, or all if there are fewer.
     [[nodiscard]] std::string Head(std::size_t count) const;
 
 private:

@@ -1,9 +1,9 @@
-// One call of the interface: a question to a session, its answer into the caller's buffers.
+// One call of the interface: ask a session, and put the answer into the caller's buffers.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <exception>
-#include <new>
+#include <cstddef>
+#include <stdexcept>
 
 #include "PelNetSDK/ErrorNumbers.h"
 #include "PelNetSDK/LastError.h"
@@ -18,30 +18,34 @@ struct AnswerSpace
 {
     void* buffer = nullptr;  ///< null with size 0: no answer is wanted
     unsigned size = 0;
+    std::size_t limit = 0;   ///< the largest answer to read, if the buffer is smaller; see Limits.h
     void* status = nullptr;  ///< where a status document goes, or null
     unsigned statusSize = 0;
-    unsigned* returned = nullptr;    ///< bytes of the answer, or needed; or null
-    bool returnsStatusSize = false;  ///< `returned` also tells the length of a status document
+    unsigned* returned = nullptr;    ///< receives the answer's size, or the size required; or null
+    bool returnsStatusSize = false;  ///< `returned` also receives the size of a status document
 
-    /// Whether each size has its buffer.
+    /// Whether each size comes with a buffer.
     [[nodiscard]] bool Sound() const
     {
         return (buffer != nullptr || size == 0) && (status != nullptr || statusSize == 0);
     }
 };
 
-/// Records the failure of the calling thread; returns 0, what a failed call returns.
+/// Records the calling thread's failure; returns 0, as a failed call does.
 int Fail(unsigned error) noexcept;
 
-/// Asks the device and fills the space; non-zero on success, else the last error is set.
+/// Asks the device and fills the space. Non-zero on success, otherwise the last error is set.
 int Ask(int userID, RequestKind kind, const TransportRequest& request, const AnswerSpace& space);
 
-/// Runs the body of an interface function; no exception leaves it.
+/// Runs the body of an interface function. No exception leaves it.
 template <class Body>
 int Guarded(Body&& body, int failed = 0) noexcept
 {
     try {
         return body();
+    } catch (const std::invalid_argument&) {
+        Fail(NET_ORB_PARAMETER_ERROR);
+        return failed;
     } catch (...) {
         Fail(NET_ORB_ALLOC_RESOURCE_ERROR);
         return failed;

@@ -25,3 +25,4 @@
 #define NET_ORB_CERTIFICATE_ERROR 147u   /* the device's certificate cannot be trusted */
 #define NET_ORB_TLS_FAILED 148u          /* no secure connection could be made */
 #define NET_ORB_ANSWER_TOO_LARGE 149u    /* the answer is larger than any the SDK accepts */
+#define NET_ORB_AUTH_UNSUPPORTED 150u    /* the server offers no login that the SDK may use */

@@ -3,11 +3,15 @@
 #include "PelNetSDK/HttpConnection.h"
 
 #include <algorithm>
+#include <limits>
 #include <new>
+#include <stdexcept>
 #include <string_view>
 
 #include "PelNetSDK/ErrorNumbers.h"
+#include "PelNetSDK/HttpFault.h"
 #include "PelNetSDK/LastError.h"
+#include "PelNetSDK/Limits.h"
 #include "PelNetSDK/ReceiveProgress.h"
 #include "PelNetSDK/Statistics.h"
 
@@ -16,12 +20,6 @@ namespace PelNet
 
 namespace
 {
-
-// Far beyond any device's; a server that sends headers for ever is none.
-constexpr std::size_t kMostHeaderBytes = std::size_t{256} * 1024;
-
-// The request itself and its repeat after a nonce that grew stale.
-constexpr int kMostSent = 2;
 
 using HeaderList = std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)>;
 
@@ -53,10 +51,17 @@ const char* ContentTypeHeader(const TransportRequest& request)
 HeaderList HeadersOf(const TransportRequest& request)
 {
     HeaderList headers(nullptr, &curl_slist_free_all);
-    // An "Expect: 100-continue" costs an interim answer, and some devices never give it.
+    // An "Expect: 100-continue" costs an interim answer, and some devices never send it.
     AddHeader(headers, "Expect:");
     AddHeader(headers, ContentTypeHeader(request));
     return headers;
+}
+
+/// libcurl takes no more.
+long Milliseconds(std::chrono::milliseconds time)
+{
+    return static_cast<long>(
+        std::min<std::chrono::milliseconds::rep>(time.count(), std::numeric_limits<int>::max()));
 }
 
 }  // namespace
@@ -64,8 +69,13 @@ HeaderList HeadersOf(const TransportRequest& request)
 template <class Value>
 void HttpConnection::Set(CURLoption option, Value value)
 {
-    if (curl_easy_setopt(handle_.get(), option, value) == CURLE_OUT_OF_MEMORY) {
-        throw std::bad_alloc();
+    switch (curl_easy_setopt(handle_.get(), option, value)) {
+        case CURLE_OUT_OF_MEMORY:
+            throw std::bad_alloc();
+        case CURLE_BAD_FUNCTION_ARGUMENT:
+            throw std::invalid_argument("a setting that libcurl refuses");
+        default:  // an option that this libcurl was built without
+            break;
     }
 }
 
@@ -74,7 +84,8 @@ HttpConnection::HttpConnection(const HttpSettings& settings, const std::atomic<b
       openSocket_(settings.openSocket),
       cancelled_(cancelled),
       hasCredentials_(!settings.user.empty() || !settings.password.Empty()),
-      basicAllowed_(settings.secure || settings.allowBasic),
+      isSecure_(settings.secure),
+      basicAllowed_((settings.secure && !settings.trustAnyCertificate) || settings.allowBasic),
       handle_(curl_easy_init())
 {
     if (!handle_) {
@@ -90,20 +101,19 @@ void HttpConnection::SetTransport(const HttpSettings& settings)
 {
     Set(CURLOPT_PROTOCOLS_STR, "http,https");
     Set(CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
-    Set(CURLOPT_PROXY, "");  // a device is never behind the proxy of the environment
+    Set(CURLOPT_PROXY, "");  // never reach a device through the environment's proxy
     Set(CURLOPT_NOSIGNAL, 1L);
     Set(CURLOPT_FOLLOWLOCATION, 0L);
     Set(CURLOPT_PATH_AS_IS, 1L);
     Set(CURLOPT_MAXCONNECTS, 1L);
     Set(CURLOPT_TCP_KEEPALIVE, 1L);
     Set(CURLOPT_BUFFERSIZE, 64L * 1024);
-    Set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(AnswerBody::kDefaultLimit));
-    Set(CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(settings.connectTimeout.count()));
+    Set(CURLOPT_CONNECTTIMEOUT_MS, Milliseconds(settings.connectTimeout));
     Set(CURLOPT_SSL_VERIFYPEER, settings.trustAnyCertificate ? 0L : 1L);
     Set(CURLOPT_SSL_VERIFYHOST, settings.trustAnyCertificate ? 0L : 2L);
     if (!settings.certificateFile.empty()) {
         Set(CURLOPT_CAINFO, settings.certificateFile.c_str());
-        Set(CURLOPT_CAPATH, static_cast<char*>(nullptr));  // the file alone is trusted
+        Set(CURLOPT_CAPATH, static_cast<char*>(nullptr));  // trust this file alone
     }
 }
 
@@ -125,8 +135,8 @@ void HttpConnection::SetSocket()
 
 void HttpConnection::SetCredentials(const HttpSettings& settings)
 {
-    // Nothing is sent before a challenge. Asked for digest at once, libcurl would send a change
-    // with an empty body first, and a device that asks for no password would carry that out.
+    // Send nothing before a challenge. Told to use digest at once, libcurl would first send a
+    // change with an empty body, and a device that needs no password would carry that out.
     Set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_NONE));
     if (hasCredentials_) {
         Set(CURLOPT_USERNAME, settings.user.c_str());
@@ -152,27 +162,57 @@ unsigned HttpConnection::Exchange(const TransportRequest& request, TransportAnsw
                                   Clock::time_point deadline)
 {
     unsigned error = Perform(request, answer, deadline);
-    if (error == NET_ORB_NOERROR && answer.status == 401 && TakeChallenge()) {
-        answer.body.Clear();
+    if (error == NET_ORB_NOERROR && answer.status == 401 && TakeChallenge(answer)) {
+        answer.Clear();
         error = Perform(request, answer, deadline);
     }
     answer.passwordChecked = KnowsChallenge() && answer.status != 401;
     return error;
 }
 
-/// Chooses how to answer the device's first challenge; false when there is no answer to it.
-bool HttpConnection::TakeChallenge()
+/// Chooses how to answer the device's first challenge. False if there is no answer to it.
+bool HttpConnection::TakeChallenge(TransportAnswer& answer)
 {
-    long offered = CURLAUTH_NONE;
-    curl_easy_getinfo(handle_.get(), CURLINFO_HTTPAUTH_AVAIL, &offered);
-    const bool digest = (offered & static_cast<long>(CURLAUTH_DIGEST)) != 0;
-    const bool basic = (offered & static_cast<long>(CURLAUTH_BASIC)) != 0 && basicAllowed_;
-    if (!hasCredentials_ || KnowsChallenge() || !(digest || basic)) {
+    if (KnowsChallenge()) {
         return false;
     }
-    scheme_ = static_cast<long>(digest ? CURLAUTH_DIGEST : CURLAUTH_BASIC);
+    if (!hasCredentials_) {
+        answer.hint = "the device requires a user name and a password, and none was given";
+        return false;
+    }
+    answer.hint = WhyNoLogin();
+    if (!answer.hint.empty()) {
+        answer.loginError = NET_ORB_AUTH_UNSUPPORTED;
+        return false;
+    }
+    scheme_ =
+        static_cast<long>(head_.Offered().Offers("Digest") ? CURLAUTH_DIGEST : CURLAUTH_BASIC);
     Set(CURLOPT_HTTPAUTH, scheme_);
     return true;
+}
+
+/// Why the server's challenge cannot be answered; empty if it can.
+std::string HttpConnection::WhyNoLogin() const
+{
+    const Challenges& offered = head_.Offered();
+    const std::string names = offered.Names();
+    if (names.empty()) {
+        return "the server requires a password, but offers no way to send one";
+    }
+    if (offered.Offers("Digest")) {
+        return offered.DigestFault();
+    }
+    if (!offered.Offers("Basic")) {
+        return "the server offers only " + names +
+               ", but the SDK only knows Digest, and Basic over TLS";
+    }
+    if (basicAllowed_) {
+        return {};
+    }
+    return "the server offers only " + names +
+           (isSecure_ ? ", and Basic is not sent while the certificate is not checked"
+                      : (names == "Basic" ? ", which is not sent without TLS"
+                                          : ", and Basic is not sent without TLS"));
 }
 
 unsigned HttpConnection::Perform(const TransportRequest& request, TransportAnswer& answer,
@@ -182,26 +222,20 @@ unsigned HttpConnection::Perform(const TransportRequest& request, TransportAnswe
     if (left.count() <= 0) {
         return NET_ORB_NETWORK_RECV_TIMEOUT;
     }
-    const bool isGet = request.line.method == "GET";
     const HeaderList headers = HeadersOf(request);
-    Set(CURLOPT_URL, (base_ + request.line.target).c_str());
     Set(CURLOPT_HTTPHEADER, headers.get());
-    Set(CURLOPT_TIMEOUT_MS, static_cast<long>(left.count()));
-    if (isGet && request.body.empty()) {
-        Set(CURLOPT_HTTPGET, 1L);
-    } else {
-        Set(CURLOPT_POST, 1L);
-        Set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body.size()));
-        Set(CURLOPT_POSTFIELDS, request.body.empty() ? "" : request.body.data());
-    }
-    Set(CURLOPT_CUSTOMREQUEST, request.line.method.c_str());
+    Set(CURLOPT_TIMEOUT_MS, Milliseconds(left));
+    SetRequest(request);
 
     answer_ = &answer;
+    answer.status = 0;
     stopped_ = kNotStopped;
-    repeatable_ = isGet;
+    whyStopped_ = nullptr;
+    isComplete_ = false;
+    repeatable_ = request.IsGet();
     unanswered_ = false;
     requestsSent_ = 0;
-    headerBytes_ = 0;
+    head_.Clear();
     detail_.front() = '\0';
     const CURLcode code = curl_easy_perform(handle_.get());
     answer_ = nullptr;
@@ -209,54 +243,70 @@ unsigned HttpConnection::Perform(const TransportRequest& request, TransportAnswe
     long opened = 0;
     curl_easy_getinfo(handle_.get(), CURLINFO_NUM_CONNECTS, &opened);
     counters.connections += static_cast<unsigned long long>(std::max(opened, 0L));
-    long status = 0;
-    curl_easy_getinfo(handle_.get(), CURLINFO_RESPONSE_CODE, &status);
-    answer.status = static_cast<int>(status);
+    answer.status = Status();
     // What they point at ends with this call.
     Set(CURLOPT_POSTFIELDS, "");
     Set(CURLOPT_HTTPHEADER, static_cast<curl_slist*>(nullptr));
     return Judge(code);
 }
 
+void HttpConnection::SetRequest(const TransportRequest& request)
+{
+    Set(CURLOPT_URL, (base_ + request.line.target).c_str());
+    if (request.IsGet() && request.body.empty()) {
+        Set(CURLOPT_HTTPGET, 1L);
+    } else {
+        Set(CURLOPT_POST, 1L);
+        Set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body.size()));
+        Set(CURLOPT_POSTFIELDS, request.body.empty() ? "" : request.body.data());
+    }
+    Set(CURLOPT_CUSTOMREQUEST, request.line.method.c_str());
+}
+
 unsigned HttpConnection::Judge(CURLcode code)
 {
-    if (code == CURLE_OK) {
+    if (code == CURLE_OK || isComplete_) {
         return NET_ORB_NOERROR;
     }
-    SetFailureDetail(detail_.data());
     if (stopped_ != kNotStopped) {
+        if (whyStopped_ != nullptr) {
+            SetFailureDetail(whyStopped_);
+        }
         return stopped_;
     }
-    switch (code) {
-        case CURLE_COULDNT_RESOLVE_HOST:
-            return NET_ORB_DNS_FAILED;
-        case CURLE_COULDNT_CONNECT:
-            return NET_ORB_NETWORK_FAIL_CONNECT;
-        case CURLE_OPERATION_TIMEDOUT:
-            return requestsSent_ == 0 ? NET_ORB_NETWORK_FAIL_CONNECT : NET_ORB_NETWORK_RECV_TIMEOUT;
-        case CURLE_PEER_FAILED_VERIFICATION:
-        case CURLE_SSL_CACERT_BADFILE:
-        case CURLE_SSL_ISSUER_ERROR:
-            return NET_ORB_CERTIFICATE_ERROR;
-        case CURLE_SSL_CONNECT_ERROR:
-        case CURLE_SSL_CIPHER:
-        case CURLE_SSL_CERTPROBLEM:
-        case CURLE_USE_SSL_FAILED:
-            return NET_ORB_TLS_FAILED;
-        case CURLE_SEND_ERROR:
-        case CURLE_SEND_FAIL_REWIND:
-            return NET_ORB_NETWORK_SEND_ERROR;
-        case CURLE_FILESIZE_EXCEEDED:
-            return NET_ORB_ANSWER_TOO_LARGE;
-        case CURLE_UNSUPPORTED_PROTOCOL:
-        case CURLE_WEIRD_SERVER_REPLY:
-        case CURLE_BAD_CONTENT_ENCODING:
-            return NET_ORB_NETWORK_ERRORDATA;
-        case CURLE_OUT_OF_MEMORY:
-            return NET_ORB_ALLOC_RESOURCE_ERROR;
-        default:
-            return NET_ORB_NETWORK_RECV_ERROR;
+    const HttpFault fault = JudgeTransfer(code, detail_.data(), requestsSent_ > 0);
+    SetFailureDetail(fault.detail);
+    return fault.error;
+}
+
+int HttpConnection::Status() const
+{
+    long status = 0;
+    curl_easy_getinfo(handle_.get(), CURLINFO_RESPONSE_CODE, &status);
+    return static_cast<int>(status);
+}
+
+bool HttpConnection::TakeBody(const char* bytes, std::size_t count)
+{
+    answer_->status = Status();
+    curl_off_t size = -1;
+    curl_easy_getinfo(handle_.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &size);
+    answer_->announcedSize = static_cast<std::uint64_t>(std::max<curl_off_t>(size, 0));
+    if (answer_->IsSuccess() && answer_->announcedSize > answer_->limit) {
+        stopped_ = NET_ORB_ANSWER_TOO_LARGE;
+        return false;
     }
+    switch (answer_->Take(bytes, count)) {
+        case TransportAnswer::Taken::Whole:
+            return true;
+        case TransportAnswer::Taken::AsRefusal:
+            isComplete_ = true;
+            return false;
+        case TransportAnswer::Taken::TooLarge:
+            stopped_ = NET_ORB_ANSWER_TOO_LARGE;
+            return false;
+    }
+    return false;
 }
 
 std::size_t HttpConnection::OnBody(const char* bytes, std::size_t /*one*/, std::size_t count,
@@ -264,32 +314,37 @@ std::size_t HttpConnection::OnBody(const char* bytes, std::size_t /*one*/, std::
 {
     auto& connection = *static_cast<HttpConnection*>(self);
     try {
-        if (connection.answer_->body.Append(bytes, count)) {
-            return count;
-        }
-        connection.stopped_ = NET_ORB_ANSWER_TOO_LARGE;
+        return connection.TakeBody(bytes, count) ? count : CURL_WRITEFUNC_ERROR;
     } catch (const std::bad_alloc&) {
         connection.stopped_ = NET_ORB_ALLOC_RESOURCE_ERROR;
+        return CURL_WRITEFUNC_ERROR;
     }
-    return CURL_WRITEFUNC_ERROR;
+}
+
+bool HttpConnection::TakeHeader(std::string_view line)
+{
+    if (AnswerHead::IsFinalStatus(line)) {
+        ++counters.exchanges;
+        unanswered_ = false;
+    }
+    if (head_.Take(line)) {
+        return true;
+    }
+    stopped_ = NET_ORB_NETWORK_ERRORDATA;
+    whyStopped_ = head_.Fault().c_str();
+    return false;
 }
 
 std::size_t HttpConnection::OnHeader(const char* bytes, std::size_t /*one*/, std::size_t count,
                                      void* self)
 {
     auto& connection = *static_cast<HttpConnection*>(self);
-    const std::string_view header(bytes, count);
-    // Interim answers ("HTTP/1.1 100 Continue") do not count.
-    if (header.starts_with("HTTP/") && !header.substr(header.find(' ') + 1).starts_with('1')) {
-        ++counters.exchanges;
-        connection.unanswered_ = false;
-    }
-    connection.headerBytes_ += count;
-    if (connection.headerBytes_ > kMostHeaderBytes) {
-        connection.stopped_ = NET_ORB_NETWORK_ERRORDATA;
+    try {
+        return connection.TakeHeader({bytes, count}) ? count : CURL_WRITEFUNC_ERROR;
+    } catch (const std::bad_alloc&) {
+        connection.stopped_ = NET_ORB_ALLOC_RESOURCE_ERROR;
         return CURL_WRITEFUNC_ERROR;
     }
-    return count;
 }
 
 int HttpConnection::OnProgress(void* self, curl_off_t total, curl_off_t now, curl_off_t /*upTotal*/,
@@ -300,21 +355,23 @@ int HttpConnection::OnProgress(void* self, curl_off_t total, curl_off_t now, cur
         connection.stopped_ = NET_ORB_CANCELLED;
         return 1;
     }
-    TellReceived(static_cast<unsigned long long>(now), static_cast<unsigned long long>(total));
+    ReportReceived(static_cast<unsigned long long>(now),
+                        static_cast<unsigned long long>(total));
     return 0;
 }
 
-/// Before each sending of the request.
+/// Before the request is sent, each time.
 int HttpConnection::OnRequest(void* self, char* /*peer*/, char* /*local*/, int /*peerPort*/,
                               int /*localPort*/)
 {
     auto& connection = *static_cast<HttpConnection*>(self);
     if (connection.unanswered_ && !connection.repeatable_) {
-        // The kept connection broke under a change: whether it was carried out is unknown, and
-        // libcurl would send it again.
+        // The kept connection broke during a change. Whether the device carried it out is unknown,
+        // and libcurl would send it again.
         connection.stopped_ = NET_ORB_NETWORK_RECV_ERROR;
-    } else if (connection.requestsSent_ >= kMostSent) {
-        // A device that calls every nonce stale would be asked for ever.
+        connection.whyStopped_ = "the connection broke before an answer came";
+    } else if (connection.requestsSent_ >= limits::kSends) {
+        // A device that calls every nonce stale would be asked forever.
         connection.stopped_ =
             connection.unanswered_ ? NET_ORB_NETWORK_RECV_ERROR : NET_ORB_PASSWORD_ERROR;
     }

@@ -11,30 +11,31 @@
 #include <memory>
 #include <string>
 
+#include "PelNetSDK/AnswerHead.h"
+#include "PelNetSDK/Exchange.h"
 #include "PelNetSDK/HttpSettings.h"
-#include "PelNetSDK/Transport.h"
 
 namespace PelNet
 {
 
-/// Used by one thread at a time. The handle is never reset: it keeps the connection and what the
-/// device's challenge told, so that authentication costs one exchange in all.
+/// Used by one thread at a time. The handle is never reset: it keeps the connection and the
+/// device's challenge, so that authentication costs one exchange in all.
 class HttpConnection
 {
 public:
-    /// `cancelled` outlives the connection. Throws std::bad_alloc.
+    /// `cancelled` outlives the connection. Throws std::bad_alloc, and std::invalid_argument if a
+    /// setting is unacceptable.
     HttpConnection(const HttpSettings& settings, const std::atomic<bool>& cancelled);
 
     using Clock = std::chrono::steady_clock;
 
-    /// As Transport::Exchange, over at the deadline. An answer of 401 is final: the connection is
-    /// of no use afterwards, for libcurl misreads the next challenge. A request other than GET
-    /// reaches the device once at most, save that a device which answers it with a challenge is
-    /// sent it again.
+    /// As Transport::Exchange, but ends at the deadline. After an answer of 401 the connection must
+    /// not be used again, for libcurl misreads the next challenge. A request other than GET reaches
+    /// the device once at most, unless the device answers it with a challenge.
     unsigned Exchange(const TransportRequest& request, TransportAnswer& answer,
                       Clock::time_point deadline);
 
-    /// Whether the device has challenged this connection, and its requests carry the answer.
+    /// Whether the device has challenged this connection, so that requests carry credentials.
     [[nodiscard]] bool KnowsChallenge() const { return scheme_ != CURLAUTH_NONE; }
 
 private:
@@ -50,8 +51,13 @@ private:
 
     unsigned Perform(const TransportRequest& request, TransportAnswer& answer,
                      Clock::time_point deadline);
+    void SetRequest(const TransportRequest& request);
     unsigned Judge(CURLcode code);
-    [[nodiscard]] bool TakeChallenge();
+    [[nodiscard]] bool TakeChallenge(TransportAnswer& answer);
+    [[nodiscard]] std::string WhyNoLogin() const;
+    [[nodiscard]] int Status() const;
+    [[nodiscard]] bool TakeBody(const char* bytes, std::size_t count);
+    [[nodiscard]] bool TakeHeader(std::string_view line);
 
     static std::size_t OnBody(const char* bytes, std::size_t, std::size_t count, void* self);
     static std::size_t OnHeader(const char* bytes, std::size_t, std::size_t count, void* self);
@@ -68,16 +74,19 @@ private:
     const std::function<int()> openSocket_;
     const std::atomic<bool>& cancelled_;
     const bool hasCredentials_;
+    const bool isSecure_;
     const bool basicAllowed_;
     long scheme_ = CURLAUTH_NONE;  ///< chosen from the device's challenge
 
-    // Of the transfer under way.
+    // Of the transfer in progress.
     TransportAnswer* answer_ = nullptr;
     unsigned stopped_ = kNotStopped;
+    const char* whyStopped_ = nullptr;  ///< for a person, if the number does not tell
+    bool isComplete_ = false;  ///< stopped on purpose: the rest of the answer is not wanted
     bool repeatable_ = true;
     bool unanswered_ = false;
     int requestsSent_ = 0;
-    std::size_t headerBytes_ = 0;
+    AnswerHead head_;
 
     std::unique_ptr<CURL, Closer> handle_;
 };

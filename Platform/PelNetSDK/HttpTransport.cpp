@@ -31,12 +31,12 @@ unsigned HttpTransport::Exchange(const TransportRequest& request, TransportAnswe
     };
     unsigned error = connection->Exchange(request, answer, deadline);
     if (challenged(error) && knewChallenge) {
-        // A device that restarted has forgotten its nonce; the password may still be right.
+        // A restarted device has forgotten its nonce. The password may still be right.
         connection = Make();
         if (!connection) {
             return NET_ORB_CANCELLED;
         }
-        answer.body.Clear();
+        answer.Clear();
         error = connection->Exchange(request, answer, deadline);
     }
     if (!challenged(error) && error != NET_ORB_PASSWORD_ERROR) {
@@ -75,7 +75,7 @@ try {
         idle_.push_back(std::move(connection));
     }
 } catch (const std::bad_alloc&) {
-    // The exchange succeeded all the same; the next one opens a connection of its own.
+    // The exchange succeeded all the same. The next one opens its own connection.
 }
 
 void HttpTransport::Cancel() noexcept

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "PelNetSDK/HttpConnection.h"
+#include "PelNetSDK/Transport.h"
 
 namespace PelNet
 {

@@ -13,25 +13,24 @@ const std::shared_ptr<KeptAnswer>& KeptAnswer::OfThisThread()
     return slot;
 }
 
-void KeptAnswer::Keep(const Session& session, const TransportRequest& request,
-                      std::size_t bufferSize, AnswerBody&& body)
+void KeptAnswer::Keep(Content&& content)
 {
     const std::lock_guard lock(mutex_);
-    content_.emplace(
-        Content{&session, request.line, std::string(request.body), bufferSize, std::move(body)});
+    content_.emplace(std::move(content));
 }
 
-std::optional<AnswerBody> KeptAnswer::Take(const Session& session, const TransportRequest& request,
-                                           std::size_t bufferSize)
+std::optional<KeptAnswer::Content> KeptAnswer::Take(const Session& session,
+                                                    const TransportRequest& request,
+                                                    std::size_t bufferSize)
 {
     const std::lock_guard lock(mutex_);
     std::optional<Content> content = std::exchange(content_, std::nullopt);
     // A buffer that did not grow is a new question: its answer may have changed.
-    if (!content || content->session != &session || bufferSize <= content->bufferSize ||
-        content->line != request.line || content->requestBody != request.body) {
-        return std::nullopt;
+    if (content && (content->session != &session || bufferSize <= content->bufferSize ||
+                    content->line != request.line || content->requestBody != request.body)) {
+        content.reset();
     }
-    return std::move(content->body);
+    return content;
 }
 
 void KeptAnswer::Drop(const Session& session)

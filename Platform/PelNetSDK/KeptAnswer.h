@@ -7,40 +7,41 @@
 #include <optional>
 #include <string>
 
-#include "PelNetSDK/Transport.h"
+#include "PelNetSDK/Exchange.h"
 
 namespace PelNet
 {
 
 class Session;
 
-/// One answer at most. The slot belongs to its thread; the session whose answer it holds clears
-/// it at logout, hence the lock.
+/// At most one answer. The slot belongs to its thread; the session whose answer it holds clears it
+/// at logout, hence the lock.
 class KeptAnswer
 {
 public:
+    struct Content
+    {
+        const Session* session = nullptr;
+        RequestLine line = {};
+        std::string requestBody = {};
+        std::size_t bufferSize = 0;      ///< the buffer it did not fit
+        std::optional<AnswerBody> body;  ///< nothing: larger than `limit`, and not kept
+        std::size_t limit = 0;           ///< of the exchange that brought it
+        std::size_t size = 0;            ///< the buffer it would fit; 0: unknown
+    };
+
     /// The calling thread's slot.
     static const std::shared_ptr<KeptAnswer>& OfThisThread();
 
-    void Keep(const Session& session, const TransportRequest& request, std::size_t bufferSize,
-              AnswerBody&& body);
-    /// The answer when this very request is repeated with a larger buffer than before. Whatever
-    /// was kept is gone afterwards.
-    std::optional<AnswerBody> Take(const Session& session, const TransportRequest& request,
-                                   std::size_t bufferSize);
+    void Keep(Content&& content);
+    /// What was kept, if this is the same request with a larger buffer. Whatever was kept is gone
+    /// afterwards.
+    std::optional<Content> Take(const Session& session, const TransportRequest& request,
+                                std::size_t bufferSize);
     /// Forgets an answer of this session.
     void Drop(const Session& session);
 
 private:
-    struct Content
-    {
-        const Session* session;
-        RequestLine line;
-        std::string requestBody;
-        std::size_t bufferSize;
-        AnswerBody body;
-    };
-
     std::mutex mutex_;
     std::optional<Content> content_;
 };

@@ -6,6 +6,7 @@
 #include <array>
 #include <utility>
 
+#include "PelNetSDK/Limits.h"
 #include "PelNetSDK/Login.h"
 
 namespace PelNet
@@ -14,14 +15,13 @@ namespace PelNet
 namespace
 {
 
-// A fixed array, so that recording a failed allocation needs no memory.
-using Detail = std::array<char, 256>;
+using Detail = std::array<char, limits::kDetail>;
 
 struct ThreadFailure
 {
     Failure failure;
     Detail detail{};
-    Detail coming{};
+    Detail next{};  ///< of the failure to come
 };
 
 thread_local ThreadFailure threadFailure;
@@ -36,7 +36,7 @@ constexpr std::pair<unsigned, const char*> kTexts[] = {
     {NET_ORB_NETWORK_SEND_ERROR, "the connection broke while sending"},
     {NET_ORB_NETWORK_RECV_ERROR, "the connection broke in the middle of the answer"},
     {NET_ORB_NETWORK_RECV_TIMEOUT, "no complete answer came in time"},
-    {NET_ORB_NETWORK_ERRORDATA, "what came is no answer of the protocol"},
+    {NET_ORB_NETWORK_ERRORDATA, "the answer does not follow the protocol"},
     {NET_ORB_PARAMETER_ERROR, "an argument or the request line is not acceptable"},
     {NET_ORB_NOSUPPORT, "the device does not support this"},
     {NET_ORB_DEVICE_BUSY, "the device is too busy"},
@@ -44,12 +44,13 @@ constexpr std::pair<unsigned, const char*> kTexts[] = {
     {NET_ORB_ALLOC_RESOURCE_ERROR, "there is not enough memory"},
     {NET_ORB_BUFFER_TOO_SMALL, "the answer does not fit the buffer"},
     {NET_ORB_MAX_USERNUM, "no more devices can be logged in"},
-    {NET_ORB_DNS_FAILED, "the host name is unknown"},
+    {NET_ORB_DNS_FAILED, "the host name cannot be resolved"},
     {NET_ORB_CANCELLED, "the session was logged out while the request ran"},
     {NET_ORB_NO_SUCH_PROFILE, "the simulated device has no such profile"},
     {NET_ORB_CERTIFICATE_ERROR, "the device's certificate cannot be trusted"},
     {NET_ORB_TLS_FAILED, "no secure connection could be made"},
     {NET_ORB_ANSWER_TOO_LARGE, "the answer is larger than any the SDK accepts"},
+    {NET_ORB_AUTH_UNSUPPORTED, "the server offers no login that the SDK may use"},
     {NET_ORB_ABILITY_FAILED, "the device does not know the ability"},
     {NET_ORB_ABILITY_TOO_SMALL, "the ability does not fit the buffer"},
 };
@@ -59,7 +60,7 @@ constexpr std::pair<unsigned, const char*> kTexts[] = {
 void SetLastFailure(const Failure& failure) noexcept
 {
     threadFailure.failure = failure;
-    threadFailure.detail = std::exchange(threadFailure.coming, Detail{});
+    threadFailure.detail = std::exchange(threadFailure.next, Detail{});
 }
 
 Failure LastFailure() noexcept
@@ -69,9 +70,9 @@ Failure LastFailure() noexcept
 
 void SetFailureDetail(std::string_view detail) noexcept
 {
-    threadFailure.coming = {};
-    std::copy_n(detail.data(), std::min(detail.size(), threadFailure.coming.size() - 1),
-                threadFailure.coming.begin());
+    threadFailure.next = {};
+    std::copy_n(detail.data(), std::min(detail.size(), threadFailure.next.size() - 1),
+                threadFailure.next.begin());
 }
 
 const char* LastFailureDetail() noexcept

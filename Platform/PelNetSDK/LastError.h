@@ -1,4 +1,4 @@
-// What the calling thread's last failure was.
+// The calling thread's last failure.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,11 +15,11 @@ struct Failure
     int deviceCode = 0;  ///< the device's own extended code, 0: none
 };
 
-/// Records the calling thread's last failure. Success leaves it as it is.
+/// Records the calling thread's last failure. A success does not clear it.
 void SetLastFailure(const Failure& failure) noexcept;
 [[nodiscard]] Failure LastFailure() noexcept;
 
-/// A sentence on the failure the thread is about to record, cut to 255 bytes.
+/// A sentence about the failure that the thread is about to record, cut to 255 bytes.
 void SetFailureDetail(std::string_view detail) noexcept;
 [[nodiscard]] const char* LastFailureDetail() noexcept;
 

@@ -22,7 +22,9 @@ extern "C"
         unsigned int connectTimeout; /* milliseconds, 0: 5,000 */
         unsigned int receiveTimeout; /* milliseconds for a whole answer, 0: 15,000 */
         unsigned char trustAnyCertificate; /* 1: do not check certificates */
-        unsigned char allowBasic; /* 1: HTTP Basic even without TLS; 0: digest, Basic over TLS */
+        /* 0: HTTP Basic only if the device offers no digest and its certificate was checked; 1:
+         * also without TLS or a checked certificate, where others can read the password. */
+        unsigned char allowBasic;
         unsigned char reserved[6];
     } tagNET_ORB_LOGIN_INFO;
 

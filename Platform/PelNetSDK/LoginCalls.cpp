@@ -7,6 +7,7 @@
 
 #include "PelNetSDK/Ask.h"
 #include "PelNetSDK/HttpTransport.h"
+#include "PelNetSDK/Limits.h"
 #include "PelNetSDK/Session.h"
 #include "PelNetSDK/SimTransport.h"
 #include "PelNetSDK/Statistics.h"
@@ -24,7 +25,7 @@ std::string_view View(const char* text)
     return text == nullptr ? std::string_view() : std::string_view(text);
 }
 
-/// Null after a failure, with the last error set.
+/// Null on failure, with the last error set.
 std::unique_ptr<Transport> OpenSimulated(const tagNET_ORB_LOGIN_INFO& info)
 {
     std::string error;
@@ -35,7 +36,7 @@ std::unique_ptr<Transport> OpenSimulated(const tagNET_ORB_LOGIN_INFO& info)
         Fail(NET_ORB_NO_SUCH_PROFILE);
         return nullptr;
     }
-    // Without credentials the caller is at the device itself: "sim:dome" simply works.
+    // Without credentials no password is checked: "sim:dome" simply works.
     const bool named = info.userName != nullptr || info.password != nullptr;
     if (named && !device->CheckPassword(View(info.userName), View(info.password))) {
         Fail(NET_ORB_PASSWORD_ERROR);
@@ -48,12 +49,11 @@ std::unique_ptr<Transport> OpenSimulated(const tagNET_ORB_LOGIN_INFO& info)
 /// What the answer to the first request says about the login.
 Failure JudgeProof(const TransportAnswer& answer)
 {
-    const std::string text = answer.body.Head(kLongestStatusDocument + 1);
+    const std::string text = answer.body.Head(limits::kStatusDocument + 1);
     const auto document = ReadStatusDocument(text);
-    const bool answered = answer.status >= 200 && answer.status < 300;
-    if (!answered) {
-        const Failure failure = JudgeRefusal(answer.status, RequestKind::Request, document);
-        // Devices that number their channels otherwise, or not at all, refuse just the question.
+    if (!answer.IsSuccess()) {
+        const Failure failure = JudgeRefusal(answer, RequestKind::Request, document);
+        // Devices that number their channels differently, or not at all, refuse only the question.
         const bool harmless = answer.status < 500 && (failure.error == NET_ORB_NOSUPPORT ||
                                                       failure.error == NET_ORB_CHANNEL_ERROR ||
                                                       failure.error == NET_ORB_DEVICE_REFUSED);
@@ -61,16 +61,16 @@ Failure JudgeProof(const TransportAnswer& answer)
             return failure;
         }
     }
-    // Any web server has an answer to everything; a device asks for the password, gives the
-    // channel's number, or speaks in the words of the protocol.
-    const bool number =
-        answered && !text.empty() && text.find_first_not_of("0123456789 \r\n") == std::string::npos;
+    // Any web server answers everything. A device asks for the password, gives the channel's number
+    // or sends a status document.
+    const bool number = answer.IsSuccess() && !text.empty() &&
+                        text.find_first_not_of("0123456789 \r\n") == std::string::npos;
     return {
         answer.passwordChecked || document || number ? NET_ORB_NOERROR : NET_ORB_NETWORK_ERRORDATA,
         0, 0};
 }
 
-/// Asks the cheapest question there is: a device must be there and take the password.
+/// Asks the cheapest question there is: a device must answer and accept the password.
 std::unique_ptr<Transport> OpenHttp(const tagNET_ORB_LOGIN_INFO& info)
 {
     std::optional<HttpSettings> settings = ReadHttpSettings(info);
@@ -79,10 +79,12 @@ std::unique_ptr<Transport> OpenHttp(const tagNET_ORB_LOGIN_INFO& info)
         return nullptr;
     }
     auto transport = std::make_unique<HttpTransport>(std::move(*settings));
-    TransportAnswer answer;
+    TransportAnswer answer(limits::kStatusDocument);
     const unsigned error =
         transport->Exchange({{"GET", "/TARN/SDK/channels/1?mode=1"}, {}, 0}, answer);
-    const Failure failure = error != NET_ORB_NOERROR ? Failure{error, 0, 0} : JudgeProof(answer);
+    const Failure failure = error == NET_ORB_NOERROR            ? JudgeProof(answer)
+                            : error == NET_ORB_ANSWER_TOO_LARGE ? Failure{NET_ORB_NETWORK_ERRORDATA}
+                                                                : Failure{error};
     if (failure.error != NET_ORB_NOERROR) {
         SetLastFailure(failure);
         return nullptr;
@@ -93,7 +95,7 @@ std::unique_ptr<Transport> OpenHttp(const tagNET_ORB_LOGIN_INFO& info)
 int LogIn(const tagNET_ORB_LOGIN_INFO& info)
 {
     SessionTable& table = SessionTable::Instance();
-    // Asked first, so that a device is not troubled in vain.
+    // Checked first, to spare the device a pointless login.
     if (table.Full()) {
         return Fail(NET_ORB_MAX_USERNUM) - 1;
     }

@@ -1,4 +1,4 @@
-// Telling the thread that asked how much of an answer has come.
+// Reporting to the thread that asked how much of an answer has arrived.
 // SPDX-License-Identifier: Apache-2.0
 #include "PelNetSDK/ReceiveProgress.h"
 
@@ -12,7 +12,7 @@ namespace
 
 struct Listener
 {
-    NET_ORB_RECEIVE_PROGRESS tell = nullptr;
+    NET_ORB_RECEIVE_PROGRESS report = nullptr;
     void* context = nullptr;
 };
 
@@ -20,10 +20,10 @@ thread_local Listener listener;
 
 }  // namespace
 
-void TellReceived(unsigned long long received, unsigned long long total)
+void ReportReceived(unsigned long long received, unsigned long long total)
 {
-    if (listener.tell != nullptr) {
-        listener.tell(received, total, listener.context);
+    if (listener.report != nullptr) {
+        listener.report(received, total, listener.context);
     }
 }
 

@@ -1,12 +1,12 @@
-// Telling the thread that asked how much of an answer has come.
+// The receive progress of the calling thread's requests.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 namespace PelNet
 {
 
-/// Calls what the thread has set with NET_ORB_SetReceiveProgress, if anything. `total` is 0 when it
-/// is not known.
-void TellReceived(unsigned long long received, unsigned long long total);
+/// Calls what the thread has installed with NET_ORB_SetReceiveProgress, if anything. `total` is 0
+/// if it is unknown.
+void ReportReceived(unsigned long long received, unsigned long long total);
 
 }  // namespace PelNet

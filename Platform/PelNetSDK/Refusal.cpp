@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "PelNetSDK/ErrorNumbers.h"
+#include "PelNetSDK/Limits.h"
 
 namespace PelNet
 {
@@ -49,7 +50,8 @@ std::string_view View(const xmlChar* text)
     return text == nullptr ? std::string_view() : reinterpret_cast<const char*>(text);
 }
 
-/// Keeps what libxml2 reports on this thread from the client's handlers and stderr while it lives.
+/// While it lives, what libxml2 reports on this thread reaches neither the client's handlers nor
+/// stderr.
 class ErrorWatch
 {
 public:
@@ -61,7 +63,7 @@ public:
     [[nodiscard]] bool RanOutOfMemory() const { return ranOutOfMemory_; }
 
 private:
-    // Each one, for any later error takes the place of the last.
+    // Every report counts: a later error replaces the last one.
     static void Note(void* self, xmlErrorPtr error)
     {
         static_cast<ErrorWatch*>(self)->ranOutOfMemory_ |= error->code == XML_ERR_NO_MEMORY;
@@ -79,15 +81,14 @@ std::optional<StatusDocument> ReadXml(const std::string& text)
         text.find('\0') != std::string::npos) {
         return std::nullopt;
     }
-    // Text that begins so is read as UTF-8, whatever it declares: another encoding could hide a
-    // document type. Asked for by name, libxml2 would convert, and read through a null pointer when
-    // memory runs out meanwhile.
+    // Read as UTF-8, whatever it declares: another encoding could hide a document type. If asked
+    // for UTF-8 by name, libxml2 would convert, and crash when memory runs out meanwhile.
     constexpr int kOptions = XML_PARSE_IGNORE_ENC | XML_PARSE_NONET;
     const ErrorWatch errors;
     const std::unique_ptr<xmlDoc, decltype(&xmlFreeDoc)> tree(
         xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, kOptions),
         &xmlFreeDoc);
-    if (errors.RanOutOfMemory()) {  // a tree may lack what there was no memory for
+    if (errors.RanOutOfMemory()) {  // the tree may be incomplete
         throw std::bad_alloc();
     }
     const xmlNode* const root = tree ? xmlDocGetRootElement(tree.get()) : nullptr;
@@ -139,7 +140,7 @@ std::optional<StatusDocument> ReadJson(const std::string& text)
 std::optional<StatusDocument> ReadStatusDocument(const std::string& text)
 {
     const std::size_t begin = text.find_first_not_of("\xEF\xBB\xBF \t\r\n");
-    if (begin == std::string::npos || text.size() > kLongestStatusDocument) {
+    if (begin == std::string::npos || text.size() > limits::kStatusDocument) {
         return std::nullopt;
     }
     const std::string document = text.substr(begin);
@@ -156,16 +157,16 @@ Failure JudgeRefusal(int httpStatus, RequestKind kind,
         failure.deviceCode = document->deviceCode;
         reason = document->subStatusCode;
     }
-    const bool notFound = httpStatus == 404 || httpStatus == 405;
+    const bool isUnknown = httpStatus == 404 || httpStatus == 405;
     if (httpStatus == 401) {
         failure.error = NET_ORB_PASSWORD_ERROR;
     } else if (reason == "invalidChannel") {
         failure.error = NET_ORB_CHANNEL_ERROR;
     } else if (httpStatus == 503 || reason == "deviceBusy") {
         failure.error = NET_ORB_DEVICE_BUSY;
-    } else if (notFound && kind == RequestKind::Ability) {
+    } else if (isUnknown && kind == RequestKind::Ability) {
         failure.error = NET_ORB_ABILITY_FAILED;
-    } else if (notFound || reason == "notSupport") {
+    } else if (isUnknown || reason == "notSupport") {
         failure.error = NET_ORB_NOSUPPORT;
     } else if (httpStatus == 403) {
         failure.error = NET_ORB_NOENOUGHPRI;
@@ -173,6 +174,17 @@ Failure JudgeRefusal(int httpStatus, RequestKind kind,
         failure.error = httpStatus >= 400 && httpStatus < 600 ? NET_ORB_DEVICE_REFUSED
                                                               : NET_ORB_NETWORK_ERRORDATA;
     }
+    return failure;
+}
+
+Failure JudgeRefusal(const TransportAnswer& answer, RequestKind kind,
+                     const std::optional<StatusDocument>& document)
+{
+    Failure failure = JudgeRefusal(answer.status, kind, document);
+    if (answer.status == 401) {
+        failure.error = answer.loginError;
+    }
+    SetFailureDetail(answer.hint);
     return failure;
 }
 

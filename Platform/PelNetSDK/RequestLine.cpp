@@ -3,6 +3,9 @@
 #include "PelNetSDK/RequestLine.h"
 
 #include <array>
+#include <utility>
+
+#include "PelNetSDK/Limits.h"
 
 namespace PelNet
 {
@@ -75,7 +78,9 @@ std::optional<RequestLine> ParseRequestLine(std::string_view line)
     if (!line.starts_with('/') || line.find_first_of("\r\n") != std::string_view::npos) {
         return std::nullopt;
     }
-    return RequestLine{std::string(method), EncodeTarget(line)};
+    RequestLine request{std::string(method), EncodeTarget(line)};
+    return request.target.size() <= limits::kTarget ? std::optional(std::move(request))
+                                                    : std::nullopt;
 }
 
 std::string DecodePath(std::string_view target)

@@ -1,4 +1,4 @@
-// A request line as the library writes it, made fit to travel.
+// A request line as the library writes it, encoded for HTTP.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -20,8 +20,8 @@ struct RequestLine
 
 /// Reads "METHOD /path?query", with or without a line end, up to the first NUL. A line that begins
 /// with '/' is a GET. Bytes that may not stand in a target are percent-encoded; a '%' stays when
-/// two hexadecimal digits follow. Nothing when the target does not begin with '/' or holds a
-/// carriage return or line feed: no header can be smuggled in.
+/// two hexadecimal digits follow. Nothing if the target does not begin with '/', is longer than
+/// limits::kTarget, or holds a carriage return or line feed: no header can be smuggled in.
 [[nodiscard]] std::optional<RequestLine> ParseRequestLine(std::string_view line);
 
 /// The target with percent-encoding undone in the path; the query stays as it is.

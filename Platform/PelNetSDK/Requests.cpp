@@ -6,6 +6,7 @@
 #include <string>
 
 #include "PelNetSDK/Ask.h"
+#include "PelNetSDK/Limits.h"
 #include "PelNetSDK/Session.h"
 
 namespace PelNet
@@ -17,6 +18,12 @@ namespace
 std::string_view View(const void* bytes, unsigned size)
 {
     return size == 0 ? std::string_view() : std::string_view(static_cast<const char*>(bytes), size);
+}
+
+/// Only packages are asked for with a large buffer from the start.
+std::size_t LimitOfRequest(unsigned bufferSize)
+{
+    return bufferSize < limits::kFirstPackageBuffer ? limits::kDocument : limits::kPackage;
 }
 
 int AskRequest(int userID, const tagNET_ORB_XML_CONFIG_INPUT& input,
@@ -33,8 +40,13 @@ int AskRequest(int userID, const tagNET_ORB_XML_CONFIG_INPUT& input,
     const TransportRequest request{*line, View(input.inBuffer, input.inBufferSize),
                                    input.receiveTimeout};
     return Ask(userID, RequestKind::Request, request,
-               {output.outBuffer, output.outBufferSize, output.statusBuffer, output.statusSize,
-                &output.returnedSize, true});
+               {.buffer = output.outBuffer,
+                .size = output.outBufferSize,
+                .limit = LimitOfRequest(output.outBufferSize),
+                .status = output.statusBuffer,
+                .statusSize = output.statusSize,
+                .returned = &output.returnedSize,
+                .returnsStatusSize = true});
 }
 
 int AskStandardAbility(int userID, unsigned code, tagNET_ORB_STD_ABILITY& ability)
@@ -50,11 +62,15 @@ int AskStandardAbility(int userID, unsigned code, tagNET_ORB_STD_ABILITY& abilit
         target += "?channel=" + std::to_string(channel);
     }
     return Ask(userID, RequestKind::Ability, {{"GET", std::move(target)}, {}, 0},
-               {ability.outBuffer, ability.outSize, ability.statusBuffer, ability.statusSize,
-                &ability.returnedSize, false});
+               {.buffer = ability.outBuffer,
+                .size = ability.outSize,
+                .limit = limits::kAbility,
+                .status = ability.statusBuffer,
+                .statusSize = ability.statusSize,
+                .returned = &ability.returnedSize});
 }
 
-/// The device's own map, asked once for each channel and session.
+/// The device's own map, asked once per channel and session.
 int AskChannel(int userID, int channel, int mode)
 {
     const std::shared_ptr<Session> session = SessionTable::Instance().Find(userID);
@@ -64,17 +80,18 @@ int AskChannel(int userID, int channel, int mode)
     if (const auto known = session->KnownChannel(channel, mode)) {
         return *known;
     }
-    char text[16] = {};
+    char text[limits::kChannelNumber] = {};
     unsigned length = 0;
     const std::string target =
         "/TARN/SDK/channels/" + std::to_string(channel) + "?mode=" + std::to_string(mode);
     if (Ask(userID, RequestKind::Request, {{"GET", target}, {}, 0},
-            {text, sizeof text, nullptr, 0, &length, false}) == 0) {
+            {.buffer = text, .size = sizeof text, .limit = sizeof text, .returned = &length}) ==
+        0) {
         switch (LastFailure().error) {
             case NET_ORB_NOSUPPORT:
             case NET_ORB_DEVICE_REFUSED:
                 return Fail(NET_ORB_CHANNEL_ERROR) - 1;
-            case NET_ORB_BUFFER_TOO_SMALL:  // whatever it is, it is no number
+            case NET_ORB_BUFFER_TOO_SMALL:  // not a number then
                 return Fail(NET_ORB_NETWORK_ERRORDATA) - 1;
             default:
                 return -1;
@@ -107,7 +124,8 @@ extern "C" int NET_ORB_GetDeviceAbility(int userID, unsigned int abilityType, ch
             {"POST", "/TARN/SDK/deviceAbility/" + std::to_string(abilityType)},
             View(inBuffer, inLength),
             0};
-        return Ask(userID, RequestKind::Ability, request, {outBuffer, outLength});
+        return Ask(userID, RequestKind::Ability, request,
+                   {.buffer = outBuffer, .size = outLength, .limit = limits::kAbility});
     });
 }
 

@@ -8,13 +8,7 @@
 namespace PelNet
 {
 
-namespace
-{
-// More channels than any device has; a caller that counts through all integers fills no memory.
-constexpr std::size_t kMostChannels = 4096;
-}  // namespace
-
-void Session::Keep(const TransportRequest& request, std::size_t bufferSize, AnswerBody&& body)
+void Session::Keep(KeptAnswer::Content&& content)
 {
     const std::shared_ptr<KeptAnswer>& slot = KeptAnswer::OfThisThread();
     const std::lock_guard lock(mutex_);
@@ -27,7 +21,7 @@ void Session::Keep(const TransportRequest& request, std::size_t bufferSize, Answ
     if (!known) {
         slots_.push_back(slot);
     }
-    slot->Keep(*this, request, bufferSize, std::move(body));
+    slot->Keep(std::move(content));
 }
 
 std::optional<int> Session::KnownChannel(int channel, int mode) const
@@ -40,7 +34,7 @@ std::optional<int> Session::KnownChannel(int channel, int mode) const
 void Session::LearnChannel(int channel, int mode, int number)
 {
     const std::lock_guard lock(mutex_);
-    if (channels_.size() < kMostChannels) {
+    if (channels_.size() < limits::kChannels) {
         channels_[{channel, mode}] = number;
     }
 }

@@ -1,4 +1,4 @@
-// Logged-in devices and the user IDs they are known by.
+// Logged-in devices and their user IDs.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,13 +11,14 @@
 #include <vector>
 
 #include "PelNetSDK/KeptAnswer.h"
+#include "PelNetSDK/Limits.h"
 #include "PelNetSDK/Transport.h"
 
 namespace PelNet
 {
 
-/// One logged-in device. Calls hold a session by shared pointer, so a logout never takes it from
-/// under them.
+/// One logged-in device. Calls hold a shared pointer, so a session outlives its logout while they
+/// run.
 class Session
 {
 public:
@@ -30,9 +31,9 @@ public:
     }
 
     /// Keeps an answer for the calling thread until it asks again, ends, or the session closes.
-    void Keep(const TransportRequest& request, std::size_t bufferSize, AnswerBody&& body);
+    void Keep(KeptAnswer::Content&& content);
 
-    /// The protocol's number of an SDK channel, as learned before.
+    /// The protocol's number of an SDK channel, if the device has told it.
     [[nodiscard]] std::optional<int> KnownChannel(int channel, int mode) const;
     void LearnChannel(int channel, int mode, int number);
 
@@ -51,16 +52,16 @@ private:
 class SessionTable
 {
 public:
-    static constexpr int kCapacity = 512;
+    static constexpr int kCapacity = limits::kUsers;
 
     /// The table of the process. It is never destroyed: threads may still call at exit.
     static SessionTable& Instance();
 
-    /// The user ID, or -1 when all are in use. An ID that was given back is used again as late as
+    /// The user ID, or -1 if all are in use. An ID that was given back is reused as late as
     /// possible.
     int Add(std::shared_ptr<Session> session);
     [[nodiscard]] bool Full() const;
-    /// Null when nobody is logged in under the ID.
+    /// Null if the ID is not logged in.
     [[nodiscard]] std::shared_ptr<Session> Find(int userID) const;
     std::shared_ptr<Session> Remove(int userID);
 
@@ -69,7 +70,7 @@ private:
 
     mutable std::mutex mutex_;
     std::array<std::shared_ptr<Session>, kCapacity> sessions_;
-    // Free IDs as a ring: given back at the end, taken at the front.
+    // Free IDs in a ring: returned at the end, taken from the front.
     std::array<int, kCapacity> free_{};
     std::size_t firstFree_ = 0;
     std::size_t freeCount_ = kCapacity;

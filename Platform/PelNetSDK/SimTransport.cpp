@@ -11,22 +11,33 @@
 namespace PelNet
 {
 
+namespace
+{
+
+unsigned ErrorOf(TransportAnswer::Taken taken)
+{
+    return taken == TransportAnswer::Taken::TooLarge ? NET_ORB_ANSWER_TOO_LARGE : NET_ORB_NOERROR;
+}
+
+}  // namespace
+
 // A body made on demand is taken block by block, so that it is held once.
-unsigned SimTransport::Receive(Device::BodySource& source, AnswerBody& body) const
+unsigned SimTransport::Receive(Device::BodySource& source, TransportAnswer& answer) const
 {
     std::array<char, 65536> block;
-    body.Clear();
-    if (source.Size() > body.Limit()) {
+    answer.announcedSize = source.Size();
+    if (answer.IsSuccess() && source.Size() > answer.limit) {
         return NET_ORB_ANSWER_TOO_LARGE;
     }
     while (const size_t count = source.Read(block.data(), block.size())) {
         if (cancelled_) {
             return NET_ORB_CANCELLED;
         }
-        if (!body.Append(block.data(), count)) {
-            return NET_ORB_ANSWER_TOO_LARGE;
+        if (const auto taken = answer.Take(block.data(), count);
+            taken != TransportAnswer::Taken::Whole) {
+            return ErrorOf(taken);
         }
-        TellReceived(body.Size(), source.Size());
+        ReportReceived(answer.body.Size(), source.Size());
     }
     return NET_ORB_NOERROR;
 }
@@ -44,9 +55,10 @@ unsigned SimTransport::Exchange(const TransportRequest& request, TransportAnswer
     }
     answer.status = response.status;
     if (response.source) {
-        return Receive(*response.source, answer.body);
+        return Receive(*response.source, answer);
     }
-    return answer.body.Adopt(std::move(response.body)) ? NET_ORB_NOERROR : NET_ORB_ANSWER_TOO_LARGE;
+    answer.announcedSize = response.body.size();
+    return ErrorOf(answer.Take(std::move(response.body)));
 }
 
 }  // namespace PelNet

@@ -23,7 +23,7 @@ public:
     void Cancel() noexcept override { cancelled_ = true; }
 
 private:
-    unsigned Receive(Device::BodySource& source, AnswerBody& body) const;
+    unsigned Receive(Device::BodySource& source, TransportAnswer& answer) const;
 
     const std::shared_ptr<Device::DeviceModel> device_;
     std::atomic<bool> cancelled_{false};

@@ -1,0 +1,61 @@
+// Judging libcurl's failures.
+// SPDX-License-Identifier: Apache-2.0
+#include "PelNetSDK/HttpFault.h"
+
+#include "PelNetSDK/ErrorNumbers.h"
+
+namespace PelNet
+{
+
+namespace
+{
+
+unsigned ErrorOf(CURLcode code, bool wasSent)
+{
+    switch (code) {
+        case CURLE_COULDNT_RESOLVE_HOST:
+            return NET_ORB_DNS_FAILED;
+        case CURLE_COULDNT_CONNECT:
+            return NET_ORB_NETWORK_FAIL_CONNECT;
+        case CURLE_OPERATION_TIMEDOUT:
+            return wasSent ? NET_ORB_NETWORK_RECV_TIMEOUT : NET_ORB_NETWORK_FAIL_CONNECT;
+        case CURLE_PEER_FAILED_VERIFICATION:
+        case CURLE_SSL_CACERT_BADFILE:
+        case CURLE_SSL_ISSUER_ERROR:
+            return NET_ORB_CERTIFICATE_ERROR;
+        case CURLE_SSL_CONNECT_ERROR:
+        case CURLE_SSL_CIPHER:
+        case CURLE_SSL_CERTPROBLEM:
+        case CURLE_USE_SSL_FAILED:
+            return NET_ORB_TLS_FAILED;
+        case CURLE_SEND_ERROR:
+        case CURLE_SEND_FAIL_REWIND:
+            return NET_ORB_NETWORK_SEND_ERROR;
+        case CURLE_UNSUPPORTED_PROTOCOL:
+        case CURLE_WEIRD_SERVER_REPLY:
+        case CURLE_BAD_CONTENT_ENCODING:
+            return NET_ORB_NETWORK_ERRORDATA;
+        case CURLE_OUT_OF_MEMORY:
+            return NET_ORB_ALLOC_RESOURCE_ERROR;
+        default:
+            return NET_ORB_NETWORK_RECV_ERROR;
+    }
+}
+
+bool Mentions(std::string_view text, std::string_view words)
+{
+    return text.find(words) != std::string_view::npos;
+}
+
+}  // namespace
+
+HttpFault JudgeTransfer(CURLcode code, std::string_view text, bool wasSent)
+{
+    HttpFault fault{ErrorOf(code, wasSent), std::string(text)};
+    if (Mentions(text, "in chunked-encoding")) {
+        fault = {NET_ORB_NETWORK_ERRORDATA, "the server's chunks are malformed"};
+    }
+    return fault;
+}
+
+}  // namespace PelNet
