@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <chrono>
 #include <cstring>
+#include <filesystem>
+#include <stdexcept>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -111,6 +113,27 @@ TEST_P(PackageTest, TheThreadThatAsksHearsHowMuchHasCome)
     ASSERT_FALSE(heard.empty());
     EXPECT_EQ(heard.back(), std::pair(1ULL << 20, 1ULL << 20));
     EXPECT_TRUE(std::ranges::is_sorted(heard));
+}
+
+TEST_P(PackageTest, AProgressCallbackThatThrowsEndsTheRequestAndLeaksNothing)
+{
+    const Asked recorder = Login("recorder");
+    const auto openFiles = [] {
+        return std::ranges::distance(std::filesystem::directory_iterator("/proc/self/fd"));
+    };
+    const auto before = openFiles();
+    NET_ORB_SetReceiveProgress(
+        [](unsigned long long, unsigned long long, void*) { throw std::runtime_error("enough"); },
+        nullptr);
+    for (int i = 0; i < 5; ++i) {
+        const Fetched fetched = FetchTask(recorder, "pkg-1M");
+        EXPECT_TRUE(!fetched.success && fetched.isUntouched);
+        EXPECT_EQ(fetched.error, NET_ORB_CALLBACK_FAILED);
+        EXPECT_STREQ(NET_ORB_GetLastErrorDetail(), "enough");
+    }
+    NET_ORB_SetReceiveProgress(nullptr, nullptr);
+    EXPECT_TRUE(FetchTask(recorder, "pkg-1M").success);
+    EXPECT_LE(openFiles(), before + 5) << "connections of a server in this process";
 }
 
 TEST(PackageHttpTest, OneRequestReachesTheDevice)

@@ -22,6 +22,7 @@
 #define NET_ORB_DNS_FAILED 73u           /* the host name cannot be resolved */
 #define NET_ORB_CANCELLED 74u            /* logged out while the request ran */
 #define NET_ORB_NO_SUCH_PROFILE 75u      /* the simulated device has no such profile */
+#define NET_ORB_CALLBACK_FAILED 76u      /* the progress callback threw an exception */
 #define NET_ORB_CERTIFICATE_ERROR 147u   /* the device's certificate cannot be trusted */
 #define NET_ORB_TLS_FAILED 148u          /* no secure connection could be made */
 #define NET_ORB_ANSWER_TOO_LARGE 149u    /* the answer is larger than any the SDK accepts */

@@ -355,8 +355,11 @@ int HttpConnection::OnProgress(void* self, curl_off_t total, curl_off_t now, cur
         connection.stopped_ = NET_ORB_CANCELLED;
         return 1;
     }
-    ReportReceived(static_cast<unsigned long long>(now),
-                        static_cast<unsigned long long>(total));
+    if (!ReportReceived(static_cast<unsigned long long>(now),
+                        static_cast<unsigned long long>(total))) {
+        connection.stopped_ = NET_ORB_CALLBACK_FAILED;
+        return 1;
+    }
     return 0;
 }
 

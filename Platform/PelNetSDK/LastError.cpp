@@ -47,6 +47,7 @@ constexpr std::pair<unsigned, const char*> kTexts[] = {
     {NET_ORB_DNS_FAILED, "the host name cannot be resolved"},
     {NET_ORB_CANCELLED, "the session was logged out while the request ran"},
     {NET_ORB_NO_SUCH_PROFILE, "the simulated device has no such profile"},
+    {NET_ORB_CALLBACK_FAILED, "the progress callback threw an exception"},
     {NET_ORB_CERTIFICATE_ERROR, "the device's certificate cannot be trusted"},
     {NET_ORB_TLS_FAILED, "no secure connection could be made"},
     {NET_ORB_ANSWER_TOO_LARGE, "the answer is larger than any the SDK accepts"},

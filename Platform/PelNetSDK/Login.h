@@ -52,7 +52,8 @@ extern "C"
     PELNETSDK_API const char* NET_ORB_GetLastErrorDetail(void);
 
     /* Called with the bytes of an answer received so far; `total` is 0 while it is unknown. Runs on
-     * the thread that sent the request, many times per answer, and must not call the SDK. */
+     * the thread that sent the request, many times per answer, and must not call the SDK. An
+     * exception that it throws ends the request with NET_ORB_CALLBACK_FAILED. */
     typedef void (*NET_ORB_RECEIVE_PROGRESS)(unsigned long long received, unsigned long long total,
                                              void* context);
 

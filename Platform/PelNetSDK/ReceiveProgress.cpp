@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PelNetSDK/ReceiveProgress.h"
 
+#include <exception>
+
+#include "PelNetSDK/LastError.h"
 #include "PelNetSDK/Login.h"
 
 namespace PelNet
@@ -20,11 +23,17 @@ thread_local Listener listener;
 
 }  // namespace
 
-void ReportReceived(unsigned long long received, unsigned long long total)
-{
+bool ReportReceived(unsigned long long received, unsigned long long total) noexcept
+try {
     if (listener.report != nullptr) {
         listener.report(received, total, listener.context);
     }
+    return true;
+} catch (const std::exception& exception) {
+    SetFailureDetail(exception.what());
+    return false;
+} catch (...) {
+    return false;
 }
 
 }  // namespace PelNet

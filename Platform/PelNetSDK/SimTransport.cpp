@@ -37,7 +37,9 @@ unsigned SimTransport::Receive(Device::BodySource& source, TransportAnswer& answ
             taken != TransportAnswer::Taken::Whole) {
             return ErrorOf(taken);
         }
-        ReportReceived(answer.body.Size(), source.Size());
+        if (!ReportReceived(answer.body.Size(), source.Size())) {
+            return NET_ORB_CALLBACK_FAILED;
+        }
     }
     return NET_ORB_NOERROR;
 }
