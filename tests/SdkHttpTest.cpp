@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
+#include <dlfcn.h>
+#include <netdb.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -65,6 +67,9 @@ ScriptedServer::Script Digest(std::string body)
     };
 }
 
+constexpr const char* kSilentAddress = "http://silent.invalid";
+std::atomic<bool> resolverMayEnd{false};
+
 class SdkHttp : public testing::Test
 {
 protected:
@@ -106,6 +111,20 @@ std::size_t CountOf(const ScriptedServer& server, const char* part)
 }
 
 }  // namespace
+
+/// A resolver that does not answer for one host.
+int getaddrinfo(const char* node, const char* service, const addrinfo* hints, addrinfo** result)
+{
+    if (node != nullptr && Holds(kSilentAddress, node)) {
+        while (!resolverMayEnd) {
+            std::this_thread::sleep_for(20ms);
+        }
+        return EAI_FAIL;
+    }
+    static const auto next =
+        reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
+    return next(node, service, hints, result);
+}
 
 TEST_F(SdkHttp, RequestLineTravelsAsItStandsAndSmugglesNothing)
 {
@@ -516,6 +535,20 @@ TEST_F(SdkHttp, RefusedConnectionIsToldAtOnce)
     EXPECT_EQ(NET_ORB_GetLastError(), NET_ORB_NETWORK_FAIL_CONNECT);
     EXPECT_THAT(NET_ORB_GetLastErrorDetail(), HasSubstr("127.0.0.1"));
     close(socket);
+}
+
+TEST_F(SdkHttp, SilentResolverIsNotWaitedForBeyondEitherTimeout)
+{
+    info_.address = kSilentAddress;
+    for (const auto& [connect, receive] : {std::pair(300U, 60'000U), {60'000U, 300U}}) {
+        info_.connectTimeout = connect;
+        info_.receiveTimeout = receive;
+        const auto begin = std::chrono::steady_clock::now();
+        EXPECT_EQ(NET_ORB_Login(&info_), -1);
+        EXPECT_EQ(NET_ORB_GetLastError(), NET_ORB_DNS_FAILED) << NET_ORB_GetLastErrorDetail();
+        EXPECT_LT(std::chrono::steady_clock::now() - begin, 20s);
+    }
+    resolverMayEnd = true;
 }
 
 TEST_F(SdkHttp, LogoutEndsRunningRequests)

@@ -103,6 +103,7 @@ void HttpConnection::SetTransport(const HttpSettings& settings)
     Set(CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
     Set(CURLOPT_PROXY, "");  // never reach a device through the environment's proxy
     Set(CURLOPT_NOSIGNAL, 1L);
+    Set(CURLOPT_QUICK_EXIT, 1L);  // do not wait for a resolver beyond the time-out
     Set(CURLOPT_FOLLOWLOCATION, 0L);
     Set(CURLOPT_PATH_AS_IS, 1L);
     Set(CURLOPT_MAXCONNECTS, 1L);
@@ -274,7 +275,7 @@ unsigned HttpConnection::Judge(CURLcode code)
         }
         return stopped_;
     }
-    const HttpFault fault = JudgeTransfer(code, detail_.data(), requestsSent_ > 0);
+    const HttpFault fault = JudgeTransfer(handle_.get(), code, detail_.data(), requestsSent_ > 0);
     SetFailureDetail(fault.detail);
     return fault.error;
 }

@@ -10,7 +10,16 @@ namespace PelNet
 namespace
 {
 
-unsigned ErrorOf(CURLcode code, bool wasSent)
+unsigned ErrorOfTimeout(CURL* handle, bool wasSent)
+{
+    curl_off_t lookup = 0;
+    curl_easy_getinfo(handle, CURLINFO_NAMELOOKUP_TIME_T, &lookup);
+    return wasSent       ? NET_ORB_NETWORK_RECV_TIMEOUT
+           : lookup == 0 ? NET_ORB_DNS_FAILED
+                         : NET_ORB_NETWORK_FAIL_CONNECT;
+}
+
+unsigned ErrorOf(CURL* handle, CURLcode code, bool wasSent)
 {
     switch (code) {
         case CURLE_COULDNT_RESOLVE_HOST:
@@ -18,7 +27,7 @@ unsigned ErrorOf(CURLcode code, bool wasSent)
         case CURLE_COULDNT_CONNECT:
             return NET_ORB_NETWORK_FAIL_CONNECT;
         case CURLE_OPERATION_TIMEDOUT:
-            return wasSent ? NET_ORB_NETWORK_RECV_TIMEOUT : NET_ORB_NETWORK_FAIL_CONNECT;
+            return ErrorOfTimeout(handle, wasSent);
         case CURLE_PEER_FAILED_VERIFICATION:
         case CURLE_SSL_CACERT_BADFILE:
         case CURLE_SSL_ISSUER_ERROR:
@@ -49,9 +58,9 @@ bool Mentions(std::string_view text, std::string_view words)
 
 }  // namespace
 
-HttpFault JudgeTransfer(CURLcode code, std::string_view text, bool wasSent)
+HttpFault JudgeTransfer(CURL* handle, CURLcode code, std::string_view text, bool wasSent)
 {
-    HttpFault fault{ErrorOf(code, wasSent), std::string(text)};
+    HttpFault fault{ErrorOf(handle, code, wasSent), std::string(text)};
     if (Mentions(text, "in chunked-encoding")) {
         fault = {NET_ORB_NETWORK_ERRORDATA, "the server's chunks are malformed"};
     }

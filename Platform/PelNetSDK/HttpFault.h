@@ -18,8 +18,8 @@ struct HttpFault
 };
 
 /// What libcurl's number amounts to. `text` is libcurl's own about it; `wasSent` tells whether a
-/// request had left. Throws std::bad_alloc.
-[[nodiscard]] HttpFault JudgeTransfer(CURLcode code, std::string_view text,
+/// request had left. `handle` is the transfer's. Throws std::bad_alloc.
+[[nodiscard]] HttpFault JudgeTransfer(CURL* handle, CURLcode code, std::string_view text,
                                       bool wasSent);
 
 }  // namespace PelNet
