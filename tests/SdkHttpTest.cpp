@@ -345,6 +345,13 @@ TEST_F(SdkHttp, ChannelMapOfNonsenseIsNoChannel)
         EXPECT_EQ(NET_ORB_SDKChannelToTARN(device.UserID(), 1, 1), -1) << text.substr(0, 20);
         EXPECT_EQ(NET_ORB_GetLastError(), error) << text.substr(0, 20);
     }
+    for (const auto& [code, error] :
+         {std::pair(404, NET_ORB_NOSUPPORT), {431, NET_ORB_DEVICE_REFUSED}}) {
+        status = code;
+        EXPECT_EQ(NET_ORB_SDKChannelToTARN(device.UserID(), 1, 1), -1) << code;
+        EXPECT_EQ(NET_ORB_GetLastError(), error) << "a refusal keeps its own number";
+    }
+    status = 200;
     answer = "7\r\n";
     EXPECT_EQ(NET_ORB_SDKChannelToTARN(device.UserID(), 1, 1), 7);
 }

@@ -87,15 +87,9 @@ int AskChannel(int userID, int channel, int mode)
     if (Ask(userID, RequestKind::Request, {{"GET", target}, {}, 0},
             {.buffer = text, .size = sizeof text, .limit = sizeof text, .returned = &length}) ==
         0) {
-        switch (LastFailure().error) {
-            case NET_ORB_NOSUPPORT:
-            case NET_ORB_DEVICE_REFUSED:
-                return Fail(NET_ORB_CHANNEL_ERROR) - 1;
-            case NET_ORB_BUFFER_TOO_SMALL:  // not a number then
-                return Fail(NET_ORB_NETWORK_ERRORDATA) - 1;
-            default:
-                return -1;
-        }
+        // What does not fit is not a number.
+        return LastFailure().error == NET_ORB_BUFFER_TOO_SMALL ? Fail(NET_ORB_NETWORK_ERRORDATA) - 1
+                                                               : -1;
     }
     int number = -1;
     const auto parsed = std::from_chars(text, text + length, number);
