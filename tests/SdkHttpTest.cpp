@@ -325,6 +325,10 @@ TEST_F(SdkHttp, LoginWantsADeviceNotJustAnyWebServer)
         });
         EXPECT_EQ(LoginError(server), c.error) << c.status << ' ' << c.body.substr(0, 200);
         EXPECT_EQ(server.Requests().size(), 1U) << "redirects are not followed";
+        if (c.status == 301) {
+            EXPECT_STREQ(NET_ORB_GetLastErrorDetail(),
+                         "the server redirects to https://there/; use its address");
+        }
     }
 }
 
@@ -395,7 +399,9 @@ TEST_F(SdkHttp, RefusalsAreTold)
          NET_ORB_DEVICE_REFUSED, 9, 12},
         {404, "gone", NET_ORB_NOSUPPORT, 0},
         {405, "", NET_ORB_NOSUPPORT, 0},
+        {501, "", NET_ORB_NOSUPPORT, 0},
         {503, "", NET_ORB_DEVICE_BUSY, 0},
+        {429, "", NET_ORB_DEVICE_BUSY, 0},
         {300, "", NET_ORB_NETWORK_ERRORDATA, 0},
         {500, std::string(200, '{'), NET_ORB_DEVICE_REFUSED, 0},
         {500, "<!DOCTYPE r [<!ENTITY e SYSTEM 'file:///etc/passwd'>]>" + xml("&e;", "7"),
@@ -648,6 +654,13 @@ TEST_F(SdkHttp, CertificatesAreChecked)
     EXPECT_EQ(CountOf(server, "Authorization:"), 1U);
     info_.allowBasic = 1;
     EXPECT_EQ(LoginError(server), 0U);
+    SSL_CTX_set_verify(certificate.Context(), SSL_VERIFY_PEER | SSL_VERIFY_FAIL_IF_NO_PEER_CERT,
+                       nullptr);
+    for (const int version : {TLS1_3_VERSION, TLS1_2_VERSION}) {
+        SSL_CTX_set_max_proto_version(certificate.Context(), version);
+        EXPECT_EQ(LoginError(server), NET_ORB_TLS_FAILED);
+        EXPECT_THAT(NET_ORB_GetLastErrorDetail(), HasSubstr("require")) << "a client certificate";
+    }
     SSL_CTX_set_max_proto_version(certificate.Context(), TLS1_1_VERSION);
     EXPECT_EQ(LoginError(server), NET_ORB_TLS_FAILED) << "no version in common";
 }

@@ -37,6 +37,7 @@ void AnswerHead::Clear() noexcept
 {
     bytes_ = 0;
     status_ = 0;
+    location_.clear();
     challenges_.Clear();
     fault_.clear();
 }
@@ -70,6 +71,8 @@ bool AnswerHead::TakeField(std::string_view name, std::string_view value)
 {
     if (SameIgnoringCase(name, "WWW-Authenticate")) {
         challenges_.Add(value);
+    } else if (SameIgnoringCase(name, "Location")) {
+        location_ = Printable(value);
     }
     return true;
 }

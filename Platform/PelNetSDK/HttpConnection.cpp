@@ -168,7 +168,29 @@ unsigned HttpConnection::Exchange(const TransportRequest& request, TransportAnsw
         error = Perform(request, answer, deadline);
     }
     answer.passwordChecked = KnowsChallenge() && answer.status != 401;
+    if (answer.hint.empty()) {
+        answer.hint = HintOf(answer);
+    }
     return error;
+}
+
+/// What a person should know of a refusal that says nothing in the protocol's own words.
+std::string HttpConnection::HintOf(const TransportAnswer& answer) const
+{
+    if (answer.status >= 300 && answer.status < 400 && !head_.Location().empty()) {
+        return "the server redirects to " + head_.Location() + "; use its address";
+    }
+    if (answer.status == 400) {
+        constexpr std::size_t kTitle = 512;  // web servers explain it in the title of a page
+        const std::string page = answer.body.Head(kTitle);
+        if (page.find("No required SSL certificate") != std::string::npos) {
+            return "the server requires a client certificate, and the SDK has none to send";
+        }
+        if (page.find("plain HTTP request was sent to HTTPS port") != std::string::npos) {
+            return "the server expects https://";
+        }
+    }
+    return {};
 }
 
 /// Chooses how to answer the device's first challenge. False if there is no answer to it.

@@ -55,6 +55,7 @@ private:
     unsigned Judge(CURLcode code);
     [[nodiscard]] bool TakeChallenge(TransportAnswer& answer);
     [[nodiscard]] std::string WhyNoLogin() const;
+    [[nodiscard]] std::string HintOf(const TransportAnswer& answer) const;
     [[nodiscard]] int Status() const;
     [[nodiscard]] bool TakeBody(const char* bytes, std::size_t count);
     [[nodiscard]] bool TakeHeader(std::string_view line);

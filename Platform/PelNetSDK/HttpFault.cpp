@@ -63,6 +63,11 @@ HttpFault JudgeTransfer(CURL* handle, CURLcode code, std::string_view text, bool
     HttpFault fault{ErrorOf(handle, code, wasSent), std::string(text)};
     if (Mentions(text, "in chunked-encoding")) {
         fault = {NET_ORB_NETWORK_ERRORDATA, "the server's chunks are malformed"};
+    } else if (Mentions(text, "alert certificate required")) {
+        fault = {NET_ORB_TLS_FAILED,
+                 "the server requires a client certificate, and the SDK has none to send"};
+    } else if (Mentions(text, "alert handshake failure")) {
+        fault.detail += "; the server may require a client certificate, and the SDK has none";
     }
     return fault;
 }

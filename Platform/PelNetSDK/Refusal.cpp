@@ -157,12 +157,12 @@ Failure JudgeRefusal(int httpStatus, RequestKind kind,
         failure.deviceCode = document->deviceCode;
         reason = document->subStatusCode;
     }
-    const bool isUnknown = httpStatus == 404 || httpStatus == 405;
+    const bool isUnknown = httpStatus == 404 || httpStatus == 405 || httpStatus == 501;
     if (httpStatus == 401) {
         failure.error = NET_ORB_PASSWORD_ERROR;
     } else if (reason == "invalidChannel") {
         failure.error = NET_ORB_CHANNEL_ERROR;
-    } else if (httpStatus == 503 || reason == "deviceBusy") {
+    } else if (httpStatus == 503 || httpStatus == 429 || reason == "deviceBusy") {
         failure.error = NET_ORB_DEVICE_BUSY;
     } else if (isUnknown && kind == RequestKind::Ability) {
         failure.error = NET_ORB_ABILITY_FAILED;
