@@ -446,6 +446,7 @@ TEST_F(SdkHttp, BrokenAnswersEndInTimeWithTheirOwnNumbers)
         {"interim answers", {many("HTTP/1.1 100 Continue\r\n\r\n")}, NET_ORB_NETWORK_ERRORDATA},
         {"headers", {head + many("X: y\r\n")}, NET_ORB_NETWORK_ERRORDATA},
         {"folded headers", {head + "X: y\r\n" + many(" z\r\n")}, NET_ORB_NETWORK_ERRORDATA},
+        {"one header", {head + "X: " + std::string(300'000, 'x')}, NET_ORB_NETWORK_ERRORDATA},
         {"trailers",
          {head + "Transfer-Encoding: chunked\r\n\r\n0\r\n" + many("X: y\r\n")},
          NET_ORB_NETWORK_ERRORDATA},

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PelNetSDK/HttpFault.h"
 
+#include <memory>
+
 #include "PelNetSDK/ErrorNumbers.h"
 
 namespace PelNet
@@ -17,6 +19,17 @@ unsigned ErrorOfTimeout(CURL* handle, bool wasSent)
     return wasSent       ? NET_ORB_NETWORK_RECV_TIMEOUT
            : lookup == 0 ? NET_ORB_DNS_FAILED
                          : NET_ORB_NETWORK_FAIL_CONNECT;
+}
+
+/// libcurl reports a header line without an end, which fills a buffer of its own, as a failed
+/// allocation. It is one only if the same memory cannot be had now.
+bool IsMemoryShort(CURL* handle)
+{
+    constexpr int kLongestLine = 100 * 1024;
+    const std::string text(kLongestLine, 'x');
+    const std::unique_ptr<char, decltype(&curl_free)> copy(
+        curl_easy_unescape(handle, text.data(), kLongestLine, nullptr), &curl_free);
+    return copy == nullptr;
 }
 
 unsigned ErrorOf(CURL* handle, CURLcode code, bool wasSent)
@@ -45,7 +58,8 @@ unsigned ErrorOf(CURL* handle, CURLcode code, bool wasSent)
         case CURLE_BAD_CONTENT_ENCODING:
             return NET_ORB_NETWORK_ERRORDATA;
         case CURLE_OUT_OF_MEMORY:
-            return NET_ORB_ALLOC_RESOURCE_ERROR;
+            return wasSent && !IsMemoryShort(handle) ? NET_ORB_NETWORK_ERRORDATA
+                                                     : NET_ORB_ALLOC_RESOURCE_ERROR;
         default:
             return NET_ORB_NETWORK_RECV_ERROR;
     }
@@ -61,7 +75,9 @@ bool Mentions(std::string_view text, std::string_view words)
 HttpFault JudgeTransfer(CURL* handle, CURLcode code, std::string_view text, bool wasSent)
 {
     HttpFault fault{ErrorOf(handle, code, wasSent), std::string(text)};
-    if (Mentions(text, "in chunked-encoding")) {
+    if (code == CURLE_OUT_OF_MEMORY && fault.error == NET_ORB_NETWORK_ERRORDATA) {
+        fault.detail = "the server sends a header line without an end";
+    } else if (Mentions(text, "in chunked-encoding")) {
         fault = {NET_ORB_NETWORK_ERRORDATA, "the server's chunks are malformed"};
     } else if (Mentions(text, "alert certificate required")) {
         fault = {NET_ORB_TLS_FAILED,
