@@ -37,6 +37,7 @@ void AnswerHead::Clear() noexcept
 {
     bytes_ = 0;
     status_ = 0;
+    encoding_.clear();
     location_.clear();
     challenges_.Clear();
     fault_.clear();
@@ -73,6 +74,21 @@ bool AnswerHead::TakeField(std::string_view name, std::string_view value)
         challenges_.Add(value);
     } else if (SameIgnoringCase(name, "Location")) {
         location_ = Printable(value);
+    } else if (SameIgnoringCase(name, "Content-Encoding")) {
+        if (!value.empty() && !SameIgnoringCase(value, "identity")) {
+            encoding_ = Printable(value);
+        }
+    } else if (SameIgnoringCase(name, "Transfer-Encoding")) {
+        // libcurl would undo any chain of compressions, each of which can expand a thousandfold.
+        if (!SameIgnoringCase(value, "chunked") && !SameIgnoringCase(value, "identity")) {
+            encoding_ = Printable(value);
+            fault_ = "the server compresses its answer (" + encoding_ + ") without being asked to";
+            return false;
+        }
+    }
+    if (IsEncoded() && status_ >= 200 && status_ < 300) {
+        fault_ = "the server compresses its answer (" + encoding_ + ") without being asked to";
+        return false;
     }
     return true;
 }

@@ -24,6 +24,7 @@ public:
     /// True for the status line of an answer that is not an interim one (100 Continue).
     [[nodiscard]] static bool IsFinalStatus(std::string_view line);
 
+    [[nodiscard]] bool IsEncoded() const { return !encoding_.empty(); }
     [[nodiscard]] const std::string& Location() const { return location_; }
     [[nodiscard]] const Challenges& Offered() const { return challenges_; }
     [[nodiscard]] const std::string& Fault() const { return fault_; }
@@ -33,6 +34,7 @@ private:
 
     std::size_t bytes_ = 0;  ///< of all heads since Clear()
     int status_ = 0;
+    std::string encoding_;
     std::string location_;
     Challenges challenges_;
     std::string fault_;

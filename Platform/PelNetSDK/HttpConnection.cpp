@@ -53,6 +53,9 @@ HeaderList HeadersOf(const TransportRequest& request)
     HeaderList headers(nullptr, &curl_slist_free_all);
     // An "Expect: 100-continue" costs an interim answer, and some devices never send it.
     AddHeader(headers, "Expect:");
+    // Without it a server may compress. Documents are small and devices near, and a compressed
+    // answer could expand a thousandfold.
+    AddHeader(headers, "Accept-Encoding: identity");
     AddHeader(headers, ContentTypeHeader(request));
     return headers;
 }
@@ -267,6 +270,9 @@ unsigned HttpConnection::Perform(const TransportRequest& request, TransportAnswe
     curl_easy_getinfo(handle_.get(), CURLINFO_NUM_CONNECTS, &opened);
     counters.connections += static_cast<unsigned long long>(std::max(opened, 0L));
     answer.status = Status();
+    if (head_.IsEncoded()) {  // of a refusal: its text cannot be read
+        answer.body.Clear();
+    }
     // What they point at ends with this call.
     Set(CURLOPT_POSTFIELDS, "");
     Set(CURLOPT_HTTPHEADER, static_cast<curl_slist*>(nullptr));
