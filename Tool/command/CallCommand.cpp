@@ -64,7 +64,8 @@ Reply Send(int userID, std::string line, std::string body, unsigned int timeout)
     input.inBufferSize = static_cast<unsigned int>(body.size());
     input.receiveTimeout = timeout;
     std::vector<char> status(65536);
-    for (Buffer buffer(65536);;) {
+    // For a buffer of 1 MiB the SDK reads packages too.
+    for (Buffer buffer(1u << 20);;) {
         tagNET_ORB_XML_CONFIG_OUTPUT output{};
         output.size = sizeof output;
         output.outBuffer = buffer.data.get();

@@ -79,8 +79,7 @@ std::string Hint(const SdkFailure& failure)
 {
     switch (failure.error) {
         case NET_ORB_PASSWORD_ERROR:
-            // If the server offers nothing that the password may be used for, none was sent.
-            return Mentions(failure, {"offer"})
+            return Mentions(failure, {"none was given"})
                        ? ""
                        : "; the password was tried once, so that the device does not lock the user "
                          "out";
@@ -108,6 +107,7 @@ bool MeansUnreachable(unsigned int error)
         case NET_ORB_CANCELLED:
         case NET_ORB_CERTIFICATE_ERROR:
         case NET_ORB_TLS_FAILED:
+        case NET_ORB_AUTH_UNSUPPORTED:
             return true;
         default:
             return false;
