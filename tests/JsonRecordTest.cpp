@@ -306,7 +306,7 @@ TEST(JsonRecordTest, TellsOperationsThatMemoryRanOutWhateverIsThrownForIt)
     const char* out =
         "in Json::Value::duplicateStringValue(): Failed to allocate string value buffer";
     EXPECT_NO_THROW(read(out));
-    const json::OperationScope scope;
+    const ThrowScope scope;
     EXPECT_THROW(read(out), std::bad_alloc);
     EXPECT_NO_THROW(read("Exceeded stackLimit in readValue()."));
 }

@@ -1,11 +1,11 @@
-// The record of a family whose members are the device's own.
+// The record of a family whose elements differ from device to device.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/AbilityDocument.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "CapabilitySet/private/xml/XmlDocument.h"
+#include "CapabilitySet/private/xml/XmlReading.h"
 
 namespace CapabilitySet
 {
@@ -84,12 +84,6 @@ const std::string& AbilityElement::Attribute(std::string_view attribute) const
         std::find_if(attributes.begin(), attributes.end(),
                      [attribute](const auto& each) { return each.first == attribute; });
     return found == attributes.end() ? nothing : found->second;
-}
-
-void AbilityDocument::ParseDocument(const std::string& text, const char* rootName)
-{
-    xml::WithRoot(text, rootName, CAPABILITYSET_HERE,
-                  [this](xmlNode* element) { ParseElement(element); });
 }
 
 void AbilityDocument::ParseElement(_xmlNode* element)

@@ -49,23 +49,23 @@ struct CAPABILITYSET_API AbilityDocument : CBaseCapability
     }
 
 protected:
-    /// Reads a document whose root must be named `rootName`. Any other leaves the record as it was,
-    /// after one log line. Never throws.
-    void ParseDocument(const std::string& text, const char* rootName);
-    /// Reads an element as the root; null reads nothing. Never throws.
+    /// Reads a root element, whatever its name; null reads nothing. Never throws.
     void ParseElement(_xmlNode* element);
 };
 
-/// Construction and reading for a record whose document root is named `Record::kRoot`.
+/// Construction and reading for a record whose document root is named `Record::kRoot`. Some
+/// devices answer with the root they were asked with instead; where that differs it is
+/// `Record::kRequestRoot`, and accepted as well.
 template <class Record>
-struct AbilityRecord : AbilityDocument
+struct CAPABILITYSET_API AbilityRecord : AbilityDocument
 {
     AbilityRecord() = default;
     explicit AbilityRecord(const std::string& text) { Parse(text); }
     explicit AbilityRecord(_xmlNode* element) { Parse(element); }
 
-    /// Reads a whole document; an empty text reads nothing.
-    void Parse(const std::string& text) { ParseDocument(text, Record::kRoot); }
+    /// Reads a whole document; an empty text reads nothing. Any other root leaves the record as it
+    /// was, after one log line. Never throws.
+    void Parse(const std::string& text);
     /// Reads the record's own element; null reads nothing.
     void Parse(_xmlNode* element) { ParseElement(element); }
 };

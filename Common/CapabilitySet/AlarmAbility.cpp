@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/AlarmAbility.h"
 
-#include <memory>
+#include <optional>
+#include <utility>
 
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/query/QueryFrame.h"
-#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/query/AbilityQuery.h"
 #include "CapabilitySet/private/xml/XmlFields.h"
 
 namespace CapabilitySet
@@ -35,18 +35,17 @@ void AlarmAbility::Parse(_xmlNode* element)
 bool AlarmAbility::GetAlarmAbility(AlarmAbility& out, unsigned int& err, const int userID,
                                    const unsigned int channel)
 {
-    const query::Operation operation{.place = CAPABILITYSET_HERE,
-                                     .name = "GetAlarmAbility",
-                                     .growth = query::kDeviceAbilityGrowth};
-    return query::Fill(out, err, operation, [&]() -> std::unique_ptr<query::Request> {
+    using Request = std::optional<query::DeviceAbilityRequest>;
+    const query::Operation operation{CAPABILITYSET_HERE, query::kDeviceAbility};
+    return query::Query(out, err, operation, [&]() -> Request {
         int protocolChannel = 0;
         if (!query::ToProtocolChannel(operation, userID, static_cast<int>(channel), protocolChannel,
                                       err)) {
-            return nullptr;
+            return std::nullopt;
         }
         SetAlarmQueryHandle(userID);
-        return std::make_unique<query::DeviceAbilityRequest>(
-            userID, 10, query::RequestXml(kRoot).Child("channelID", protocolChannel).Text());
+        return Request(std::in_place, userID, 10U,
+                       query::RequestXml(kRoot).Child("channelID", protocolChannel).Text());
     });
 }
 

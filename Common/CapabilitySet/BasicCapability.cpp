@@ -1,9 +1,9 @@
-// The basic capability record, its query, and the memory of 3D positioning.
+// The basic capability record, its query, and the cache of 3D positioning.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/BasicCapability.h"
 
 #include "CapabilitySet/private/KeepFirstCache.h"
-#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/query/AbilityQuery.h"
 #include "CapabilitySet/private/xml/XmlFields.h"
 
 namespace CapabilitySet
@@ -19,7 +19,7 @@ PtzCache& Support3DPTZ()
     return cache;
 }
 
-/// The key's number: the pair of texts stands for a device, not for a channel.
+/// The key's number: the two strings identify a device, not a channel.
 constexpr int kWholeDevice = 0;
 
 }  // namespace
@@ -76,13 +76,11 @@ void BasicCapability::Parse(_xmlNode* element)
 
 bool BasicCapability::GetBasicCapability(BasicCapability& out, unsigned int& err, const int userID)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetBasicCapability",
-                        .growth = query::kDeviceAbilityGrowth,
-                        .limit = query::LimitReport::TraceAndTag,
-                        .timedAs = "BasicCapability"},
-                       [&] { return query::DeviceAbilityRequest(userID, 1); });
+    static constexpr query::Policy kPolicy{.growth = query::kDeviceAbility.growth,
+                                           .limit = query::LimitReport::TraceAndTag,
+                                           .tracedAs = "BasicCapability"};
+    return query::AskDeviceAbility(
+        out, err, userID, CAPABILITYSET_HERE, 1, [] { return std::string(); }, kPolicy);
 }
 
 bool BasicCapability::SaveIsSupper3DPTZAbility(bool value, const std::string& first,

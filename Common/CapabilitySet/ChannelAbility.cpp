@@ -2,18 +2,27 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/ChannelAbility.h"
 
-#include "CapabilitySet/private/query/QueryFrame.h"
-#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/query/AbilityQuery.h"
+#include "CapabilitySet/private/xml/AbilityRecordMembers.h"
 
 namespace CapabilitySet
 {
+
+CAPABILITYSET_ABILITY_RECORD(ChannelInfoAbility);
+CAPABILITYSET_ABILITY_RECORD(ChannelInputAbility);
+CAPABILITYSET_ABILITY_RECORD(VideoPicAbility);
+CAPABILITYSET_ABILITY_RECORD(CameraPara);
+CAPABILITYSET_ABILITY_RECORD(AudioVideoCompressInfo);
+CAPABILITYSET_ABILITY_RECORD(CustomStreamCap);
+CAPABILITYSET_ABILITY_RECORD(PTZAbility);
+CAPABILITYSET_ABILITY_RECORD(FishEyeAbility);
 
 namespace
 {
 
 std::string CameraXml(const std::vector<int>& channels)
 {
-    query::RequestXml xml("CAMERAPARA", "");
+    query::RequestXml xml(CameraPara::kRequestRoot, "");
     for (const int channel : channels) {
         xml.Child("ChannelNumber", channel);
     }
@@ -37,48 +46,32 @@ bool ChannelInfoAbility::GetChannelInfoAbility(ChannelInfoAbility& out, unsigned
                                                const int userID, const int channel,
                                                const std::string& /*deviceType*/)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetChannelInfoAbility",
-                        .growth = query::kStandardAbilityGrowth,
-                        .limit = query::LimitReport::TraceAndWhole},
-                       [&] {
-                           return query::StandardAbilityRequest(userID, 4360,
-                                                                static_cast<unsigned int>(channel));
-                       });
+    static constexpr query::Policy kPolicy{.growth = query::kStandardAbility.growth,
+                                           .limit = query::LimitReport::TraceAndFullLine};
+    return query::AskStandardAbility(out, err, userID, CAPABILITYSET_HERE, 4360,
+                                     static_cast<unsigned int>(channel), kPolicy);
 }
 
 bool ChannelInputAbility::GetChannelInputAbility(ChannelInputAbility& out, unsigned int& err,
                                                  const int userID, const int channel,
                                                  const std::string& /*deviceType*/)
 {
-    return query::Fill(
-        out, err,
-        {.place = CAPABILITYSET_HERE,
-         .name = "GetChannelInputAbility",
-         .growth = query::kDeviceAbilityGrowth},
-        [&] { return query::DeviceAbilityRequest(userID, 17, query::ChannelXml(kRoot, channel)); });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 17,
+                                   [&] { return query::ChannelXml(kRoot, channel); });
 }
 
 bool VideoPicAbility::GetVideoPicAbility(VideoPicAbility& out, unsigned int& err, const int userID,
                                          const int channel, const std::string& /*deviceType*/)
 {
-    return query::Fill(
-        out, err,
-        {.place = CAPABILITYSET_HERE,
-         .name = "GetVideoPicAbility",
-         .growth = query::kDeviceAbilityGrowth},
-        [&] { return query::DeviceAbilityRequest(userID, 14, query::ChannelXml(kRoot, channel)); });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 14,
+                                   [&] { return query::ChannelXml(kRoot, channel); });
 }
 
 bool CameraPara::GetCameraParam(CameraPara& out, unsigned int& err, const int userID,
                                 const std::vector<int>& channels)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetCameraParam",
-                        .growth = query::kDeviceAbilityGrowth},
-                       [&] { return query::DeviceAbilityRequest(userID, 9, CameraXml(channels)); });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 9,
+                                   [&] { return CameraXml(channels); });
 }
 
 bool AudioVideoCompressInfo::GetAudioVideoCompressInfo(AudioVideoCompressInfo& out,
@@ -87,59 +80,37 @@ bool AudioVideoCompressInfo::GetAudioVideoCompressInfo(AudioVideoCompressInfo& o
                                                        const unsigned int voiceTalkChannel,
                                                        const unsigned int videoChannel)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetAudioVideoCompressInfo",
-                        .growth = query::kDeviceAbilityGrowth},
-                       [&] {
-                           return query::DeviceAbilityRequest(
-                               userID, 8,
-                               query::RequestXml(kRoot, "")
-                                   .Child("AudioChannelNumber", audioChannel)
-                                   .Child("VoiceTalkChannelNumber", voiceTalkChannel)
-                                   .Child("VideoChannelNumber", videoChannel)
-                                   .Text());
-                       });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 8, [&] {
+        return query::RequestXml(kRoot, "")
+            .Child("AudioChannelNumber", audioChannel)
+            .Child("VoiceTalkChannelNumber", voiceTalkChannel)
+            .Child("VideoChannelNumber", videoChannel)
+            .Text();
+    });
 }
 
 bool CustomStreamCap::GetCustomStreamAbility(CustomStreamCap& out, unsigned int& err,
                                              const int userID, const int channel)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetCustomStreamAbility",
-                        .growth = query::kTransparentGrowth,
-                        .limitTag = "[kelvar]",
-                        .needsFlag = true},
-                       [&] {
-                           return query::TransparentRequest(
-                               userID, "GET /TARN/Streaming/channels/" + std::to_string(channel) +
-                                           "/customStream/capabilities\r\n");
-                       });
+    return query::AskTransparent(
+        out, err, userID, CAPABILITYSET_HERE,
+        {"GET /TARN/Streaming/channels/", channel, "/customStream/capabilities\r\n"});
 }
 
 bool PTZAbility::GetPTZAbility(PTZAbility& out, unsigned int& err, const int userID,
                                const int channel)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetPTZAbility",
-                        .growth = {1024, 1024, 1024000, false, false}},
-                       [&] { return query::DeviceAbilityRequest(userID, 17, PtzXml(channel)); });
+    static constexpr query::Policy kPolicy{.growth = {1024, 1024, 1024000, false, false}};
+    return query::AskDeviceAbility(
+        out, err, userID, CAPABILITYSET_HERE, 17, [&] { return PtzXml(channel); }, kPolicy);
 }
 
 bool FishEyeAbility::GetFishEyeAbility(FishEyeAbility& out, unsigned int& err, const int userID,
                                        const unsigned int channel,
                                        const std::string& /*deviceVersion*/)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetFishEyeAbility",
-                        .growth = query::kDeviceAbilityGrowth},
-                       [&] {
-                           return query::DeviceAbilityRequest(
-                               userID, 1792, query::ChannelXml("FishEyeIPCAbility", channel));
-                       });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 1792,
+                                   [&] { return query::ChannelXml(kRequestRoot, channel); });
 }
 
 }  // namespace CapabilitySet

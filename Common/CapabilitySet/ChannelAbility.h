@@ -53,6 +53,7 @@ struct CAPABILITYSET_API VideoPicAbility : AbilityRecord<VideoPicAbility>
 struct CAPABILITYSET_API CameraPara : AbilityRecord<CameraPara>
 {
     static constexpr const char* kRoot = "CameraPara";
+    static constexpr const char* kRequestRoot = "CAMERAPARA";
 
     using AbilityRecord::AbilityRecord;
 
@@ -108,6 +109,7 @@ struct CAPABILITYSET_API PTZAbility : AbilityRecord<PTZAbility>
 struct CAPABILITYSET_API FishEyeAbility : AbilityRecord<FishEyeAbility>
 {
     static constexpr const char* kRoot = "FishEyeAbility";
+    static constexpr const char* kRequestRoot = "FishEyeIPCAbility";
 
     using AbilityRecord::AbilityRecord;
 

@@ -50,6 +50,7 @@ struct CAPABILITYSET_API VideoPlatformAbility : AbilityRecord<VideoPlatformAbili
 struct CAPABILITYSET_API CodeSubSystemAbility : AbilityRecord<CodeSubSystemAbility>
 {
     static constexpr const char* kRoot = "CodeSubSystemAbility";
+    static constexpr const char* kRequestRoot = "VideoPlatformAbility";
 
     using AbilityRecord::AbilityRecord;
 

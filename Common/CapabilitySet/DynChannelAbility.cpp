@@ -3,8 +3,7 @@
 #include "CapabilitySet/DynChannelAbility.h"
 
 #include "CapabilitySet/private/KeepFirstCache.h"
-#include "CapabilitySet/private/query/QueryFrame.h"
-#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/query/AbilityQuery.h"
 #include "CapabilitySet/private/xml/XmlDocument.h"
 
 namespace CapabilitySet
@@ -42,12 +41,8 @@ void DynChannelAbility::Parse(_xmlNode* element)
 bool DynChannelAbility::GetDynChannelAbility(DynChannelAbility& out, unsigned int& err,
                                              const int userID, const int channel)
 {
-    return query::Fill(
-        out, err,
-        {.place = CAPABILITYSET_HERE,
-         .name = "GetDynChannelAbility",
-         .growth = query::kDeviceAbilityGrowth},
-        [&] { return query::DeviceAbilityRequest(userID, 11, query::ChannelXml(kRoot, channel)); });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 11,
+                                   [&] { return query::ChannelXml(kRoot, channel); });
 }
 
 bool DynChannelAbility::SaveIsSupper3DPTZAbilityWithChannel(bool support, const std::string& key1,

@@ -6,8 +6,7 @@
 
 #include "CapabilitySet/private/KeepFirstCache.h"
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/query/QueryFrame.h"
-#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/query/AbilityQuery.h"
 #include "CapabilitySet/private/xml/ElementRecordMembers.h"
 
 namespace CapabilitySet
@@ -104,16 +103,15 @@ void EventAbility::Parse(_xmlNode* element)
 bool EventAbility::GetEventAbility(EventAbility& out, unsigned int& err, const int userID,
                                    const unsigned int channel)
 {
-    return query::Fill(
-        out, err,
-        {.place = CAPABILITYSET_HERE,
-         .name = "GetEventAbility",
-         .growth = query::kDeviceAbilityGrowth,
-         .limit = query::LimitReport::TraceAndTag,
-         .limitTag = "[DWN]",
-         // Kept: support staff search logs for this call's name.
-         .failedCall = "NET_ORB_STDXMLConfig"},
-        [&] { return query::DeviceAbilityRequest(userID, 17, query::ChannelXml(kRoot, channel)); });
+    static constexpr query::Policy kPolicy{
+        .growth = query::kDeviceAbility.growth,
+        .limit = query::LimitReport::TraceAndTag,
+        .limitTag = "[DWN]",
+        // Kept: support staff search logs for this call, which is not the one made.
+        .failedCall = "NET_ORB_STDXMLConfig"};
+    return query::AskDeviceAbility(
+        out, err, userID, CAPABILITYSET_HERE, 17, [&] { return query::ChannelXml(kRoot, channel); },
+        kPolicy);
 }
 
 bool EventAbility::SaveTrackAbility(const Track& track, const std::string& key1,

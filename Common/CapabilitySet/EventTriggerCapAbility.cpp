@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/EventTriggerCapAbility.h"
 
-#include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/query/AbilityQuery.h"
 #include "CapabilitySet/private/xml/ElementRecordMembers.h"
 
 namespace CapabilitySet
@@ -43,14 +43,14 @@ void ChannelEventAbility::Parse(_xmlNode* element)
 bool EventTriggerCap::GetEventTriggerCapAbility(EventTriggerCap& out, unsigned int err, int userID,
                                                 unsigned int channel)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        // Kept: support staff search traces for this name, another operation's.
-                        .name = "GetScurityAbility",
-                        .growth = {16384, 16384, 16384000},
-                        .failedCall = "NET_ORB_STDXMLConfig",
-                        .needsFlag = true},
-                       [&] { return query::StandardAbilityRequest(userID, 3501, channel); });
+    static constexpr query::Policy kPolicy{
+        .growth = {16384, 16384, 16384000},
+        // Kept: support staff search logs for this call and traces for this operation, neither of
+        // which is the actual one.
+        .failedCall = "NET_ORB_STDXMLConfig",
+        .name = "GetScurityAbility",
+        .needsFlag = true};
+    return query::AskStandardAbility(out, err, userID, CAPABILITYSET_HERE, 3501, channel, kPolicy);
 }
 
 }  // namespace CapabilitySet

@@ -2,36 +2,29 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/IntercomAbility.h"
 
-#include "CapabilitySet/private/query/QueryFrame.h"
-#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/query/AbilityQuery.h"
+#include "CapabilitySet/private/xml/AbilityRecordMembers.h"
 
 namespace CapabilitySet
 {
+
+CAPABILITYSET_ABILITY_RECORD(IntercomNoticeVideoAbility);
+CAPABILITYSET_ABILITY_RECORD(IntercomDeviceIpViewAbility);
 
 bool IntercomNoticeVideoAbility::GetNoticeVideoCapability(IntercomNoticeVideoAbility& out,
                                                           unsigned int& err, const int userID,
                                                           int channel)
 {
-    return query::Fill(
-        out, err,
-        {.place = CAPABILITYSET_HERE,
-         .name = "GetNoticeVideoCapability",
-         .growth = query::kDeviceAbilityGrowth},
-        [&] { return query::DeviceAbilityRequest(userID, 20, query::ChannelXml(kRoot, channel)); });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 20,
+                                   [&] { return query::ChannelXml(kRoot, channel); });
 }
 
 bool IntercomDeviceIpViewAbility::GetIntercomDeviceIpViewAbility(IntercomDeviceIpViewAbility& out,
                                                                  unsigned int& err,
                                                                  const int userID, int channel)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetIntercomDeviceIpViewAbility",
-                        .growth = query::kDeviceAbilityGrowth},
-                       [&] {
-                           return query::DeviceAbilityRequest(
-                               userID, 20, query::ChannelXml("IpViewDevAbility", channel));
-                       });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 20,
+                                   [&] { return query::ChannelXml(kRequestRoot, channel); });
 }
 
 }  // namespace CapabilitySet

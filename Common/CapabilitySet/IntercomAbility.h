@@ -25,6 +25,7 @@ struct CAPABILITYSET_API IntercomNoticeVideoAbility : AbilityRecord<IntercomNoti
 struct CAPABILITYSET_API IntercomDeviceIpViewAbility : AbilityRecord<IntercomDeviceIpViewAbility>
 {
     static constexpr const char* kRoot = "IntercomDeviceIpViewAbility";
+    static constexpr const char* kRequestRoot = "IpViewDevAbility";
 
     using AbilityRecord::AbilityRecord;
 

@@ -3,7 +3,7 @@
 #include "CapabilitySet/SerialAbility.h"
 
 #include "CapabilitySet/private/ParseToSDK.h"
-#include "CapabilitySet/private/xml/XmlReading.h"
+#include "CapabilitySet/private/xml/XmlDocument.h"
 
 namespace CapabilitySet
 {
@@ -40,10 +40,7 @@ void NoteOptions(const AbilityElement& root, const char* name, std::vector<Type>
 
 void SerialAbility::Parse(const std::string& text)
 {
-    xml::EndAtException([&] {
-        ParseDocument(text, kRoot);
-        NoteMembers();
-    });
+    xml::WithRoot(text, kRoot, CAPABILITYSET_HERE, [this](xmlNode* element) { Parse(element); });
 }
 
 void SerialAbility::Parse(_xmlNode* element)

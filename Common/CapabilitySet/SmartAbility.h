@@ -13,6 +13,7 @@ namespace CapabilitySet
 struct CAPABILITYSET_API VcaAbility : AbilityRecord<VcaAbility>
 {
     static constexpr const char* kRoot = "VcaAbility";
+    static constexpr const char* kRequestRoot = "VcaChanAbility";
 
     using AbilityRecord::AbilityRecord;
 

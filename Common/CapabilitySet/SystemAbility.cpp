@@ -2,101 +2,69 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/SystemAbility.h"
 
-#include "CapabilitySet/private/query/QueryFrame.h"
-#include "CapabilitySet/private/query/RequestXml.h"
+#include "CapabilitySet/private/query/AbilityQuery.h"
+#include "CapabilitySet/private/xml/AbilityRecordMembers.h"
 
 namespace CapabilitySet
 {
 
+CAPABILITYSET_ABILITY_RECORD(DeviceCap);
+CAPABILITYSET_ABILITY_RECORD(SystemDeviceCap);
+CAPABILITYSET_ABILITY_RECORD(ClusterCapability);
+CAPABILITYSET_ABILITY_RECORD(DiscoveryModeCap);
+CAPABILITYSET_ABILITY_RECORD(SecurityAbility);
+CAPABILITYSET_ABILITY_RECORD(UserAbility);
+CAPABILITYSET_ABILITY_RECORD(NetAppAbility);
+
 bool DeviceCap::GetDeviceCapability(DeviceCap& out, unsigned int& err, const int userID)
 {
-    return query::Fill(
-        out, err,
-        {.place = CAPABILITYSET_HERE,
-         .name = "GetDeviceCapability",
-         .growth = query::kTransparentGrowth,
-         .limitTag = "[kelvar]",
-         .needsFlag = true},
-        [&] { return query::TransparentRequest(userID, "GET /TARN/System/capabilities\r\n"); });
+    return query::AskTransparent(out, err, userID, CAPABILITYSET_HERE,
+                                 {"GET /TARN/System/capabilities\r\n"});
 }
 
 bool SystemDeviceCap::GetSystemDeviceAbility(SystemDeviceCap& out, unsigned int& err,
                                              const int userID)
 {
-    return query::Fill(
-        out, err,
-        {.place = CAPABILITYSET_HERE,
-         .name = "GetSystemDeviceAbility",
-         .growth = {16384, 16384, 16384000, false, false},
-         .limitTag = "[kelvar]",
-         .needsFlag = true},
-        [&] { return query::TransparentRequest(userID, "GET /TARN/System/capabilities\r\n"); });
+    static constexpr query::Policy kPolicy{.growth = {16384, 16384, 16384000, false, false},
+                                           .limitTag = "[kelvar]",
+                                           .needsFlag = true};
+    return query::AskTransparent(out, err, userID, CAPABILITYSET_HERE,
+                                 {"GET /TARN/System/capabilities\r\n"}, kPolicy);
 }
 
 bool ClusterCapability::GetClusterCap(ClusterCapability& out, unsigned int& err, const int userID)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetClusterCap",
-                        .growth = query::kTransparentGrowth,
-                        .limitTag = "[kelvar]",
-                        .needsFlag = true},
-                       [&] {
-                           return query::TransparentRequest(
-                               userID, "GET /TARN/ContentMgmt/Cluster/capabilities\r\n");
-                       });
+    return query::AskTransparent(out, err, userID, CAPABILITYSET_HERE,
+                                 {"GET /TARN/ContentMgmt/Cluster/capabilities\r\n"});
 }
 
 bool DiscoveryModeCap::getDiscoveryModeAbility(DiscoveryModeCap& out, unsigned int& err,
                                                const int userID)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "getDiscoveryModeAbility",
-                        .growth = query::kTransparentGrowth,
-                        .limitTag = "[kelvar]",
-                        .needsFlag = true},
-                       [&] {
-                           // Kept: devices are asked without a line end here.
-                           return query::TransparentRequest(
-                               userID, "GET /TARN/System/discoveryMode/capabilities");
-                       });
+    // Kept: devices are asked without a line end here.
+    return query::AskTransparent(out, err, userID, CAPABILITYSET_HERE,
+                                 {"GET /TARN/System/discoveryMode/capabilities"});
 }
 
 bool SecurityAbility::GetSecurityAbility(SecurityAbility& out, unsigned int& err, const int userID)
 {
-    return query::Fill(
-        out, err,
-        {.place = CAPABILITYSET_HERE,
-         .name = "GetSecurityAbility",
-         .growth = query::kDeviceAbilityGrowth},
-        [&] { return query::DeviceAbilityRequest(userID, 17, query::ChannelXml(kRoot, 1)); });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 17,
+                                   [] { return query::ChannelXml(kRoot, 1); });
 }
 
 bool UserAbility::GetUserAbility(UserAbility& out, unsigned int& err, const int userID,
                                  const std::string& part)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetUserAbility",
-                        .growth = query::kDeviceAbilityGrowth},
-                       [&] {
-                           return query::DeviceAbilityRequest(
-                               userID, 12, query::RequestXml(kRoot).Empty(part).Text());
-                       });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 12,
+                                   [&] { return query::RequestXml(kRoot).Empty(part).Text(); });
 }
 
 bool NetAppAbility::GetNetAppAbility(NetAppAbility& out, unsigned int& err, const int userID,
                                      const std::string& application)
 {
-    return query::Fill(out, err,
-                       {.place = CAPABILITYSET_HERE,
-                        .name = "GetNetAppAbility",
-                        .growth = query::kDeviceAbilityGrowth},
-                       [&] {
-                           return query::DeviceAbilityRequest(
-                               userID, 13, query::RequestXml(kRoot).Empty(application).Text());
-                       });
+    return query::AskDeviceAbility(out, err, userID, CAPABILITYSET_HERE, 13, [&] {
+        return query::RequestXml(kRoot).Empty(application).Text();
+    });
 }
 
 }  // namespace CapabilitySet

@@ -70,7 +70,7 @@ PackageOperation PackageAt(const std::string& url)
     }
     return [path](tagNET_ORB_XML_CONFIG_OUTPUT& package, unsigned int& error, int userID) {
         return CapabilitySet::query::DownloadPackage(package, error, userID, CAPABILITYSET_HERE,
-                                                     {"GET ", &path, "\r\n"}, std::string());
+                                                     {"GET ", &path, "\r\n"});
     };
 }
 

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 
+#include <optional>
 #include <thread>
+#include <utility>
 
 #include "CapabilitySet/private/json/JsonReading.h"
 #include "CapabilitySet/private/query/QueryFrame.h"
@@ -13,7 +15,7 @@ namespace CapabilitySet
 namespace
 {
 
-constexpr xml::RootTexts kListTexts{.prefix = "[pmv-v2.0.0]", .tellMismatch = false};
+constexpr xml::RootRule kListRule{.prefix = "[pmv-v2.0.0]", .logsMismatch = false};
 
 /// Reads the items of a list among the children of its root.
 template <class Item>
@@ -41,7 +43,7 @@ void ParseList(const std::string& text, std::vector<Item>& items, const char* it
     xml::WithRoot(
         text, List::kRoot, place,
         [&](xmlNode* root) { ReadItems(items, itemName, root->children); }, xml::Form::BlankFree,
-        kListTexts);
+        kListRule);
 }
 
 struct ListNames
@@ -71,39 +73,33 @@ constexpr const char* kTrackingTag = "[pmv-v2.0.1]";
 // Kept: support staff search logs for the older tag where setting cannot convert a channel.
 constexpr const char* kOldTrackingTag = "[pmv-v2.0.0]";
 
-/// The last size tried is the one before 16,384,000 bytes.
-constexpr query::Growth kTrackingGrowth{16384, 16384, 16384000 - 16384, false, false};
+constexpr query::Policy kTracking{// The last size tried is the one before 16,384,000 bytes.
+                                  .growth = {16384, 16384, 16384000 - 16384, false, false},
+                                  .limit = query::LimitReport::Line,
+                                  .failure = query::FailureReport::Line,
+                                  .limitTag = kTrackingTag,
+                                  .failureTag = kTrackingTag};
+/// For the conversion of the channel, before setting the switch.
+constexpr query::Policy kSetConversion{.growth = kTracking.growth,
+                                       .failure = query::FailureReport::Line,
+                                       .failureTag = kOldTrackingTag};
 
-constexpr query::Operation TrackingOperation(const log::Place& place, const char* name)
-{
-    return {.place = place,
-            .name = name,
-            .growth = kTrackingGrowth,
-            .limit = query::LimitReport::Line,
-            .failure = query::FailureReport::Line,
-            .limitTag = kTrackingTag,
-            .failureTag = kTrackingTag};
-}
-
-/// Sends a request about the tracking switch of a channel; false after the line that says why.
-bool AskTracking(const query::Operation& operation, const char* channelTag, const int userID,
-                 const int channel, const char* method, std::string body,
-                 query::ReceiveBuffer& answer)
+/// The request about the tracking switch of a channel; nothing if the channel cannot be converted.
+std::optional<query::TransparentRequest> TrackingRequest(const query::Operation& operation,
+                                                         const int userID, const int channel,
+                                                         const char* method, std::string body)
 {
     unsigned int err = 0;
     int protocolChannel = 0;
-    query::Operation conversion = operation;
-    conversion.failureTag = channelTag;
-    if (!query::ToProtocolChannel(conversion, userID, channel, protocolChannel, err,
+    if (!query::ToProtocolChannel(operation, userID, channel, protocolChannel, err,
                                   "ChannelToTARN")) {
-        return false;
+        return std::nullopt;
     }
-    query::TransparentRequest request(userID,
-                                      method + std::string(" /TARN/PTZCtrl/channels/") +
-                                          std::to_string(protocolChannel) +
-                                          "/moveAutoTracking?format=json\r\n",
-                                      std::move(body));
-    return query::Ask(operation, request, answer, err);
+    return std::optional<query::TransparentRequest>(
+        std::in_place, userID,
+        method + std::string(" /TARN/PTZCtrl/channels/") + std::to_string(protocolChannel) +
+            "/moveAutoTracking?format=json\r\n",
+        std::move(body));
 }
 
 }  // namespace
@@ -132,7 +128,7 @@ void CPTZPresetCfg::Parse(_xmlNode* firstChild)
 void CPTZPresetListCfg::Parse(const std::string& text)
 {
     xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE, xml::Form::Plain,
-                       {.tellMismatch = false});
+                       {.logsMismatch = false});
 }
 
 void CVelTarnPTZPresetInfo::Parse(_xmlNode* firstChild)
@@ -181,7 +177,7 @@ void CVelTarnPTZPatrolPresetInfo::Parse(_xmlNode* firstChild)
 
 void CVelTarnPTZPatrol::Parse(const std::string& text)
 {
-    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE, xml::Form::BlankFree, kListTexts);
+    xml::ParseDocument(*this, text, kRoot, CAPABILITYSET_HERE, xml::Form::BlankFree, kListRule);
 }
 
 void CVelTarnPTZPatrol::Parse(_xmlNode* firstChild)
@@ -210,30 +206,34 @@ bool CVelTarnPTZAutoTracking::Parse(const std::string& text)
 
 bool CVelTarnPTZAutoTracking::SetAutoTrackingState(const int userID, const int channel, bool enable)
 {
-    const log::Place here = CAPABILITYSET_HERE;
+    const query::Operation operation{CAPABILITYSET_HERE, kTracking};
     unsigned int err = 0;
     return query::Guarded(err, [&] {
-        log::Info(here, "%sSetAutoTrackingState start.", kTrackingTag);
-        const auto operation = TrackingOperation(here, "SetAutoTrackingState");
-        Json::Value body;
-        body["MoveAutoTracking"]["enabled"] = enable;
-        query::ReceiveBuffer answer(operation.growth.limit);
-        return AskTracking(operation, kOldTrackingTag, userID, channel, "PUT",
-                           json::StyledText(body), answer);
+        log::Info(operation.place, "%sSetAutoTrackingState start.", kTrackingTag);
+        return query::Exchange(
+            operation, err,
+            [&] {
+                Json::Value body;
+                body["MoveAutoTracking"]["enabled"] = enable;
+                return TrackingRequest({operation.place, kSetConversion}, userID, channel, "PUT",
+                                       json::StyledText(body));
+            },
+            [](auto&&...) { return true; });
     });
 }
 
 bool CVelTarnPTZAutoTracking::GetAutoTrackingState(const int userID, const int channel,
                                                    CVelTarnPTZAutoTracking& out)
 {
-    const log::Place here = CAPABILITYSET_HERE;
+    const query::Operation operation{CAPABILITYSET_HERE, kTracking};
     unsigned int err = 0;
     return query::Guarded(err, [&] {
-        log::Info(here, "%sGetAutoTrackingState start.", kTrackingTag);
-        const auto operation = TrackingOperation(here, "GetAutoTrackingState");
-        query::ReceiveBuffer answer(operation.growth.limit);
-        return AskTracking(operation, kTrackingTag, userID, channel, "GET", {}, answer) &&
-               out.Parse(std::string(answer.Text()));
+        log::Info(operation.place, "%sGetAutoTrackingState start.", kTrackingTag);
+        return query::Exchange(
+            operation, err, [&] { return TrackingRequest(operation, userID, channel, "GET", {}); },
+            [&](const query::ReceiveBuffer& answer, auto&) {
+                return out.Parse(std::string(answer.Text()));
+            });
     });
 }
 

@@ -3,19 +3,21 @@
 #include "CapabilitySet/XMLConfig/XMLConfigApp.h"
 
 #include "CapabilitySet/XMLParamInterface/private/RecordRequests.h"
+#include "CapabilitySet/private/xml/AbilityRecordMembers.h"
 #include "CapabilitySet/private/xml/XmlRecordMembers.h"
 
 namespace CapabilitySet
 {
 
-template struct XmlRecord<TrackIDList>;
-template struct XmlRecord<TimeSpan>;
-template struct XmlRecord<SearchTimeSpanList>;
-template struct XmlRecord<ContentType>;
-template struct XmlRecord<ContentTypeList>;
-template struct XmlRecord<MetaData>;
-template struct XmlRecord<MetaDataList>;
-template struct XmlRecord<CMSearchDescription>;
+CAPABILITYSET_XML_RECORD(TrackIDList);
+CAPABILITYSET_XML_RECORD(TimeSpan);
+CAPABILITYSET_XML_RECORD(SearchTimeSpanList);
+CAPABILITYSET_XML_RECORD(ContentType);
+CAPABILITYSET_XML_RECORD(ContentTypeList);
+CAPABILITYSET_XML_RECORD(MetaData);
+CAPABILITYSET_XML_RECORD(MetaDataList);
+CAPABILITYSET_XML_RECORD(CMSearchDescription);
+CAPABILITYSET_ABILITY_RECORD(CMSearchResult);
 
 std::string ConfigCapXML::MakeSearchDesXML(const CMSearchDescription& description)
 {

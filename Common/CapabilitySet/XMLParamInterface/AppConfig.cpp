@@ -7,7 +7,7 @@
 namespace CapabilitySet
 {
 
-template struct XmlRecord<App>;
-template struct XmlRecord<AppList>;
+CAPABILITYSET_XML_RECORD(App);
+CAPABILITYSET_XML_RECORD(AppList);
 
 }  // namespace CapabilitySet

@@ -7,10 +7,10 @@
 namespace CapabilitySet
 {
 
-template struct XmlRecord<DiscoveryMode>;
-template struct XmlRecord<TemperatureSensor>;
-template struct XmlRecord<FanStatus>;
-template struct XmlRecord<PressureSensor>;
-template struct XmlRecord<DeviceStatus>;
+CAPABILITYSET_XML_RECORD(DiscoveryMode);
+CAPABILITYSET_XML_RECORD(TemperatureSensor);
+CAPABILITYSET_XML_RECORD(FanStatus);
+CAPABILITYSET_XML_RECORD(PressureSensor);
+CAPABILITYSET_XML_RECORD(DeviceStatus);
 
 }  // namespace CapabilitySet

@@ -7,9 +7,9 @@
 namespace CapabilitySet
 {
 
-template struct XmlRecord<WPA>;
-template struct XmlRecord<WirelessSecurity>;
-template struct XmlRecord<Wireless>;
-template struct XmlRecord<CBridgeRegion>;
+CAPABILITYSET_XML_RECORD(WPA);
+CAPABILITYSET_XML_RECORD(WirelessSecurity);
+CAPABILITYSET_XML_RECORD(Wireless);
+CAPABILITYSET_XML_RECORD(CBridgeRegion);
 
 }  // namespace CapabilitySet

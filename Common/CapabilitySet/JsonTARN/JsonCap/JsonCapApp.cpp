@@ -83,11 +83,13 @@ bool JsonCapApp::getmisinfoConfirmCap(MisinfoConfirmCap& out, unsigned int& erro
                                       const unsigned int userID)
 {
     // Kept: devices and support staff know the line without a method and the bare log line.
-    constexpr query::JsonOptions kOptions{.failure = query::FailureReport::Tag,
-                                          .failureTag = "quorbel58"};
+    static constexpr query::Policy kPolicy{.growth = query::kJson.growth,
+                                           .limit = query::LimitReport::Silent,
+                                           .failure = query::FailureReport::Tag,
+                                           .failureTag = "quorbel58"};
     return AskJson(out, error, static_cast<int>(userID), CAPABILITYSET_HERE,
                    {"/TARN/Intelligent/misinfoFilter/confirmation/capabilities?format=json"},
-                   query::NoBody(), kOptions);
+                   query::NoBody(), kPolicy);
 }
 
 bool JsonCapApp::GetAudioDetectionSearchCap(AudioDetectionSearchCapability& out,

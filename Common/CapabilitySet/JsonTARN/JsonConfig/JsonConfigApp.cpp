@@ -13,12 +13,17 @@ namespace
 
 using query::AskJson;
 using query::BodyForm;
+using query::LimitReport;
 using query::SdkChannel;
 
-constexpr query::JsonOptions kPaddedBody{.bodyForm = BodyForm::Padded};
-/// Switching outputs takes a host longer than it takes to answer.
-constexpr query::JsonOptions kOutputControl{.timeout = 20000, .bodyForm = BodyForm::Padded};
-/// The number that stands for "the ones that the body lists".
+constexpr query::Policy kPaddedBody{
+    .growth = query::kJson.growth, .limit = LimitReport::Silent, .bodyForm = BodyForm::Padded};
+/// A host answers only after switching its outputs.
+constexpr query::Policy kOutputControl{.growth = query::kJson.growth,
+                                       .limit = LimitReport::Silent,
+                                       .timeout = 20000,
+                                       .bodyForm = BodyForm::Padded};
+/// Stands for all zones or outputs that the body lists.
 constexpr int kBatch = -1;
 
 }  // namespace
@@ -290,7 +295,7 @@ bool JsonConfigApp::GetHFPDDataPackage(tagNET_ORB_XML_CONFIG_OUTPUT& out, std::s
 {
     return query::DownloadPackage(
         out, error, userID, CAPABILITYSET_HERE,
-        {"GET /TARN/SDT/HFPD/search/dataPackage/", &taskID, "?format=json\r\n"}, std::string());
+        {"GET /TARN/SDT/HFPD/search/dataPackage/", &taskID, "?format=json\r\n"});
 }
 
 bool JsonConfigApp::GetHFPDCaptureLibCollisionTask(HFPDCaptureLibCollisionTask& out,
@@ -318,11 +323,11 @@ bool JsonConfigApp::GetHFPDSearchRecordData(HFPDSearchFaceResult& out, std::stri
 bool JsonConfigApp::GetHFPDManagementTask(JsonStatus& status, int action, int task,
                                           unsigned int& error, const int userID)
 {
-    static constexpr const char* kLines[] = {"GET /TARN/SDT/Management/Task/pause/",
-                                             "GET /TARN/SDT/Management/Task/resume/",
-                                             "DELETE /TARN/SDT/Management/Task/",
-                                             // Kept: devices take the number right behind the word.
-                                             "GET /TARN/SDT/Management/Task/cancel"};
+    static constexpr const char* kLines[] = {
+        "GET /TARN/SDT/Management/Task/pause/", "GET /TARN/SDT/Management/Task/resume/",
+        "DELETE /TARN/SDT/Management/Task/",
+        // Kept: devices expect the number right after the word.
+        "GET /TARN/SDT/Management/Task/cancel"};
     if (action < 0 || action >= static_cast<int>(std::size(kLines))) {
         status = JsonStatus();
         error = query::kNotSupported;
@@ -345,7 +350,7 @@ bool JsonConfigApp::GetFDLibFCSearchDataPackage(FDLibFCSearchPackageByTaskID& ou
                                                 std::string taskID, unsigned int& error,
                                                 const int userID)
 {
-    // Kept: the task ID ends the query as it stands, unescaped: devices compare it so.
+    // Kept: devices compare the task ID unescaped.
     return AskJson(out, error, userID, CAPABILITYSET_HERE,
                    {"GET /TARN/Intelligent/FDLib/FCSearch/dataPackage/progress?format=json&taskID=",
                     &taskID, "\r\n"});

@@ -1,4 +1,4 @@
-// Requests through the process-wide manager that send and fetch whole records.
+// Sends and fetches whole records through the process-wide manager.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,8 +13,8 @@
 namespace CapabilitySet::ParseXmlHelper
 {
 
-/// How a request ends that could not be built, that ran out of memory, or whose answer is no
-/// document of the record asked for.
+/// The result when a request cannot be built, memory runs out, or the answer is not a document of
+/// the record asked for.
 inline constexpr InterfaceRet kNoRecord{false, 2, static_cast<int>(query::kNotSupported)};
 
 /// The name of a record's root element.
@@ -28,12 +28,12 @@ constexpr const char* RootOf()
     }
 }
 
-/// Reads an answer into `out`; false, after the line that says why, when its root is another.
+/// Reads an answer into `out`; false, with a log line that says why, if its root is another.
 template <class Record>
 bool ReadAnswer(Record& out, const std::string& answer, const log::Place& place)
 {
-    // Here a failed allocation inside Parse reaches the guard: no half-read record is a success.
-    const xml::ReadingLevel level;
+    // A half-read record is no success: running out of memory has to reach the guard.
+    const ThrowScope scope;
     bool isRecord = false;
     xml::WithRoot(answer, RootOf<Record>(), place, [&](xmlNode* root) {
         out.Parse(root);
@@ -42,32 +42,20 @@ bool ReadAnswer(Record& out, const std::string& answer, const log::Place& place)
     return isRecord;
 }
 
-/// Runs `request` with the manager; whatever it throws becomes error 23.
-template <class Request>
-InterfaceRet RunGuarded(Request&& request)
-{
-    InterfaceRet result = kNoRecord;
-    unsigned int err = 0;
-    query::Guarded(err, [&] {
-        result = request(SDKInterfaceManager::instance());
-        return true;
-    });
-    return result;
-}
-
-/// Resets `out`, runs `ask`, which gets the manager and the answer's text, and reads the answer.
+/// Resets `out`, runs `ask` with the manager and a string for the answer, and reads the answer.
 template <class Record, class Ask>
 InterfaceRet FetchRecord(Record& out, const log::Place& place, Ask&& ask)
 {
-    const InterfaceRet result = RunGuarded([&](SDKInterfaceManager& manager) {
-        out = Record();
+    InterfaceRet result = kNoRecord;
+    unsigned int err = 0;
+    query::Fill(out, err, [&] {
         std::string answer;
-        const InterfaceRet sent = ask(manager, answer);
-        return !sent.success || ReadAnswer(out, answer, place) ? sent : kNoRecord;
+        const InterfaceRet sent = ask(SDKInterfaceManager::instance(), answer);
+        if (!sent.success || ReadAnswer(out, answer, place)) {
+            result = sent;
+        }
+        return result.success;
     });
-    if (!result.success) {
-        out = Record();
-    }
     return result;
 }
 
@@ -81,7 +69,7 @@ InterfaceRet GetRecord(Record& out, const int userID, const char* line, const lo
     });
 }
 
-/// POST: what a device finds by a condition.
+/// POST: a search; the record is what the device found.
 template <class Condition, class Record>
 InterfaceRet SearchRecord(const Condition& condition, Record& out, const int userID,
                           const char* line, const log::Place& place)
@@ -96,18 +84,22 @@ InterfaceRet SearchRecord(const Condition& condition, Record& out, const int use
     });
 }
 
-/// PUT: makes a setting the record at a path.
+/// PUT: sends a setting to a path.
 template <class Setting>
 InterfaceRet SetRecord(const Setting& setting, const int userID, const char* line)
 {
-    return RunGuarded([&](SDKInterfaceManager& manager) {
+    InterfaceRet result = kNoRecord;
+    unsigned int err = 0;
+    query::Guarded(err, [&] {
         const std::string body = setting.createXml();
-        if (body.empty()) {
-            return kNoRecord;
+        if (!body.empty()) {
+            std::string noStatus = "0";
+            result = SDKInterfaceManager::instance().TransparentRequsetPUT(userID, line, body,
+                                                                           noStatus, 0, false);
         }
-        std::string noStatus = "0";
-        return manager.TransparentRequsetPUT(userID, line, body, noStatus, 0, false);
+        return result.success;
     });
+    return result;
 }
 
 }  // namespace CapabilitySet::ParseXmlHelper

@@ -12,6 +12,8 @@
 #include <json/value.h>
 #include <json/writer.h>
 
+#include "CapabilitySet/private/ThrowScope.h"
+
 namespace CapabilitySet::json
 {
 
@@ -21,23 +23,6 @@ inline bool ParseText(std::string_view text, Json::Value& root)
     Json::Reader reader;
     return reader.parse(text.data(), text.data() + text.size(), root, true);
 }
-
-/// While one lives, what its thread reads and writes belongs to an exported operation or to a
-/// larger document, which fails as a whole when memory runs out; otherwise a failed allocation ends
-/// a reading as any fault does.
-class OperationScope
-{
-public:
-    OperationScope() { ++depth_; }
-    ~OperationScope() { --depth_; }
-    OperationScope(const OperationScope&) = delete;
-    OperationScope& operator=(const OperationScope&) = delete;
-
-    [[nodiscard]] static bool Runs() { return depth_ > 0; }
-
-private:
-    inline static thread_local int depth_ = 0;
-};
 
 /// A tree as indented text, a line end behind it.
 inline std::string StyledText(const Json::Value& value)
@@ -60,9 +45,15 @@ inline const Json::Value& MemberOf(const Json::Value& object, std::string_view n
     return member == nullptr ? Json::Value::nullSingleton() : *member;
 }
 
+/// Throws what JsonCpp throws for a value that cannot have members; null passes, it has none.
+inline void RequireObject(const Json::Value& value)
+{
+    static_cast<void>(MemberOf(value, {}));
+}
+
 /// Hands the root of an answer to `read`. An empty text and one that is not JSON read nothing; an
 /// exception, such as JsonCpp's for a member of the wrong kind, ends the reading and goes nowhere
-/// (but see OperationScope).
+/// (but see ThrowScope).
 template <class Read>
 void WithRoot(const std::string& text, Read&& read)
 {
@@ -73,18 +64,18 @@ void WithRoot(const std::string& text, Read&& read)
         Json::Value root;
         // Where memory fails JsonCpp takes a decimal number for a malformed one: asked again, it
         // reads the text or runs out of memory for good.
-        if (ParseText(text, root) || (OperationScope::Runs() && ParseText(text, root))) {
+        if (ParseText(text, root) || (ThrowScope::Active() && ParseText(text, root))) {
             // A part that reads a text of its own ends the whole reading when memory runs out.
-            const OperationScope parts;
+            const ThrowScope parts;
             read(root);
         }
     } catch (const std::bad_alloc&) {
-        if (OperationScope::Runs()) {
+        if (ThrowScope::Active()) {
             throw;
         }
     } catch (const Json::RuntimeError& error) {
         // What JsonCpp makes of a malloc that failed; the other one is a text too deep to parse.
-        if (OperationScope::Runs() &&
+        if (ThrowScope::Active() &&
             std::string_view(error.what()).find("allocate") != std::string_view::npos) {
             throw std::bad_alloc();
         }

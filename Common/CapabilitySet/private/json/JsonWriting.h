@@ -251,7 +251,7 @@ std::string MakeText(Write&& write)
         write(document);
         return StyledText(document);
     } catch (...) {  // callers are exported, and nothing is thrown at clients
-        if (OperationScope::Runs()) {
+        if (ThrowScope::Active()) {
             throw;
         }
         return {};

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace CapabilitySet::query
 {
@@ -12,11 +13,9 @@ namespace
 
 constexpr std::size_t kLineBuffer = 128;
 constexpr std::size_t kBodyBuffer = 8192;
-constexpr unsigned int kPackageTimeout = 120000;
-constexpr Growth kPackageGrowth{1048576, 1048576, 1048576000, false, false};
 
-/// Where the letter of a conversion stands in `text`, which begins with '%': behind flags, width,
-/// precision and length.
+/// Finds the letter of the conversion that `text` starts with: it follows flags, width, precision
+/// and length.
 std::size_t ConversionLetter(std::string_view text)
 {
     std::size_t at = 1;
@@ -60,69 +59,26 @@ std::string FormattedCopy(std::string_view text)
     return copy;
 }
 
-TransparentRequest JsonRequest(int userID, std::string_view line, std::string body,
-                               const JsonOptions& options)
+std::optional<TransparentRequest> JsonRequest(int userID, LineParts parts, std::string body,
+                                              const Policy& policy)
 {
-    if (options.bodyForm == BodyForm::Padded) {
+    std::string line;
+    if (!MakeLine(userID, parts, line)) {
+        return std::nullopt;
+    }
+    if (policy.bodyForm == BodyForm::Padded) {
         body = Buffered(body, kBodyBuffer);
     }
-    return TransparentRequest(userID, Buffered(line, kLineBuffer), std::move(body),
-                              options.timeout);
+    return std::optional<TransparentRequest>(std::in_place, userID, Buffered(line, kLineBuffer),
+                                             std::move(body), policy.timeout);
 }
 
-bool MakeLine(int userID, LineParts parts, std::string& line)
+void HandOver(ReceiveBuffer& answer, unsigned int size, tagNET_ORB_XML_CONFIG_OUTPUT& output)
 {
-    for (const LinePart& part : parts) {
-        if (const auto* literal = std::get_if<const char*>(&part)) {
-            line += *literal;
-        } else if (const auto* number = std::get_if<int>(&part)) {
-            line += std::to_string(*number);
-        } else if (const auto* text = std::get_if<const std::string*>(&part)) {
-            line += **text;
-        } else {
-            const int channel =
-                NET_ORB_SDKChannelToTARN(userID, std::get<SdkChannel>(part).number, 1);
-            if (channel == -1) {
-                return false;
-            }
-            line += std::to_string(channel);
-        }
-    }
-    return true;
-}
-
-Operation JsonOperation(const log::Place& place, const JsonOptions& options, const Growth& growth)
-{
-    return {.place = place,
-            .name = "",
-            .growth = growth,
-            .limit = LimitReport::Silent,
-            .failure = options.failure,
-            .failureTag = options.failureTag};
-}
-
-bool DownloadPackage(tagNET_ORB_XML_CONFIG_OUTPUT& output, unsigned int& err, int userID,
-                     const log::Place& place, LineParts parts, const std::string& body)
-{
-    return Guarded(err, [&] {
-        err = 0;
-        std::string line;
-        if (!MakeLine(userID, parts, line)) {
-            return false;
-        }
-        const JsonOptions options{.timeout = kPackageTimeout};
-        TransparentRequest request = JsonRequest(userID, line, body, options);
-        ReceiveBuffer answer(kPackageGrowth.limit);
-        if (!Ask(JsonOperation(place, options, kPackageGrowth), request, answer, err)) {
-            return false;
-        }
-        const unsigned int size = request.ReturnedSize();
-        auto package = std::make_unique_for_overwrite<char[]>(size);
-        answer.MoveTo(package.get(), size);
-        output.outBuffer = package.release();
-        output.returnedSize = size;
-        return true;
-    });
+    auto package = std::make_unique_for_overwrite<char[]>(size);
+    answer.MoveTo(package.get(), size);
+    output.outBuffer = package.release();
+    output.returnedSize = size;
 }
 
 }  // namespace CapabilitySet::query

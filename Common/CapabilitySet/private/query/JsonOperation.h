@@ -2,63 +2,32 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <variant>
 
-#include "CapabilitySet/private/json/JsonReading.h"
 #include "CapabilitySet/private/query/QueryFrame.h"
+#include "CapabilitySet/private/query/RequestLine.h"
 
 namespace CapabilitySet::query
 {
 
-/// A channel by the SDK's number, which a request line holds by the protocol's.
-struct SdkChannel
-{
-    int number;
-};
+/// JSON operations grow on 43 alone, return every other number unchanged, and do not report a
+/// reached limit.
+inline constexpr Policy kJson{.growth = {16384, 16384, 16384000, false, false},
+                              .limit = LimitReport::Silent};
 
-/// A piece of a request line; numbers are written in decimal, texts as they are.
-using LinePart = std::variant<const char*, int, const std::string*, SdkChannel>;
-using LineParts = std::initializer_list<LinePart>;
-
-/// How the body of a request is handed to the SDK.
-enum class BodyForm
-{
-    AsItStands,
-    /// The alarm host's: a formatted copy in a buffer of 8,192 zeroed bytes, all of which are
-    /// sent; a longer one in a buffer of its own length and one, sent whole.
-    Padded
-};
-
-/// What a JSON operation differs in beside its line, body and record.
-struct JsonOptions
-{
-    unsigned int timeout = 0;  ///< milliseconds for the answer, 0: the SDK's default
-    BodyForm bodyForm = BodyForm::AsItStands;
-    FailureReport failure = FailureReport::Full;
-    const char* failureTag = "";
-};
-
-/// What formatting a text by itself leaves of it: up to its first NUL, "%%" as "%", and nothing of
-/// any other conversion; of a "%" that begins none only the sign is lost. Devices and clients rely
-/// on texts being sent so.
+/// What formatting a text by itself leaves: the text up to its first NUL, "%%" as "%", and nothing
+/// of any other conversion; a "%" that starts no conversion is dropped. Devices and clients rely on
+/// texts being sent this way.
 std::string FormattedCopy(std::string_view text);
 
-/// A request whose line is a formatted copy in a zeroed buffer of 128 bytes, or of its length and
-/// one.
-TransparentRequest JsonRequest(int userID, std::string_view line, std::string body,
-                               const JsonOptions& options);
+/// The request for a line, which is sent as a formatted copy in a zeroed buffer of 128 bytes or of
+/// its length plus one. Nothing if the SDK cannot convert a channel in the line.
+std::optional<TransparentRequest> JsonRequest(int userID, LineParts parts, std::string body,
+                                              const Policy& policy);
 
-/// The text of a request line. False when it names a channel that the SDK cannot convert.
-bool MakeLine(int userID, LineParts parts, std::string& line);
-
-/// The operation as the frame knows it.
-Operation JsonOperation(const log::Place& place, const JsonOptions& options, const Growth& growth);
-
-/// An operation whose answer is not read.
+/// The record of an operation whose answer is ignored.
 struct NoAnswer
 {
     void Parse(const std::string& /*text*/) {}
@@ -69,55 +38,38 @@ struct NoBody
     std::string operator()() const { return {}; }
 };
 
-/// A whole operation: resets `out` and `err`, sends the line with the body that `makeBody` gives
-/// (behind the guard, since making one takes memory), and parses the answer into `out`. A channel
-/// that cannot be converted is a silent failure.
+/// A whole operation: sends the line with the body that `makeBody` returns, and parses the answer
+/// into `out`. A channel that cannot be converted is a silent failure.
 template <class Out, class MakeBody = NoBody>
 bool AskJson(Out& out, unsigned int& err, int userID, const log::Place& place, LineParts parts,
-             MakeBody&& makeBody = {}, const JsonOptions& options = {})
+             MakeBody&& makeBody = {}, const Policy& policy = kJson)
 {
-    constexpr bool kResets = !requires { requires Out::kAppendsAnswers; };
-    const bool filled = Guarded(err, [&] {
-        const json::OperationScope scope;
-        if constexpr (kResets) {
-            out = Out();
-        }
-        err = 0;
-        std::string line;
-        if (!MakeLine(userID, parts, line)) {
-            return false;
-        }
-        TransparentRequest request = JsonRequest(userID, line, makeBody(), options);
-        const Operation operation = JsonOperation(place, options, kJsonGrowth);
-        ReceiveBuffer answer(operation.growth.limit);
-        if (!Ask(operation, request, answer, err)) {
-            return false;
-        }
-        out.Parse(std::string(answer.Text()));
-        return true;
-    });
-    if constexpr (kResets) {
-        if (!filled) {
-            out = Out();
-        }
-    }
-    return filled;
+    return Query(out, err, {place, policy},
+                 [&] { return JsonRequest(userID, parts, makeBody(), policy); });
 }
 
-/// A data package: the answer is not parsed but handed over in an array of its own that the caller
-/// releases with delete[]. On failure `output` is not touched.
-bool DownloadPackage(tagNET_ORB_XML_CONFIG_OUTPUT& output, unsigned int& err, int userID,
-                     const log::Place& place, LineParts parts, const std::string& body);
+inline constexpr Policy kPackage{.growth = {1048576, 1048576, 1048576000, false, false},
+                                 .limit = LimitReport::Silent,
+                                 .timeout = 120000};
 
-/// The same with a body that is made behind the guard.
-template <class MakeBody>
+/// Copies an answer into an array that the client releases with delete[].
+void HandOver(ReceiveBuffer& answer, unsigned int size, tagNET_ORB_XML_CONFIG_OUTPUT& output);
+
+/// Downloads a data package, which is not parsed but handed over. On failure `output` is not
+/// touched.
+template <class MakeBody = NoBody>
 bool DownloadPackage(tagNET_ORB_XML_CONFIG_OUTPUT& output, unsigned int& err, int userID,
-                     const log::Place& place, LineParts parts, MakeBody&& makeBody)
-    requires requires { makeBody(); }
+                     const log::Place& place, LineParts parts, MakeBody&& makeBody = {})
 {
     return Guarded(err, [&] {
-        const json::OperationScope scope;
-        return DownloadPackage(output, err, userID, place, parts, makeBody());
+        err = 0;
+        return Exchange(
+            {place, kPackage}, err,
+            [&] { return JsonRequest(userID, parts, makeBody(), kPackage); },
+            [&](ReceiveBuffer& answer, const TransparentRequest& request) {
+                HandOver(answer, request.ReturnedSize(), output);
+                return true;
+            });
     });
 }
 

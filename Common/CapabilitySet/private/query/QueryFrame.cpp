@@ -19,54 +19,56 @@ bool WantsLargerBuffer(const Growth& growth, unsigned int error)
            (error == NET_ORB_ABILITY_TOO_SMALL && growth.growOn1001);
 }
 
-/// Gives up with the SDK's error: the caller's number, one log line, the last error.
+/// Reports an SDK error: the caller's number, one log line, the last error.
 void ReportSdkError(const Operation& operation, const char* call, unsigned int error,
                     unsigned int& err)
 {
-    const bool unknownAbility = error == NET_ORB_ABILITY_FAILED && operation.growth.report1000As23;
+    const Policy& policy = operation.policy;
+    const bool unknownAbility = error == NET_ORB_ABILITY_FAILED && policy.growth.report1000As23;
     err = unknownAbility ? kNotSupported : error;
-    if (operation.failure == FailureReport::Tag) {
-        log::Error(operation.place, "%s", operation.failureTag);
+    if (policy.failure == FailureReport::Tag) {
+        log::Error(operation.place, "%s", policy.failureTag);
         return;
     }
     Keel::Error::ErrorCode last;
     comm_method::getLastSDKError(last.module, last.code);
-    log::Error(operation.place, "%s%s failed, [%d]-[%d].", operation.failureTag, call, last.module,
+    log::Error(operation.place, "%s%s failed, [%d]-[%d].", policy.failureTag, call, last.module,
                last.code);
-    if (operation.failure == FailureReport::Full) {
+    if (policy.failure == FailureReport::Full) {
         Keel::Error::SetLastError(last);
     }
 }
 
-/// Gives up because the largest buffer was too small. The last error stays as it was.
+/// Reports that the largest buffer was too small. The last error stays as it was.
 void ReportLimit(const Operation& operation, int userID, unsigned int& err)
 {
+    const Policy& policy = operation.policy;
     err = NET_ORB_BUFFER_TOO_SMALL;
     const int code = static_cast<int>(err);
-    if (operation.limit == LimitReport::Silent) {
+    if (policy.limit == LimitReport::Silent) {
         return;
     }
-    if (operation.limit == LimitReport::Line) {
-        log::Error(operation.place, "%s%s failed, buf is small.", operation.limitTag,
-                   operation.name);
+    if (policy.limit == LimitReport::Line) {
+        log::Error(operation.place, "%s%s failed, buf is small.", policy.limitTag,
+                   operation.Name());
         return;
     }
     VSK_OutputDebug("%sfailure to CCapabilityApp::%s, userID = [%d], error code = [%d]",
-                    operation.limitTag, operation.name, userID, code);
+                    policy.limitTag, operation.Name(), userID, code);
     // Kept: support staff search logs for the bare tag.
-    if (operation.limit == LimitReport::TraceAndTag) {
+    if (policy.limit == LimitReport::TraceAndTag) {
         log::Error(operation.place, "[DWN]");
-    } else if (operation.limit == LimitReport::TraceAndWhole) {
+    } else if (policy.limit == LimitReport::TraceAndFullLine) {
         log::Error(operation.place,
                    "[DWN],failure to CCapabilityApp::%s, userID = [%d], error code = [%d]",
-                   operation.name, userID, code);
+                   operation.Name(), userID, code);
     }
 }
 
-void Trace(const char* what, const char* timedAs)
+void Trace(const char* what, const char* tracedAs)
 {
-    if (timedAs != nullptr) {
-        VSK_OutputDebug("[AbilityTime]%s to get %s", what, timedAs);
+    if (tracedAs != nullptr) {
+        VSK_OutputDebug("[AbilityTime]%s to get %s", what, tracedAs);
     }
 }
 
@@ -109,20 +111,22 @@ bool TransparentRequest::Send(char* buffer, unsigned int size)
     return answered;
 }
 
-bool Ask(const Operation& operation, Request& request, ReceiveBuffer& answer, unsigned int& err)
+bool SendUntilItFits(const Operation& operation, Request& request, ReceiveBuffer& answer,
+                     unsigned int& err)
 {
-    const Growth& growth = operation.growth;
+    const Policy& policy = operation.policy;
+    const Growth& growth = policy.growth;
     for (unsigned int size = growth.start; size <= growth.limit; size += growth.step) {
         char* const buffer = answer.Renew(size);
-        Trace("Start", operation.timedAs);
+        Trace("Start", policy.tracedAs);
         if (request.Send(buffer, size)) {
-            Trace("Finish", operation.timedAs);
+            Trace("Finish", policy.tracedAs);
             return true;
         }
         const unsigned int error = NET_ORB_GetLastError();
         if (!WantsLargerBuffer(growth, error)) {
-            const bool named = operation.failedCall != nullptr;
-            ReportSdkError(operation, named ? operation.failedCall : request.Call(), error, err);
+            const bool named = policy.failedCall != nullptr;
+            ReportSdkError(operation, named ? policy.failedCall : request.Call(), error, err);
             return false;
         }
     }

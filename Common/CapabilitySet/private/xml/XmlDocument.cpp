@@ -208,14 +208,14 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
 }
 
 Document OpenRoot(const std::string& text, const char* rootName, const log::Place& place, Form form,
-                  const RootTexts& texts, xmlNode*& root)
+                  const RootRule& rule, xmlNode*& root)
 {
     Problem problem;
     Document document = ParseText(text, form, problem);
     if (document == nullptr) {
         log::Error(place,
                    "%sCann't parse the XML, The error is at line[%d], the error message is [%s].",
-                   texts.prefix, problem.line, problem.message.c_str());
+                   rule.prefix, problem.line, problem.message.c_str());
         return nullptr;
     }
     root = xmlDocGetRootElement(document.get());
@@ -225,13 +225,14 @@ Document OpenRoot(const std::string& text, const char* rootName, const log::Plac
             place,
             "%sCann't get root element from the XML, The error is at line[%d], the error message "
             "is [%s].",
-            texts.prefix, problem.line, problem.message.c_str());
+            rule.prefix, problem.line, problem.message.c_str());
         return nullptr;
     }
-    if (!NextElementNamed(root, rootName)) {
-        if (texts.tellMismatch) {
-            log::Error(place, "%sThe root element is mismatched with the %sXML.", texts.prefix,
-                       texts.document);
+    if (!NextElementNamed(root, rootName) &&
+        (rule.alias == nullptr || !NextElementNamed(root, rule.alias))) {
+        if (rule.logsMismatch) {
+            log::Error(place, "%sThe root element is mismatched with the %sXML.", rule.prefix,
+                       rule.document);
         }
         return nullptr;
     }

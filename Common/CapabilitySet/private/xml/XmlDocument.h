@@ -39,35 +39,36 @@ struct Problem
 /// std::bad_alloc.
 Document ParseText(const std::string& text, Form form, Problem& problem);
 
-/// How the failures of a root record are told.
-struct RootTexts
+/// Which root a record accepts besides its own, and what it logs when there is none.
+struct RootRule
 {
-    const char* prefix = "";    ///< before each message
-    const char* document = "";  ///< names the document before "XML" when the root is mismatched
-    bool tellMismatch = true;
+    const char* alias = nullptr;  ///< another name that is accepted
+    const char* prefix = "";      ///< before each message
+    const char* document = "";    ///< names the document before "XML" in the line on a wrong root
+    bool logsMismatch = true;     ///< whether a wrong root is logged at all
 };
 
 /// Parses `text`, checks its root's name, and hands the root to `read`. An empty text is a silent
 /// no-op; every failure is one error line. Nothing is thrown.
 template <class Read>
 void WithRoot(const std::string& text, const char* rootName, const log::Place& place, Read&& read,
-              Form form = Form::Plain, const RootTexts& texts = {});
+              Form form = Form::Plain, const RootRule& rule = {});
 
 /// The part of WithRoot that does not depend on the reader: the document, its root in `root`, or
 /// null after the line that says why.
 Document OpenRoot(const std::string& text, const char* rootName, const log::Place& place, Form form,
-                  const RootTexts& texts, xmlNode*& root);
+                  const RootRule& rule, xmlNode*& root);
 
 template <class Read>
 void WithRoot(const std::string& text, const char* rootName, const log::Place& place, Read&& read,
-              Form form, const RootTexts& texts)
+              Form form, const RootRule& rule)
 {
     if (text.empty()) {
         return;
     }
     EndAtException([&] {
         xmlNode* root = nullptr;
-        if (const Document document = OpenRoot(text, rootName, place, form, texts, root)) {
+        if (const Document document = OpenRoot(text, rootName, place, form, rule, root)) {
             read(root);
         }
     });

@@ -264,11 +264,11 @@ void ParseNode(Record& record, xmlNode* node)
 /// The whole of a root record's Parse(const std::string&).
 template <class Record>
 void ParseDocument(Record& record, const std::string& text, const char* rootName,
-                   const log::Place& place, Form form = Form::Plain, const RootTexts& texts = {})
+                   const log::Place& place, Form form = Form::Plain, const RootRule& rule = {})
 {
     WithRoot(
         text, rootName, place, [&](xmlNode* root) { ReadFields(record, root->children); }, form,
-        texts);
+        rule);
 }
 
 }  // namespace CapabilitySet::xml

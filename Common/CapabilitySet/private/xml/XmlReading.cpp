@@ -14,8 +14,6 @@ namespace CapabilitySet::xml
 namespace
 {
 
-thread_local int readingDepth = 0;
-
 struct XmlTextFree
 {
     void operator()(xmlChar* text) const { xmlFree(text); }
@@ -53,13 +51,6 @@ std::string_view Keep(Copy&& copy, std::string& spare)
 }
 
 }  // namespace
-
-ReadingLevel::ReadingLevel() : outermost_(readingDepth++ == 0) {}
-
-ReadingLevel::~ReadingLevel()
-{
-    --readingDepth;
-}
 
 bool NextElementNamed(xmlNode*& cursor, const char* name)
 {

@@ -9,6 +9,7 @@
 #include <libxml/tree.h>
 
 #include "CapabilitySet/private/NumberText.h"
+#include "CapabilitySet/private/ThrowScope.h"
 
 namespace CapabilitySet::xml
 {
@@ -39,33 +40,18 @@ void SplitOptions(std::vector<std::string>& target, std::string_view text);
 /// that holds none is left as it is.
 bool ReadBounds(const xmlNode* element, unsigned int& min, unsigned int& max);
 
-/// One level of nested reading on this thread.
-class ReadingLevel
-{
-public:
-    ReadingLevel();
-    ~ReadingLevel();
-    ReadingLevel(const ReadingLevel&) = delete;
-    ReadingLevel& operator=(const ReadingLevel&) = delete;
-
-    [[nodiscard]] bool Outermost() const { return outermost_; }
-
-private:
-    bool outermost_;
-};
-
-/// Runs `read`, which may throw. Only the outermost call on a thread swallows the exception, so
-/// that a failure in a nested record ends the reading of the whole one.
+/// Runs `read`, which may throw. Unless a ThrowScope exists the exception ends here, so that a
+/// failure in a nested record ends the reading of the whole one.
 template <class Read>
 void EndAtException(Read&& read)
 {
-    const ReadingLevel level;
-    if (!level.Outermost()) {
+    if (ThrowScope::Active()) {
         return read();
     }
+    const ThrowScope nested;
     try {
         read();
-    } catch (...)  // what was read stays, and nothing escapes a record
+    } catch (...)  // what was read stays; nothing is thrown at clients
     {
     }
 }

@@ -1,4 +1,4 @@
-// The members that XmlRecord declares; a source file instantiates them for its own records.
+// Defines the members of XmlRecord; a source file instantiates them for its own records.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,7 +12,8 @@ namespace CapabilitySet
 template <class Record>
 void XmlRecord<Record>::Parse(const std::string& text)
 {
-    xml::ParseDocument(static_cast<Record&>(*this), text, Record::kElement, CAPABILITYSET_HERE);
+    xml::ParseDocument(static_cast<Record&>(*this), text, Record::kElement,
+                       log::kParsePlace<Record>);
 }
 
 template <class Record>
@@ -35,3 +36,8 @@ std::string XmlRecord<Record>::createXml() const
 }
 
 }  // namespace CapabilitySet
+
+/// Instantiates a record's members; log lines of its Parse then name this file.
+#define CAPABILITYSET_XML_RECORD(Record) \
+    CAPABILITYSET_PARSE_PLACE(Record);   \
+    template struct XmlRecord<Record>
