@@ -37,13 +37,17 @@ struct CAPABILITYSET_API JsonRecord
     void Parse(const std::string& text);
 
     /// The record as a request body: `root`, with the record's members written over it, styled. A
-    /// member whose value was not changed keeps the kind that the device sent. A list item replaces
-    /// the entry it was read from, matched by its first member, else by position. Empty when memory
+    /// member whose value was not changed keeps the kind that the device sent. A list item is
+    /// written over the entry it was read from, matched by its first member, or by position among
+    /// the entries that lack that; an item that matches none is written alone. Empty when memory
     /// ran out.
     [[nodiscard]] std::string Make() const;
 
     /// The same, under the name that search descriptions use.
-    [[nodiscard]] std::string CreatJsonParser() const { return Make(); }
+    [[nodiscard]] std::string CreatJsonParser() const
+    {
+        return static_cast<const Record&>(*this).Make();
+    }
 };
 
 /// A document whose members the device defines: all of it is in `root`.

@@ -19,6 +19,7 @@ void SubSysOperateCapability::Parse(const Json::Value& value)
     if (value.isNull()) {
         return;
     }
+    json::RequireObject(value);
     root = value;
     present = true;
 }

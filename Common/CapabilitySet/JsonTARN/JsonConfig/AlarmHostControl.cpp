@@ -35,6 +35,11 @@ std::string SubSystemsBody(const OperateSubSystemsInfo& info, bool withArmType)
 
 }  // namespace
 
+std::string AlarmHostBypassCfg::Make() const
+{
+    return json::MakeText([this](Json::Value& document) { document["zone"] = zone; });
+}
+
 std::string AlarmHostOutputCfg::Make() const
 {
     return ids.empty() ? std::string() : JsonRecord::Make();

@@ -21,6 +21,10 @@ struct CAPABILITYSET_API AlarmHostBypassCfg : JsonRecord<AlarmHostBypassCfg>
     AlarmHostBypassCfg() = default;
     explicit AlarmHostBypassCfg(const std::string& text) { Parse(text); }
 
+    /// The body {"zone": "<text>"} and nothing else, whatever was parsed. Empty when memory ran
+    /// out.
+    [[nodiscard]] std::string Make() const;
+
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
     {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/FaceLibrarySearch.h"
 
+#include <string_view>
+
 #include "CapabilitySet/private/json/JsonRecordMembers.h"
 
 namespace CapabilitySet
@@ -20,18 +22,45 @@ template struct JsonRecord<FDLibSearchResult>;
 template struct JsonRecord<FDLibFCSearchPackageByJsonResult>;
 template struct JsonRecord<FDLibFCSearchPackageByTaskID>;
 
+namespace
+{
+
+// Kept: devices take the times as of this zone, whatever the client's is.
+constexpr std::string_view kZone = "+08:00";
+
+std::string WithoutZone(std::string time)
+{
+    if (time.ends_with(kZone)) {
+        time.resize(time.size() - kZone.size());
+    }
+    return time;
+}
+
+}  // namespace
+
+void FDLibSearchDescription::ReadOnDemand()
+{
+    startTime = WithoutZone(json::MemberOf(root, "startTime").asString());
+    endTime = WithoutZone(json::MemberOf(root, "endTime").asString());
+    Attendance = FDLibAttendanceSearch();
+    Attendance.Parse(json::MemberOf(root, "Attendance"));
+}
+
 std::string FDLibSearchDescription::Make() const
 {
     return json::MakeText([this](Json::Value& document) {
         Json::Value& search = json::WriteRecord(document, *this);
         if (hasTimeRange) {
-            // Kept: devices take the times for this zone, whatever the client's is.
-            constexpr const char* kZone = "+08:00";
-            search["startTime"] = startTime + kZone;
-            search["endTime"] = endTime + kZone;
+            search["startTime"] = startTime + std::string(kZone);
+            search["endTime"] = endTime + std::string(kZone);
+        } else {
+            search.removeMember("startTime");
+            search.removeMember("endTime");
         }
         if (searchType == "attendance") {
             json::WriteFields(search["Attendance"], Attendance);
+        } else {
+            search.removeMember("Attendance");
         }
     });
 }

@@ -43,8 +43,8 @@ struct CAPABILITYSET_API FDLibSearchDescription : JsonRecord<FDLibSearchDescript
     int maxResultNumber = 0;  ///< most results in all pages
     std::string searchType;   ///< "attendance" sends `Attendance` as well
 
-    // Sent only if `hasTimeRange` or `searchType` asks for it.
-    bool hasTimeRange = false;         ///< sends `startTime` and `endTime`
+    // Sent only if `hasTimeRange` or `searchType` asks for it, whatever was parsed.
+    bool hasTimeRange = false;         ///< sends `startTime` and `endTime`; Parse leaves it alone
     std::string startTime;             ///< "2020-01-01T00:00:00", without a zone
     std::string endTime;               ///< likewise, not before `startTime`
     FDLibAttendanceSearch Attendance;  ///< conditions of an attendance search
@@ -55,8 +55,6 @@ struct CAPABILITYSET_API FDLibSearchDescription : JsonRecord<FDLibSearchDescript
     /// The request body. Empty when memory ran out.
     // Kept: times are sent with "+08:00" appended, whatever the time zone.
     [[nodiscard]] std::string Make() const;
-    /// The same, under the name that search descriptions use.
-    [[nodiscard]] std::string CreatJsonParser() const { return Make(); }
 
     template <class Record, class Field>
     static void Fields(Record& r, Field&& field)
@@ -65,6 +63,12 @@ struct CAPABILITYSET_API FDLibSearchDescription : JsonRecord<FDLibSearchDescript
         field("maxResultNumber", r.maxResultNumber);
         field("searchType", r.searchType);
     }
+
+private:
+    friend JsonRecord<FDLibSearchDescription>;
+
+    /// Reads the times and `Attendance` from `root`.
+    void ReadOnDemand();
 };
 
 /// Days on which a person checked in, or did not.

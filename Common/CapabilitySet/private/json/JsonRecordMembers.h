@@ -1,5 +1,5 @@
-// The members that JsonRecord and JsonPart declare; a source file instantiates them for its own.
-// SPDX-License-Identifier: Apache-2.0
+// Defines the members of JsonRecord and JsonPart; a source file instantiates them for its own
+// records. SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 #include "CapabilitySet/JsonRecord.h"
@@ -24,20 +24,22 @@ void JsonRecord<Record>::Parse(const std::string& text)
 {
     json::WithRoot(text, [this](Json::Value& document) {
         constexpr std::string_view kKey = Record::kKey;
-        if constexpr (kKey.empty()) {
-            root.swap(document);
-        } else {
-            // Checked first: a document that can have no members throws, and root stays.
-            const bool there = !json::MemberOf(document, kKey).isNull();
-            if (there) {
-                root.swap(document[Record::kKey]);
-            } else if constexpr (requires { Record::kMayLackKey; }) {
-                root.swap(document);
-            } else {
-                root = Json::Value();
+        json::RequireObject(document);
+        Json::Value* found = &document;
+        if constexpr (!kKey.empty()) {
+            const bool hasKey = !json::MemberOf(document, kKey).isNull();
+            if (hasKey) {
+                found = &document[Record::kKey];
+            } else if constexpr (!requires { Record::kMayLackKey; }) {
+                document = Json::Value();
             }
         }
+        json::RequireObject(*found);
+        root.swap(*found);
         json::ReadFields(static_cast<Record&>(*this), root);
+        if constexpr (requires(Record& record) { record.ReadOnDemand(); }) {
+            static_cast<Record&>(*this).ReadOnDemand();
+        }
     });
 }
 

@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include <json/value.h>
@@ -26,71 +30,98 @@ concept Scalar = std::is_arithmetic_v<Member> || std::is_same_v<Member, std::str
 template <class Record>
 inline constexpr bool kIsTree = std::is_base_of_v<JsonTree<Record>, Record>;
 
-/// Whether the value, or the lack of one, reads as this member.
+/// Reads a value, or the lack of one, as a member is read; false if it is of the wrong kind.
 template <Scalar Member>
-bool ReadsAs(const Json::Value& value, const Member& member)
+bool ReadScalar(const Json::Value& value, Member& member)
 {
     if (value.isNull()) {
-        return member == Member();
+        member = Member();
+        return true;
     }
     if constexpr (std::is_same_v<Member, std::string>) {
-        return !value.isArray() && !value.isObject() && value.asString() == member;
+        if (value.isArray() || value.isObject()) {
+            return false;
+        }
+        member = value.asString();
     } else if (!value.isBool() && !value.isNumeric()) {
         return false;
     } else if constexpr (std::is_same_v<Member, bool>) {
-        return value.asBool() == member;
+        member = value.asBool();
     } else if constexpr (std::is_same_v<Member, int>) {
-        return value.isConvertibleTo(Json::intValue) && value.asInt() == member;
-    } else if constexpr (std::is_same_v<Member, unsigned int>) {
-        return value.isConvertibleTo(Json::uintValue) && value.asUInt() == member;
-    } else {
-        return value.asDouble() == member;
-    }
-}
-
-/// Visits a field list and compares the first field with an object's: it is what tells the items
-/// of a list apart.
-class FirstField
-{
-public:
-    explicit FirstField(const Json::Value& object) : object_(object) {}
-
-    template <class Member, class... How>
-    void operator()(std::string_view name, const Member& member, How... /*how*/)
-    {
-        if constexpr (Scalar<Member>) {
-            if (!asked_) {
-                same_ = ReadsAs(MemberOf(object_, name), member);
-            }
-        }
-        asked_ = true;
-    }
-
-    [[nodiscard]] bool Same() const { return same_; }
-
-private:
-    const Json::Value& object_;
-    bool asked_ = false;
-    bool same_ = true;
-};
-
-/// Whether an entry of a list holds this item, by its first field.
-template <class Item>
-bool IsOf(const Json::Value& value, const Item& item)
-{
-    if constexpr (Scalar<Item>) {
-        return ReadsAs(value, item);
-    } else if constexpr (std::is_same_v<Item, Json::Value>) {
-        return value == item;
-    } else {
-        if (!value.isObject()) {
+        if (!value.isConvertibleTo(Json::intValue)) {
             return false;
         }
-        FirstField first(value);
-        Item::Fields(item, first);
-        return first.Same();
+        member = value.asInt();
+    } else if constexpr (std::is_same_v<Member, unsigned int>) {
+        if (!value.isConvertibleTo(Json::uintValue)) {
+            return false;
+        }
+        member = value.asUInt();
+    } else {
+        member = value.asDouble();
     }
+    return true;
 }
+
+/// What identifies an item of a list among its siblings: the value itself, or a record's first
+/// field. Items whose first field is not a scalar have none and are identified by position alone.
+using ItemKey = std::variant<std::monostate, bool, int, unsigned int, double, std::string>;
+
+/// Visits a field list and takes the first field's name and value.
+struct FirstField
+{
+    template <class Member, class... How>
+    void operator()(const char* field, const Member& member, How... /*how*/)
+    {
+        if constexpr (Scalar<Member>) {
+            if (name == nullptr) {
+                key = member;
+            }
+        }
+        name = name == nullptr ? field : name;
+    }
+
+    const char* name = nullptr;
+    ItemKey key;
+};
+
+template <class Item>
+FirstField KeyOf(const Item& item)
+{
+    FirstField first;
+    if constexpr (Scalar<Item>) {
+        first.key = item;
+    } else if constexpr (!std::is_same_v<Item, Json::Value>) {
+        Item::Fields(item, first);
+    }
+    return first;
+}
+
+/// The entries of an array that items are about to replace.
+class PreviousEntries
+{
+public:
+    /// `wrapper` is the key under which each entry holds its item, or null.
+    PreviousEntries(const Json::Value& array, const char* wrapper)
+        : array_(array), wrapper_(wrapper)
+    {
+    }
+
+    /// The entry that an item was read from: the next one with the item's key that no other item
+    /// was matched to, or null. `isScalar` tells items without members from records.
+    const Json::Value* Match(const FirstField& item, bool isScalar);
+
+private:
+    /// Whether an entry has a key of the kind of `like`, and which.
+    bool EntryKey(Json::ArrayIndex entry, const FirstField& like, bool isScalar,
+                  ItemKey& key) const;
+
+    const Json::Value& array_;
+    const char* wrapper_;
+    Json::ArrayIndex next_ = 0;
+    /// Unmatched entries by key, from the first item on that does not match the next entry.
+    std::optional<std::set<std::pair<ItemKey, Json::ArrayIndex>>> unmatched_;
+};
 
 /// The value, made an object when it is none.
 inline Json::Value& ObjectOf(Json::Value& value)
@@ -114,7 +145,8 @@ template <class Member>
 void WriteValue(Json::Value& target, const Member& member)
 {
     if constexpr (Scalar<Member>) {
-        if (target.isNull() || !ReadsAs(target, member)) {
+        Member present{};
+        if (target.isNull() || !ReadScalar(target, present) || present != member) {
             target = Json::Value(member);
         }
     } else if constexpr (std::is_same_v<Member, Json::Value>) {
@@ -129,40 +161,25 @@ void WriteValue(Json::Value& target, const Member& member)
     }
 }
 
-/// Writes items into an array that then has as many entries, each in an object under `key` unless
-/// that is null. An item goes over the entry that it was read from, which is the next one with its
-/// first field, or the one in its place when none has that and the list is as long as it was.
+/// Writes items into an array that then has as many entries, each in an object under `wrapper`
+/// unless that is null. An item is written over the entry it was read from; one that matches none
+/// is written from its own fields alone.
 template <class Item>
-void WriteItems(Json::Value& target, const std::vector<Item>& items, const char* key)
+void WriteItems(Json::Value& target, const std::vector<Item>& items, const char* wrapper)
 {
     Json::Value before(Json::arrayValue);
     if (target.isArray()) {
         before.swap(target);
     }
     target = Json::Value(Json::arrayValue);
-    const auto isOf = [&](const Json::Value& entry, const Item& item) {
-        if (key == nullptr) {
-            return IsOf(entry, item);
-        }
-        return entry.isObject() && IsOf(MemberOf(entry, key), item);
-    };
-    const Json::ArrayIndex count = before.size();
-    Json::ArrayIndex next = 0;
+    PreviousEntries previous(before, wrapper);
     for (const auto& element : items) {
         const auto& item = static_cast<const Item&>(element);
         Json::Value& entry = target.append(Json::Value());
-        const Json::ArrayIndex place = target.size() - 1;
-        Json::ArrayIndex tried = 0;
-        while (tried < count && !isOf(before[(next + tried) % count], item)) {
-            ++tried;
+        if (const Json::Value* const match = previous.Match(KeyOf(item), Scalar<Item>)) {
+            entry = *match;
         }
-        if (tried < count) {
-            entry = before[(next + tried) % count];
-            next = (next + tried) % count + 1;
-        } else if (count == items.size()) {
-            entry = before[place];
-        }
-        Json::Value& written = key == nullptr ? entry : ObjectOf(entry)[key];
+        Json::Value& written = wrapper == nullptr ? entry : ObjectOf(entry)[wrapper];
         WriteValue(written, item);
     }
 }

@@ -25,7 +25,7 @@ MemberMatches::MemberMatches(const MemberIndex& index, const Json::Value& object
     }
     std::fill_n(matches_, size, nullptr);
     if (!object.isObject()) {
-        static_cast<void>(MemberOf(object, {}));  // throws, but for null
+        RequireObject(object);
         return;
     }
     const auto end = object.end();
