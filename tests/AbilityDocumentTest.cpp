@@ -2,13 +2,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/AbilityDocument.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "CapabilitySet/BasicCapability.h"
 #include "CapabilitySet/ChannelAbility.h"
+#include "CapabilitySet/DisplayAbility.h"
+#include "CapabilitySet/IntercomAbility.h"
+#include "CapabilitySet/SerialAbility.h"
+#include "CapabilitySet/SmartAbility.h"
+#include "CapabilitySet/XMLConfig/XMLConfigApp.h"
+#include "CapabilitySet/XMLParamInterface/SwitchConfig.h"
 #include "support/LogCapture.h"
 #include "support/XmlTree.h"
 
@@ -108,6 +116,50 @@ TEST(AbilityDocumentTest, OnlyADocumentOfItsOwnReplacesTheLastOne)
     EXPECT_EQ(log.Lines().size(), 6U) << "a root without elements is none to tell of";
     read.Parse("<PTZAbility><b/></PTZAbility>");
     EXPECT_EQ(Outline(read.root), "PTZAbility { b; }") << "replaced whole";
+}
+
+TEST(AbilityDocumentTest, AcceptsTheRootThatDevicesAreAskedWith)
+{
+    const auto read = []<class Record>(const Record& /*type*/, const std::string& root) {
+        const Record record("<" + root + "><a/></" + root + ">");
+        EXPECT_TRUE(record.Capable() && record.Find("a")) << root;
+        EXPECT_EQ(record.root.name, root);
+    };
+    for (const bool asked : {false, true}) {
+        read(CameraPara(), asked ? "CAMERAPARA" : "CameraPara");
+        read(VcaAbility(), asked ? "VcaChanAbility" : "VcaAbility");
+        read(FishEyeAbility(), asked ? "FishEyeIPCAbility" : "FishEyeAbility");
+        read(IntercomDeviceIpViewAbility(),
+             asked ? "IpViewDevAbility" : "IntercomDeviceIpViewAbility");
+        read(CodeSubSystemAbility(), asked ? "VideoPlatformAbility" : "CodeSubSystemAbility");
+    }
+}
+
+TEST(AbilityDocumentTest, LogsAWrongRootWithTheRecordsOwnPlace)
+{
+    struct Case
+    {
+        std::function<void()> parse;
+        const char* file;
+        const char* function;
+    };
+    const std::vector<Case> cases{
+        {[] { FishEyeAbility("<a/>"); }, "ChannelAbility.cpp", "FishEyeAbility::Parse"},
+        {[] { SerialAbility("<a/>"); }, "SerialAbility.cpp", "SerialAbility::Parse"},
+        {[] { CMSearchResult("<a/>"); }, "XMLConfig/XMLConfigApp.cpp", "CMSearchResult::Parse"},
+        {[] { PortRateList().Parse("<a/>"); }, "XMLParamInterface/SwitchConfig.cpp",
+         "PortRateList::Parse"},
+        {[] { BasicCapability("<a/>"); }, "BasicCapability.cpp", "BasicCapability::Parse"},
+    };
+    LogCapture log;
+    for (const Case& each : cases) {
+        log.Clear();
+        each.parse();
+        ASSERT_EQ(log.Lines().size(), 1U) << each.function;
+        EXPECT_EQ(log.Lines()[0].file, std::string("Common/CapabilitySet/") + each.file);
+        EXPECT_EQ(log.Lines()[0].function, std::string("CapabilitySet::") + each.function);
+        EXPECT_GT(log.Lines()[0].line, 0);
+    }
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/AllocationFaults.h"
 #include "support/XmlTree.h"
 
 namespace
@@ -16,7 +15,6 @@ namespace
 
 using namespace CapabilitySet;
 using testing::ElementsAre;
-using TestSupport::AllocationFault;
 using TestSupport::XmlTree;
 using Texts = std::vector<std::string>;
 using Numbers = std::vector<int>;
@@ -261,22 +259,8 @@ TEST(CapabilityElementsTest, JsonLimitsComeWithTheirStatusAndLeaveTheFlag)
     EXPECT_EQ(read.min, 0) << "a missing member reads as zero";
 }
 
-TEST(CapabilityElementsTest, AFlagIsRaisedOnlyForWhatMemorySufficedToRead)
+TEST(CapabilityElementsTest, RaisesTheFlagOfADefault)
 {
-    const std::string piece(40, '1');  // beyond what a string holds without an allocation
-    const XmlTree tree("<e opt='" + piece + "," + piece + "' attri='" + piece +
-                       "'><Range>1,2,3</Range></e>");
-    for (std::size_t ordinal = 1; ordinal < 20; ++ordinal) {
-        OptElement<std::string> options;
-        MinMaxOrRangeElement range;
-        {
-            const AllocationFault fault(AllocationFault::New, ordinal, true);
-            options.Parse(tree.Root());
-            range.Parse(tree.First());
-        }
-        EXPECT_TRUE(!options.capable || options.opt.size() == 2) << ordinal;
-        EXPECT_TRUE(!range.capable || range.range.range.size() == 3) << ordinal;
-    }
     DefaultElement value;
     value.SetCapable();
     EXPECT_TRUE(value.Capable());

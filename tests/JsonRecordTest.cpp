@@ -119,6 +119,8 @@ TEST(JsonRecordTest, SurvivesTextsThatAreNoDocuments)
         const std::vector<std::string> texts{"",
                                              "null",
                                              "[]",
+                                             "[1, 2]",
+                                             "7",
                                              "\"text\"",
                                              "<a/>",
                                              std::string(4, '\0'),
@@ -128,11 +130,17 @@ TEST(JsonRecordTest, SurvivesTextsThatAreNoDocuments)
         Record kept(text);
         for (const std::string& each : texts) {
             EXPECT_TRUE(SameFields(Record(each), Record())) << each;
-            if (Json::Value value; !json::ParseText(each.substr(0, 900), value)) {
+            EXPECT_TRUE(Record(each).root.isNull()) << each;
+            Json::Value value;
+            if (!json::ParseText(each.substr(0, 900), value) ||
+                !(value.isNull() || value.isObject())) {
                 kept.Parse(each);
             }
         }
         EXPECT_TRUE(SameFields(kept, Record(text))) << "what cannot be read changes nothing";
+        EXPECT_EQ(kept.root, Record(text).root);
+        const std::string list = "{\"" + key + "\": [1]}";
+        EXPECT_TRUE(key.empty() || Record(list).root.isNull()) << "a list cannot be sent back";
     });
 }
 
@@ -203,7 +211,41 @@ TEST(JsonRecordTest, WritesAnItemOverTheEntryItWasReadFromAndKeepsTheKindsOfValu
 
     AlarmHostZoneConfig renumbered(text);
     renumbered.zones[1].id = 9;
-    EXPECT_EQ(written(renumbered)[1]["Zone"]["own"], Json::Value("b"));
+    EXPECT_FALSE(written(renumbered)[1]["Zone"].isMember("own")) << "zone 9 is not zone 2";
+    EXPECT_EQ(written(renumbered)[2]["Zone"]["own"], Json::Value("c"));
+}
+
+TEST(JsonRecordTest, MatchesItemsWithoutANumberByPositionAmongThemselves)
+{
+    const char* text = R"({"List": [{"Output": {"delay": 1}}, {"Output": {"id": 5, "delay": 2}},
+                                    {"Output": {"delay": 3}}]})";
+    const auto delays = [](const TriggerListConfig& config) {
+        std::vector<int> read;
+        for (const Json::Value& entry : Parsed(config.Make())["List"]) {
+            read.push_back(entry["Output"].get("delay", 0).asInt());
+        }
+        return read;
+    };
+    TriggerListConfig config(text);
+    EXPECT_THAT(delays(config), ElementsAre(1, 2, 3));
+    config.outputs.erase(config.outputs.begin() + 1);
+    config.outputs.push_back({});
+    EXPECT_THAT(delays(config), ElementsAre(1, 3, 0));
+
+    // As many entries as would take minutes if each item were compared with all of them.
+    std::string nulls = "null";
+    for (int i = 0; i < 20000; ++i) {
+        nulls += ",null";
+    }
+    const TriggerListConfig many("{\"List\": [" + nulls + "]}");
+    EXPECT_EQ(delays(many).size(), 20001U);
+}
+
+TEST(JsonRecordTest, SendsABypassAsItsZoneAlone)
+{
+    const AlarmHostBypassCfg cfg(R"({"zone": 5, "x": 1})");
+    EXPECT_EQ(Parsed(cfg.Make()), Parsed(R"({"zone": "5"})"));
+    EXPECT_EQ(cfg.CreatJsonParser(), cfg.Make());
 }
 
 TEST(JsonRecordTest, ReadsAStatusAfterAResetUpToTheFirstMemberOfTheWrongKind)

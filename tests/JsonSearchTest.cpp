@@ -107,6 +107,23 @@ TEST(JsonSearchTest, AddsZoneAndAttendanceToAFaceLibrarySearchOnlyWhenItHasThem)
         << "what the client put beside the members stays";
 }
 
+TEST(JsonSearchTest, SendsOfAParsedFaceLibrarySearchOnlyWhatItAsksFor)
+{
+    FDLibSearchDescription search(R"({"FDLibSearchDescription": {"searchType": "attendance",
+        "startTime": "2020-01-01T00:00:00+08:00", "endTime": "2020-01-02T00:00:00+08:00",
+        "Attendance": {"dayOfWeek": [2], "FDID": "lib", "minimum": 90}}})");
+    const auto sent = [&] { return Parsed(search.Make())["FDLibSearchDescription"]; };
+    EXPECT_EQ(sent()["Attendance"]["FDID"], "lib");
+    EXPECT_EQ(sent()["Attendance"]["minimum"], 90);
+    EXPECT_FALSE(sent().isMember("startTime") || sent().isMember("endTime"));
+    search.searchType = "face";
+    search.hasTimeRange = true;
+    EXPECT_FALSE(sent().isMember("Attendance"));
+    EXPECT_EQ(sent()["startTime"], "2020-01-01T00:00:00+08:00");
+    search.searchType = "attendance";
+    EXPECT_EQ(sent()["Attendance"]["FDID"], "lib");
+}
+
 TEST(JsonSearchTest, ReadsAWholeFaceLibraryAnswer)
 {
     const FDLibSearchResult result(R"({"FDLibSearchResult": {

@@ -83,139 +83,40 @@ testing::AssertionResult AllAgree(Stream& stream, const std::string& text)
     return result ? Agrees(&StringToBool, stream, text) : result;
 }
 
-/// Texts made of the pieces that number texts are made of, in likely and unlikely order.
-class Generator
+/// A limit of some type, or a neighbour that differs in one digit or one more.
+std::string NearLimit(std::mt19937& random)
 {
-public:
-    Generator()
-    {
-        const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-        std::seed_seq seed(name.begin(), name.end());
-        random_.seed(seed);
+    static constexpr std::array<const char*, 12> kLimits{"2147483647",
+                                                         "2147483648",
+                                                         "4294967295",
+                                                         "4294967296",
+                                                         "9223372036854775807",
+                                                         "9223372036854775808",
+                                                         "18446744073709551615",
+                                                         "3.40282346638528859812e38",
+                                                         "1.40129846432481707e-45",
+                                                         "1.79769313486231570815e308",
+                                                         "4.94065645841246544e-324",
+                                                         "2.22507385850720138e-308"};
+    const auto below = [&random](std::size_t bound) { return random() % bound; };
+    std::string text = kLimits[below(kLimits.size())];
+    char& changed = text[below(text.size())];
+    if (changed >= '0' && changed <= '9' && below(2) == 0) {
+        changed = static_cast<char>('0' + below(10));
     }
-
-    std::string NumberLike()
-    {
-        std::string text = Some(kBlanks, 2) + Some(kSigns, 1) + Some(kZeros, 1) + Digits();
-        text += Chance(3) ? "." + Digits() : "";
-        text += Chance(3) ? Some(kExponents, 1) + Some(kSigns, 1) + Digits(4) : "";
-        return text + Some(kBlanks, 1) + Some(kStrange, 1);
+    for (const char* before : {"0", "-", " "}) {
+        text.insert(0, below(3) == 0 ? before : "");
     }
-
-    std::string Jumble()
-    {
-        std::string text;
-        for (unsigned i = Below(8); i > 0; --i) {
-            text += Some(kBlanks, 1) + Some(kSigns, 1) + Some(kStrange, 1) + Digits(3) +
-                    Some(kExponents, 1) + Some(kZeros, 1);
-        }
-        return text;
-    }
-
-    /// A limit of some type, or a neighbour that differs in one digit or one more.
-    std::string NearLimit()
-    {
-        static const std::array<std::string, 12> limits{"2147483647",
-                                                        "2147483648",
-                                                        "4294967295",
-                                                        "4294967296",
-                                                        "9223372036854775807",
-                                                        "9223372036854775808",
-                                                        "18446744073709551615",
-                                                        "3.40282346638528859812e38",
-                                                        "1.40129846432481707e-45",
-                                                        "1.79769313486231570815e308",
-                                                        "4.94065645841246544e-324",
-                                                        "2.22507385850720138e-308"};
-        std::string text = limits[Below(limits.size())];
-        if (Chance(2)) {
-            const std::size_t at = Below(static_cast<unsigned>(text.size()));
-            text[at] = text[at] >= '0' && text[at] <= '9' ? Digit() : text[at];
-        }
-        text += Chance(4) ? Digits(2) : "";
-        return Some(kBlanks, 1) + Some(kSigns, 1) + Some(kZeros, 1) + text + Some(kStrange, 1);
-    }
-
-    std::string VeryLong()
-    {
-        const std::string many(200 + Below(1200), Chance(2) ? '0' : Digit());
-        std::string text = Some(kSigns, 1) + (Chance(2) ? "0." : "") + many + Digits();
-        text += Chance(3) ? "." + std::string(Below(400), '0') + Digits() : "";
-        return text + (Chance(2) ? Some(kExponents, 1) + Some(kSigns, 1) + Digits(5) : "");
-    }
-
-private:
-    using Pieces = std::vector<std::string>;
-    static inline const Pieces kBlanks{" ", "\t", "\n", "\v", "\f", "\r", "  "};
-    static inline const Pieces kSigns{"+", "-", "-", "+-", "--"};
-    static inline const Pieces kZeros{"0", "00", "000000", "-0"};
-    static inline const Pieces kExponents{"e", "E", "e", "ee", "e0", "p", "d"};
-    static inline const Pieces kStrange{"x",    "X", "0x",   "inf",  "nan",  "INFINITY", ".",
-                                        "..",   ",", "'",    "abc",  "true", "false",    "\xC2\xA0",
-                                        "\xB2", "_", "\x1F", "\x7F", "%",    "f",        "L"};
-
-    unsigned Below(std::size_t bound)
-    {
-        return std::uniform_int_distribution<unsigned>(0,
-                                                       static_cast<unsigned>(bound) - 1)(random_);
-    }
-    bool Chance(unsigned oneIn) { return Below(oneIn) == 0; }
-    char Digit() { return static_cast<char>('0' + Below(10)); }
-
-    std::string Some(const Pieces& pieces, unsigned most)
-    {
-        std::string text;
-        for (unsigned i = Below(most + 2); i > 1; --i) {
-            text += Chance(40) ? std::string(1, '\0') : pieces[Below(pieces.size())];
-        }
-        return text;
-    }
-
-    std::string Digits(unsigned most = 22)
-    {
-        std::string text(Below(most + 1), '0');
-        for (char& digit : text) {
-            digit = Digit();
-        }
-        return text;
-    }
-
-    std::mt19937 random_;
-};
-
-using Maker = std::string (Generator::*)();
-
-void CheckMade(Maker make, int count)
-{
-    Generator generator;
-    Stream stream;
-    int differing = 0;
-    for (int i = 0; i < count && differing < 10; ++i) {
-        const std::string text = (generator.*make)();
-        const testing::AssertionResult agrees = AllAgree(stream, text);
-        EXPECT_TRUE(agrees);
-        differing += agrees ? 0 : 1;
-    }
-}
-
-TEST(NumberTextTest, ReadsNumberLikeTextsAsAStreamDoes)
-{
-    CheckMade(&Generator::NumberLike, 120'000);
-}
-
-TEST(NumberTextTest, ReadsJumbledTextsAsAStreamDoes)
-{
-    CheckMade(&Generator::Jumble, 100'000);
+    return text + (below(4) == 0 ? std::to_string(below(100)) : "");
 }
 
 TEST(NumberTextTest, ReadsTextsAtTheLimitsAsAStreamDoes)
 {
-    CheckMade(&Generator::NearLimit, 100'000);
-}
-
-TEST(NumberTextTest, ReadsVeryLongTextsAsAStreamDoes)
-{
-    CheckMade(&Generator::VeryLong, 5'000);
+    std::mt19937 random;  // NOLINT(cert-msc51-cpp): the same texts in every run
+    Stream stream;
+    for (int i = 0; i < 20'000 && !HasFailure(); ++i) {
+        EXPECT_TRUE(AllAgree(stream, NearLimit(random)));
+    }
 }
 
 TEST(NumberTextTest, ReadsAwkwardTextsAsAStreamDoes)

@@ -65,6 +65,24 @@ TEST(QueryFrameTest, SendsExactlyTheRequestOfEachOperation)
     });
 }
 
+TEST(QueryFrameTest, GrowsTheBufferByTheStepUpToTheLimit)
+{
+    ForEachOperation({{.error = 43}}, [](const OperationRow& row, const ScriptedSdk& sdk) {
+        const Answered answered = row.ask();
+        EXPECT_FALSE(answered.result);
+        EXPECT_EQ(answered.err, Reported(row, 43));
+        std::vector<unsigned> expected;
+        for (unsigned size = row.policy.start; size <= row.policy.limit; size += row.policy.step) {
+            expected.push_back(size);
+        }
+        std::vector<unsigned> sizes;
+        for (const SdkCall& call : Requests(sdk)) {
+            sizes.push_back(call.size);
+        }
+        EXPECT_EQ(sizes, expected);
+    });
+}
+
 TEST(QueryFrameTest, TracesStartAndFinishOfTheBasicCapabilityAlone)
 {
     LogCapture log;
