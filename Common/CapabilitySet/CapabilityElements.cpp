@@ -9,8 +9,8 @@ namespace CapabilitySet
 namespace
 {
 
-/// Finds a child, moves the cursor past it and reads its number; false when there is no such child
-/// or it holds no text.
+/// Finds a child, moves the cursor past it and reads its number; false if there is no such child or
+/// it is empty.
 bool ReadNumber(xmlNode*& cursor, const char* name, unsigned int& value)
 {
     if (!xml::NextElementNamed(cursor, name)) {
@@ -74,7 +74,7 @@ void MinMaxElement::ParseProp(_xmlNode* element)
         return;
     }
     xml::EndAtException([&] {
-        // Kept: devices announce a range they do not have as 0 to 0.
+        // Kept: devices announce a range they do not support as 0 to 0.
         if (xml::ReadBounds(element, min, max) && (min != 0 || max != 0)) {
             capable = true;
         }
@@ -108,7 +108,7 @@ void RangeElement::Parse(_xmlNode* start)
         if (range.empty()) {
             return;
         }
-        // Kept: clients rely on a default being taken only from the node reading starts at.
+        // Kept: clients rely on a default being read only from the node where reading starts.
         if (start != nullptr && IsNamed(start, "Default")) {
             const std::string text = xml::GetNodeString(start);
             if (!text.empty()) {
@@ -130,7 +130,7 @@ void MinMaxOrRangeElement::Parse(_xmlNode* firstChild)
             const auto next = [&start] { start = start == nullptr ? nullptr : start->next; };
             next();
             next();
-            // Kept: the default belongs to the bounds, so that the list never sees it.
+            // Kept: the default belongs to the bounds; the list never gets it.
             if (start != nullptr && IsNamed(start, "Default")) {
                 next();
             }

@@ -1,4 +1,4 @@
-// What a channel can do in its present mode of operation.
+// What a channel can do in its current mode.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/DynChannelAbility.h"
 

@@ -14,7 +14,7 @@ namespace CapabilitySet
 namespace option_codes
 {
 
-// Kept: clients rely on these numbers, on 10 being no code and on "POEPowe".
+// Kept: clients rely on these numbers, on the gap at 10, and on the spelling "POEPowe".
 constexpr OptionCodes::Entry kExceptionTypesEntries[] = {{"diskFull", 0},
                                                          {"diskError", 1},
                                                          {"nicBroken", 2},
@@ -59,7 +59,7 @@ TrackCache& TrackAbilities()
 
 void ReadEvents(EventAbility& events, xmlNode* firstChild)
 {
-    // Kept: devices send -1 for "no channel", which does not make the document count.
+    // Kept: devices send -1 for "no channel", which does not count as an answer.
     constexpr unsigned int kNoChannel = std::numeric_limits<unsigned int>::max();
     xml::FieldReader<EventAbility> reader(firstChild);
     EventAbility::Fields(events, reader);

@@ -15,7 +15,7 @@ namespace
 
 using Kind = RecordNode::Kind;
 
-/// Shortest form that reads back the same, whatever the client's locale.
+/// The shortest form that reads back the same; independent of the locale.
 template <class Value>
 std::string Shortest(Value value)
 {

@@ -10,8 +10,7 @@ namespace CapabilitySet
 namespace
 {
 
-/// The first element of this name below `element`, in the document's order; null when there is
-/// none.
+/// The first element of this name under `element` in document order, or null.
 const AbilityElement* FirstNamed(const AbilityElement& element, const char* name)
 {
     for (const AbilityElement& child : element.children) {

@@ -41,7 +41,7 @@ bool ClusterCapability::GetClusterCap(ClusterCapability& out, unsigned int& err,
 bool DiscoveryModeCap::getDiscoveryModeAbility(DiscoveryModeCap& out, unsigned int& err,
                                                const int userID)
 {
-    // Kept: devices are asked without a line end here.
+    // Kept: this line is sent without a line end.
     return query::AskTransparent(out, err, userID, CAPABILITYSET_HERE,
                                  {"GET /TARN/System/discoveryMode/capabilities"});
 }

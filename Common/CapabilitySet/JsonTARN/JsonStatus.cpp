@@ -31,7 +31,7 @@ void JsonErrorStatus::Parse(const Json::Value& value)
         return;
     }
     id = std::to_string(json::MemberOf(value, "id").asInt());
-    // Kept: clients rely on the word being checked and dropped.
+    // Kept: clients rely on the kind of this member being checked, and on the value being dropped.
     static_cast<void>(json::MemberOf(value, "subStatusCode").asString());
 }
 

@@ -1,4 +1,4 @@
-// Settings and states of switches, wireless links and systems, asked for and set.
+// Queries and settings of switches, wireless links and systems.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLParamInterface/ParamInterface.h"
 
@@ -22,7 +22,7 @@ InterfaceRet ParamInterface::SetSwitchesBasicInfo(const SwitchesBasicInfo& info,
     return SetRecord(info, userID, "PUT /TARN/Transfers/Switches/basicInfo\r\n");
 }
 
-// Kept: switches answer this path, here and below, with its trailing slash alone.
+// Kept: switches answer this path only with its trailing slash.
 InterfaceRet ParamInterface::GetPortRates(PortRateList& out, const int userID)
 {
     return GetRecord(out, userID, "GET /TARN/Transfers/Switches/portCfg/portRate/\r\n",

@@ -1,4 +1,4 @@
-// The process-wide manager that sends requests on the device's protocol with any method.
+// The process-wide manager that sends protocol requests with any method.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLParamInterface/SDKInterfaceManager.h"
 
@@ -28,7 +28,7 @@ enum ErrorType
     kRefusal = 3
 };
 
-/// What a device says of a request that it refuses.
+/// The status a device sends with a refusal.
 struct ResponseStatus
 {
     std::string requestURL;
@@ -37,8 +37,8 @@ struct ResponseStatus
     std::string subStatusCode;
     std::string ID;
 
-    /// Reads a "ResponseStatus" document; anything else leaves the defaults. Nothing is logged:
-    /// the callbacks tell of refusals.
+    /// Reads a "ResponseStatus" document; anything else leaves the defaults. Logs nothing: refusals
+    /// are reported through the callbacks.
     void Parse(const std::string& text)
     {
         xml::EndAtException([&] {
@@ -62,7 +62,7 @@ struct ResponseStatus
     }
 };
 
-/// Copies a call-back into its holder, if there is one and memory for it.
+/// Copies a callback to its holder, if there is a holder and enough memory.
 template <class Holder, class CallBack>
 void Install(Holder* holder, CallBack Holder::*member, const CallBack& callBack)
 {
@@ -84,8 +84,8 @@ struct SDKInterfaceManager::CallBacks
     std::function<int(int, const std::string&)> xmlErrorTrans;
 };
 
-/// One request: its structures, and the buffers that grow while the SDK asks for more room. However
-/// it ends, the caller's answer is cut to the size that the SDK reported for the last call.
+/// One request: its structures, and the buffers that grow while the SDK asks for more. In the end
+/// the caller's answer is always cut to the size the SDK reported for the last call.
 class SDKInterfaceManager::Exchange
 {
 public:
@@ -120,12 +120,12 @@ public:
 
     bool Send(int userID) { return NET_ORB_STDXMLConfig(userID, &input_, &output_) != 0; }
 
-    /// Makes room for what the SDK says it needs; false when that is no more than there is.
+    /// Grows a buffer to the size the SDK asks for; false if it already has that.
     bool Grow(URLType type)
     {
         const std::size_t wanted = output_.returnedSize;
         std::string& buffer = type == URL_PUT ? status_ : answer_;
-        // A device that insists on answering is given room even when no answer is wanted.
+        // Give the device room for its answer even if the caller does not want one.
         const std::size_t present =
             type == URL_PUT ? status_.size() : std::max(answer_.size(), kFirstAnswer);
         if (wanted <= present) {
@@ -142,7 +142,7 @@ public:
 
     [[nodiscard]] bool HasStatus() const { return status_.front() != '\0'; }
 
-    /// The status text, cut to the size that the SDK reported for the last call.
+    /// The status text, cut to the size the SDK reported for the last call.
     [[nodiscard]] std::string Status() const
     {
         return status_.substr(0, std::min<std::size_t>(status_.size(), output_.returnedSize));
@@ -163,11 +163,11 @@ private:
 
     tagNET_ORB_XML_CONFIG_INPUT input_{};
     tagNET_ORB_XML_CONFIG_OUTPUT output_{};
-    std::string line_;  ///< copies: callers may receive the answer where the request stood
+    std::string line_;  ///< copied: the caller may pass one string as request and answer
     std::string body_;
     bool wantsAnswer_;
     std::string ownAnswer_;
-    std::string& answer_;  ///< the caller's, or our own when the caller wants none
+    std::string& answer_;  ///< the caller's, or our own if the caller wants none
     std::string status_;
 };
 
@@ -212,7 +212,7 @@ SDKInterfaceManager::URLType SDKInterfaceManager::RequestUrl2URLType(const std::
     constexpr std::array<Prefix, 4> kPrefixes = {
         {{"GET /", URL_GET}, {"PUT /", URL_PUT}, {"POST /", URL_POST}, {"DELETE /", URL_DELETE}}};
     for (const Prefix& prefix : kPrefixes) {
-        // Kept: clients rely on the NUL taking part, so that only the bare prefix matches.
+        // Kept: clients rely on the NUL being compared too, so that only the bare prefix matches.
         if (std::strncmp(line.c_str(), prefix.text, std::strlen(prefix.text) + 1) == 0) {
             return prefix.type;
         }

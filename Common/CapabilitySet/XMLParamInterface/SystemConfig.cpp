@@ -1,4 +1,4 @@
-// How a device is found on the network, and how it is doing.
+// How devices are discovered on the network, and their status.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/XMLParamInterface/SystemConfig.h"
 

@@ -1,4 +1,4 @@
-// A memory of the process in which the first value saved for a key stays.
+// A process-wide cache that keeps the first value saved under each key.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,27 +10,27 @@
 namespace CapabilitySet
 {
 
-/// Keyed by two texts and a number, ordered by the first text, then the second, then the number.
-/// Grows by one entry a key and never replaces or drops one. No lock: callers serialise its use.
+/// Keyed by two strings and a number and ordered in that sequence. Never replaces or drops an
+/// entry. Not locked: callers must not use it concurrently.
 template <class Number, class Value>
 class KeepFirstCache
 {
 public:
-    /// True when the key has a value afterwards, this one or an earlier one; false only when
-    /// memory ran out.
+    /// True if the key has a value afterwards, whether this or an earlier one; false only if memory
+    /// ran out.
     bool Save(const Value& value, const std::string& first, const std::string& second,
               Number number)
     {
         try {
             values_.try_emplace({first, second, number}, value);
             return true;
-        } catch (...)  // callers are exported, and nothing is thrown at clients
+        } catch (...)  // nothing is thrown at clients
         {
             return false;
         }
     }
 
-    /// Copies the value of a key; false, with `value` left alone, when it has none.
+    /// Copies the value of a key; false, leaving `value` alone, if there is none.
     bool Get(Value& value, const std::string& first, const std::string& second, Number number) const
     {
         try {
@@ -38,11 +38,11 @@ public:
             if (found == values_.end()) {
                 return false;
             }
-            // Copied aside first: a copy that fails halfway must not be seen.
+            // The caller must not see a copy that failed halfway.
             Value copy = found->second;
             value = std::move(copy);
             return true;
-        } catch (...)  // as above
+        } catch (...)  // nothing is thrown at clients
         {
             return false;
         }

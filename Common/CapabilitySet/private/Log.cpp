@@ -1,4 +1,4 @@
-// Log lines that are formatted only when their level is on.
+// Writes log lines, formatting them only if their level is enabled.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/Log.h"
 

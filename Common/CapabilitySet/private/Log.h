@@ -1,4 +1,4 @@
-// Log lines: a place, a level, and text that is made only when it is wanted.
+// Log lines with their place in the source, formatted only if their level is enabled.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,7 +9,7 @@
 namespace CapabilitySet::log
 {
 
-/// Where a log line comes from. All texts are literals: log4cxx keeps the pointers.
+/// Where a log line comes from. All strings must be literals: log4cxx keeps the pointers.
 struct Place
 {
     const char* file;
@@ -18,7 +18,7 @@ struct Place
     const char* name = "";  ///< the function's name alone
 };
 
-/// Where `Record::Parse(const std::string&)` stands, for records that inherit it from a template.
+/// The place of `Record::Parse(const std::string&)`, for records that inherit it from a template.
 template <class Record>
 inline constexpr Place kParsePlace{};
 
@@ -28,7 +28,7 @@ void Info(const Place& place, const char* format, ...) KEEL_PRINTF(2, 3);
 
 }  // namespace CapabilitySet::log
 
-/// Sets kParsePlace of a record to the file that names it.
+/// Sets kParsePlace of a record to the file this stands in.
 #define CAPABILITYSET_PARSE_PLACE(Record)                                                \
     template <>                                                                          \
     inline constexpr log::Place log::kParsePlace<Record>                                 \
@@ -36,6 +36,6 @@ void Info(const Place& place, const char* format, ...) KEEL_PRINTF(2, 3);
         __FILE__, "void CapabilitySet::" #Record "::Parse(const std::string&)", __LINE__ \
     }
 
-/// The exported operation this stands in, for its log lines.
+/// The place of the exported operation this stands in.
 #define CAPABILITYSET_HERE \
     (::CapabilitySet::log::Place{__FILE__, __PRETTY_FUNCTION__, __LINE__, __func__})

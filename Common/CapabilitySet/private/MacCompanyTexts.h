@@ -8,9 +8,9 @@
 namespace CapabilitySet
 {
 
-/// Three JSON objects whose members are prefix to label, in the order in which they are loaded.
-/// Literals: there before anything is constructed and after everything is destroyed. Generated from
-/// data/mac/ by cmake/MacCompanyTexts.cmake.
+/// Three JSON objects that map prefixes to labels, in loading order. They are literals, so usable
+/// before any static object is constructed and after all are destroyed. Generated from data/mac/ by
+/// cmake/MacCompanyTexts.cmake.
 std::array<std::string_view, 3> MacCompanyTexts();
 
 }  // namespace CapabilitySet

@@ -1,4 +1,4 @@
-// Text to number, exactly as a stream with the classic locale reads it, without a stream.
+// Converts text to numbers exactly as a stream with the classic locale does, without a stream.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/NumberText.h"
 
@@ -22,10 +22,10 @@ constexpr bool IsBlank(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/// Takes blanks and a sign off the front of the text; true for a minus.
+/// Removes leading blanks and one sign; true for a minus.
 bool TakeSign(std::string_view& text)
 {
-    // As nearly every number of a device: what is greater than '-' is neither.
+    // The usual case first: a character above '-' is neither blank nor sign.
     if (!text.empty() && text.front() > '-') {
         return false;
     }
@@ -39,7 +39,7 @@ bool TakeSign(std::string_view& text)
     return isNegative;
 }
 
-/// The number at the front of the text; limit + 1 for every one that is greater than the limit.
+/// The number at the start of the text, or limit + 1 if it exceeds the limit.
 template <std::uint64_t limit>
 std::uint64_t ReadDigits(std::string_view text)
 {
@@ -63,11 +63,11 @@ Integer ReadSigned(std::string_view text)
     constexpr auto max = static_cast<std::uint64_t>(std::numeric_limits<Integer>::max());
     const bool isNegative = TakeSign(text);
     const std::uint64_t value = ReadDigits<max>(text);
-    // One more than the greatest value is, negative, the smallest one.
+    // The smallest value is one further from zero than the greatest.
     return static_cast<Integer>(isNegative ? 0 - value : std::min(value, max));
 }
 
-/// Length of the mantissa at the front of the text; 0 when it has no digit.
+/// Length of the mantissa at the start of the text; 0 if it has no digit.
 std::size_t MantissaLength(std::string_view text)
 {
     std::size_t length = 0;
@@ -82,8 +82,8 @@ std::size_t MantissaLength(std::string_view text)
     return length > points ? length : 0;
 }
 
-/// Length of the exponent at the front of the text, 0 when there is none; npos when it has no
-/// digits: a stream then gives up the mantissa too.
+/// Length of the exponent at the start of the text; 0 if there is none, npos if it has no digits,
+/// in which case a stream drops the mantissa too.
 std::size_t ExponentLength(std::string_view text)
 {
     if (text.empty() || (text[0] != 'e' && text[0] != 'E')) {
@@ -94,7 +94,7 @@ std::size_t ExponentLength(std::string_view text)
     return end > digits ? end : std::string_view::npos;
 }
 
-/// Whether a decimal number that its type cannot hold is too large rather than too small.
+/// Whether an unrepresentable number is too large, as opposed to too small.
 bool IsLarge(std::string_view mantissa, std::string_view exponent)
 {
     const std::size_t point = std::min(mantissa.find('.'), mantissa.size());

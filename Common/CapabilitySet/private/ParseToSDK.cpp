@@ -1,4 +1,4 @@
-// From the option strings of capability documents to enumerations and codes.
+// Converts the option strings of capability documents to enumerations and codes.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/ParseToSDK.h"
 
@@ -51,7 +51,7 @@ const OptionCodes kWorkModes{"WorkModeType", kWorkModesEntries};
 
 constexpr OptionCodes::Entry kOutputDataTypesEntries[] = {{"cardNo", CardNo},
                                                           {"employeeNo", EmployeeNo}};
-// Kept: support staff search logs for this spelling, which is not the type's.
+// Kept: support staff search logs for this spelling, which differs from the type's.
 const OptionCodes kOutputDataTypes{"OutputDataType", kOutputDataTypesEntries};
 
 template <class Type>
@@ -84,7 +84,7 @@ bool ConvertHandleTypeFromXmlStr(std::vector<AlarmHandleType::HandleType>& out,
     if (!Convert(kHandleTypes, out, in)) {
         return false;
     }
-    // A device may upload to FTP servers without listing it among the options.
+    // A device may support FTP upload without listing it.
     if (loginHandle != -1 && std::find(in.opt.begin(), in.opt.end(), kUploadFtp) == in.opt.end()) {
         BasicCapability basic;
         unsigned int err = 0;

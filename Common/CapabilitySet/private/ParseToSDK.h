@@ -1,4 +1,4 @@
-// From the option strings of capability documents to enumerations and codes.
+// Converts the option strings of capability documents to enumerations and codes.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace CapabilitySet
 {
 
-/// Option strings and the codes they stand for, compared byte for byte in this order.
+/// Option strings and their codes, compared byte for byte in this order.
 struct OptionCodes
 {
     struct Entry
@@ -20,23 +20,23 @@ struct OptionCodes
         int code;
     };
 
-    const char* name;  ///< as the log names the table
+    const char* name;  ///< of the table, in log lines
     std::span<const Entry> entries;
     std::span<const std::string_view> uncoded = {};  ///< known options that have no code
 };
 
-/// Calls `append` with the code of each option in the document's order; an option that is in no
-/// list is one error line and skipped. False when there are no options at all.
+/// Calls `append` with the code of each option in order. An unknown option is logged and skipped.
+/// False if there are no options.
 template <class Append>
 bool ForEachCode(const OptionCodes& table, const OptElement<std::string>& in, Append&& append);
 
-/// The code of an option; null after the error line for an unknown one, and for one without code.
+/// The code of an option; null if it has none or, after an error line, if it is unknown.
 const int* CodeOf(const OptionCodes& table, const std::string& option);
 
-// Each conversion clears `out` first and returns false only for an empty option list.
+// Each conversion clears `out` first and returns false only if there are no options.
 
-/// Unless "uploadftp" is among the options, a device that is logged in (any handle but -1) and
-/// whose basic capability announces FTP upload gets AlarmHandleType::UploadFtp as well.
+/// Appends AlarmHandleType::UploadFtp if "uploadftp" is not listed, the handle is not -1 and the
+/// basic capability of that device announces FTP upload.
 bool ConvertHandleTypeFromXmlStr(std::vector<AlarmHandleType::HandleType>& out,
                                  const OptElement<std::string>& in, int loginHandle);
 bool ConvertRecordTypeFromXmlStr(std::vector<RecordType::Type>& out,
@@ -59,9 +59,9 @@ bool ForEachCode(const OptionCodes& table, const OptElement<std::string>& in, Ap
     return !in.opt.empty();
 }
 
-/// The login handle of the alarm ability query in progress, which the records of its answer
-/// convert their handling options with; -1 before the first. One for the process: callers query
-/// one device's alarm ability at a time.
+/// The login handle of the last alarm ability query, used to convert the handling options of its
+/// answer; -1 before the first query. There is one for the process: callers query the alarm ability
+/// of one device at a time.
 int AlarmQueryHandle();
 void SetAlarmQueryHandle(int loginHandle);
 

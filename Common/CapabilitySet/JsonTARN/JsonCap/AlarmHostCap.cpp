@@ -1,4 +1,4 @@
-// What an alarm host has, takes as commands, and tells of its state.
+// What an alarm host has, which commands it accepts, and which states it reports.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonCap/AlarmHostCap.h"
 

@@ -7,7 +7,7 @@
 namespace CapabilitySet
 {
 
-/// Found by the writer through its argument's namespace.
+/// The JSON writer finds this by argument-dependent lookup.
 static void WriteValue(Json::Value& target, const OptJsonElement& element)
 {
     if (element.capable) {

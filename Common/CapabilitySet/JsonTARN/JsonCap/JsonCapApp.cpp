@@ -82,7 +82,7 @@ bool JsonCapApp::getDeeplyThinkAnalysisCap(DeeplyThinkBehaviorCap& out, unsigned
 bool JsonCapApp::getmisinfoConfirmCap(MisinfoConfirmCap& out, unsigned int& error,
                                       const unsigned int userID)
 {
-    // Kept: devices and support staff know the line without a method and the bare log line.
+    // Kept: the line without a method, and the bare tag that support staff search logs for.
     static constexpr query::Policy kPolicy{.growth = query::kJson.growth,
                                            .limit = query::LimitReport::Silent,
                                            .failure = query::FailureReport::Tag,

@@ -15,11 +15,11 @@ namespace CapabilitySet
 namespace
 {
 
-// Outlives the table, whose destruction it tells.
+// Outlives the table, so that it can tell when the table is destroyed.
 constinit std::atomic<bool> sharedIsGone{false};
 
-/// The table that objects share, as long as the library is loaded. A client's static objects may
-/// outlive it: they hold what they use, and those made later load a table of their own.
+/// The table that all objects share while the library is loaded. Static objects of a client may
+/// outlive it: they keep what they use, and later ones load a table of their own.
 template <class Companies>
 struct Shared
 {
@@ -48,7 +48,7 @@ void CMacCompanyHelper::initialTable()
             LoadTexts();
             return;
         }
-        // The first object loads what all share; when that fails, the next one tries.
+        // The first object loads the shared table; if that fails, the next one tries.
         static const Shared<Companies> table([&] {
             LoadTexts();
             return std::make_shared<Companies>(std::move(own_));
@@ -79,11 +79,11 @@ void CMacCompanyHelper::convertStringToMap(std::string_view text)
         const char* labelBegin = nullptr;
         const char* labelEnd = nullptr;
         if (!member->getString(&labelBegin, &labelEnd)) {
-            continue;  // no text
+            continue;  // not a string
         }
         const char* prefixEnd = nullptr;
         const char* const prefixBegin = member.memberName(&prefixEnd);
-        // A prefix that is there keeps its label.
+        // A prefix that is already there keeps its label.
         own_.try_emplace(std::string(prefixBegin, prefixEnd), labelBegin, labelEnd);
     }
 }
@@ -106,7 +106,7 @@ std::string CMacCompanyHelper::getCompanyNameByMAc(std::string prefix)
         label = LabelOf(std::move(prefix));
         log::Info(CAPABILITYSET_HERE, "CMacCompanyHelper::getCompanyNameByMAc: strCompanyName [%s]",
                   label.c_str());
-    } catch (...)  // out of memory: the label, when it was found, is still told
+    } catch (...)  // out of memory: a label that was found is still returned
     {
     }
     return label;

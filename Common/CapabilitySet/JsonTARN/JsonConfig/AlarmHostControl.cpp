@@ -1,4 +1,4 @@
-// What a client tells an alarm host to do.
+// Commands to an alarm host.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/AlarmHostControl.h"
 
@@ -16,7 +16,7 @@ template struct JsonRecord<DetectorSilence>;
 namespace
 {
 
-/// Any constant in the form of a host name serves the devices.
+/// Devices accept any host name here.
 constexpr const char* kLogMetaId = "log.tarn.example";
 
 std::string SubSystemsBody(const OperateSubSystemsInfo& info, bool withArmType)
@@ -52,7 +52,7 @@ std::string AlarmHostLogConditionDescription::Make() const
         search["searchID"] = searchID;
         Json::Value& span = search["timeSpanList"][0]["timeSpan"];
         span["startTime"] = startTime;
-        // Kept: devices expect these two misspelt keys, and numbers as text.
+        // Kept: devices expect these two misspelt keys, and the numbers as strings.
         span["endTIme"] = endTime;
         search["searchResultPostion"] = std::to_string(searchResultPosition);
         search["maxResults"] = std::to_string(maxResults);

@@ -1,4 +1,4 @@
-// What an alarm host tells beyond the library's own queries: the client fetches these itself.
+// Records of alarm hosts that have no query here: clients fetch these documents themselves.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/AlarmHostInfo.h"
 

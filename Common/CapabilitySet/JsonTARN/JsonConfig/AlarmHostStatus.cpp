@@ -1,4 +1,4 @@
-// What an alarm host tells of its communication, zones, subsystems, outputs and log.
+// Communication state, zones, subsystems, outputs and log of an alarm host.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/AlarmHostStatus.h"
 

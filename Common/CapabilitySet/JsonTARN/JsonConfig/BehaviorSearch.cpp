@@ -1,4 +1,4 @@
-// Searching analysed behaviour, and telling the device which of its alarms were false.
+// Searching analysed behaviour, and marking false alarms.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/BehaviorSearch.h"
 

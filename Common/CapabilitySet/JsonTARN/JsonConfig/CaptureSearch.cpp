@@ -1,4 +1,4 @@
-// Searching captured faces: what to look for, and one page of what was found.
+// Searching captured faces: conditions, and a page of results.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/CaptureSearch.h"
 

@@ -1,4 +1,4 @@
-// Searching face libraries: what to look for, one page of what was found, the package of it.
+// Searching face libraries: conditions, a page of results, and the data package.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/FaceLibrarySearch.h"
 
@@ -25,7 +25,7 @@ template struct JsonRecord<FDLibFCSearchPackageByTaskID>;
 namespace
 {
 
-// Kept: devices take the times as of this zone, whatever the client's is.
+// Kept: times are sent with this offset, whatever the client's time zone is.
 constexpr std::string_view kZone = "+08:00";
 
 std::string WithoutZone(std::string time)

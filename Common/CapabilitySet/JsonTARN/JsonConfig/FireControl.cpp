@@ -1,4 +1,4 @@
-// Fire detectors: their states, and how their alarms are silenced.
+// Fire detectors: their states, and silencing their alarms.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/FireControl.h"
 

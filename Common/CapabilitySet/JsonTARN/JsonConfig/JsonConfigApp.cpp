@@ -170,7 +170,7 @@ bool JsonConfigApp::GetManualFaceSnapCfg(ManualFaceSnapCfg& out, unsigned int& e
 bool JsonConfigApp::setManualPersonTrack(ManualPersonArmingTrack& track, unsigned int& error,
                                          const int channel, const int userID)
 {
-    // Kept: devices get this line without its end.
+    // Kept: this line is sent without a line end.
     query::NoAnswer none;
     return AskJson(none, error, userID, CAPABILITYSET_HERE,
                    {"PUT /TARN/Intelligent/channels/", SdkChannel{channel},
@@ -228,7 +228,7 @@ bool JsonConfigApp::GetCaptureSearchResult(CaptureSearchDescription& description
                                            CaptureSearchResult& out, unsigned int& error,
                                            const int userID)
 {
-    // Kept: devices get this line without a format.
+    // Kept: this line is sent without "?format=json".
     return AskJson(out, error, userID, CAPABILITYSET_HERE,
                    {"POST /TARN/SDT/Face/captureSearch\r\n"},
                    [&] { return description.CreatJsonParser(); });
@@ -264,7 +264,7 @@ bool JsonConfigApp::SearchTargetFiles(TargetSearchDescription& description, Targ
 bool JsonConfigApp::getDataCenterResource(DataCenterTaskResult& out,
                                           const DataCenterTaskCond& condition, const int userID)
 {
-    // Kept: devices get this line without its end.
+    // Kept: this line is sent without a line end.
     unsigned int error = 0;
     return AskJson(out, error, userID, CAPABILITYSET_HERE,
                    {"POST /TARN/SDT/Management/Task/Video/monitorPort/search?format=json"},
@@ -284,7 +284,7 @@ bool JsonConfigApp::GetFCDataPackageByJson(CaptureSearchDescription& description
                                            tagNET_ORB_XML_CONFIG_OUTPUT& out, unsigned int& error,
                                            const int userID)
 {
-    // Kept: devices get this line without a format.
+    // Kept: this line is sent without "?format=json".
     return query::DownloadPackage(out, error, userID, CAPABILITYSET_HERE,
                                   {"POST /TARN/SDT/Face/captureSearch/dataPackage\r\n"},
                                   [&] { return description.CreatJsonParser(); });
@@ -359,7 +359,7 @@ bool JsonConfigApp::GetFDLibFCSearchDataPackage(FDLibFCSearchPackageByTaskID& ou
 bool JsonConfigApp::GetImagesComparision(ImagesCmpDescription& description, ImagesCmpResult& out,
                                          unsigned int& error, const int userID)
 {
-    // Kept: devices get this line without a format.
+    // Kept: this line is sent without "?format=json".
     return AskJson(out, error, userID, CAPABILITYSET_HERE,
                    {"POST /TARN/Intelligent/imagesComparision/face\r\n"},
                    [&] { return description.CreatJsonParser(); });
@@ -392,7 +392,7 @@ bool JsonConfigApp::setMisinfoConfirmConfig(const MisinfoConfirm& confirm, JsonS
 bool JsonConfigApp::GetAudioDectioinCfg(CAudioDectionCfg& out, unsigned int& error,
                                         const int channel, const int userID)
 {
-    // Kept: devices get the client's own channel number, and the line without its end.
+    // Kept: the client's channel number is sent unconverted, and the line without a line end.
     return AskJson(out, error, userID, CAPABILITYSET_HERE,
                    {"GET /TARN/System/Audio/channels/", channel, "/Test?format=json"});
 }
@@ -400,7 +400,7 @@ bool JsonConfigApp::GetAudioDectioinCfg(CAudioDectionCfg& out, unsigned int& err
 bool JsonConfigApp::SetAudioDectioinCfg(const CAudioDectionCfg& cfg, unsigned int& error,
                                         const int channel, const bool /*flag*/, const int userID)
 {
-    // Kept: devices get the client's own channel number, and the line without its end.
+    // Kept: the client's channel number is sent unconverted, and the line without a line end.
     query::NoAnswer none;
     return AskJson(none, error, userID, CAPABILITYSET_HERE,
                    {"PUT /TARN/System/Audio/channels/", channel, "/Test?format=json"},
@@ -427,7 +427,7 @@ bool JsonConfigApp::GetAudioLibBaseConfig(AudioLibBaseConfig& out, unsigned int&
 bool JsonConfigApp::getFiberConvertSlotList(FiberConvertSlotList& out, unsigned int& error,
                                             const int userID)
 {
-    // Kept: devices get this line without its end.
+    // Kept: this line is sent without a line end.
     return AskJson(out, error, userID, CAPABILITYSET_HERE,
                    {"GET /TARN/Transfers/FiberConvert/slot?format=json"});
 }

@@ -1,4 +1,4 @@
-// What a client starts by hand: face snaps, tracking, thermometry, de-icing.
+// Manual actions: face snapshots, tracking, thermometry, de-icing.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/ManualControl.h"
 

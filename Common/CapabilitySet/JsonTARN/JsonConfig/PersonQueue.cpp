@@ -1,4 +1,4 @@
-// Searching what was counted at queues: their lengths and waiting times.
+// Searching queue statistics: lengths and waiting times.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/PersonQueue.h"
 

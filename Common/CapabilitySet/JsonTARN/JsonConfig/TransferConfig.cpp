@@ -1,4 +1,4 @@
-// What transmission equipment tells of itself: slots of fibre converters, power over Ethernet.
+// Transmission equipment: slots of fibre converters, power over Ethernet.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/JsonTARN/JsonConfig/TransferConfig.h"
 

@@ -49,7 +49,7 @@ inline void ReadValue(const Json::Value& value, std::string& member)
     }
 }
 
-/// A value that is kept as it is.
+/// A value kept unchanged.
 inline void ReadValue(const Json::Value& value, Json::Value& member)
 {
     member = value;
@@ -62,7 +62,7 @@ auto ReadValue(const Json::Value& value, Part& member) -> decltype(member.Parse(
     return member.Parse(value);
 }
 
-/// An element that reads a text of its own, and swallows what is wrong with it.
+/// An element that parses JSON text itself and ignores what is wrong with it.
 template <class Element>
 auto ReadValue(const Json::Value& value, Element& member)
     -> decltype(member.Parse(StyledText(value)))
@@ -71,14 +71,14 @@ auto ReadValue(const Json::Value& value, Element& member)
     return member.Parse(StyledText(value));
 }
 
-/// Appends the entries of an array in order; a scalar and null have none.
+/// Appends the entries of an array in order; null and scalars have none.
 template <class Item>
 void ReadValue(const Json::Value& value, std::vector<Item>& items);
 
 template <class Item>
 void ReadItem(const Json::Value& value, Item& item);
 
-// The ways of reading a member that a tag tells.
+// One overload for each way of reading that a tag names.
 
 template <class Member>
 void ReadAs(const Json::Value& value, Member& member, as::Plain /*how*/)
@@ -102,8 +102,8 @@ inline void ReadAs(const Json::Value& value, int& member, as::DecimalText /*how*
     member = StringToInt(value.asString());
 }
 
-/// Calls `read` for each entry of an array in order. A scalar has no entries, no more than null; an
-/// object that holds something is of the wrong kind.
+/// Calls `read` for each entry of an array in order. Null and scalars have no entries; a non-empty
+/// object is of the wrong kind.
 template <class Read>
 void ForEachEntry(const Json::Value& value, Read&& read)
 {
@@ -118,12 +118,12 @@ void ForEachEntry(const Json::Value& value, Read&& read)
     }
 }
 
-/// Appends an item for each entry; `valueOf` tells what of the entry it is read from. One that
-/// holds a member of the wrong kind is not listed, and ends the reading.
+/// Appends an item for each entry, read from the value that `valueOf` picks. An entry with a member
+/// of the wrong kind is not listed and ends the reading.
 template <class Item, class ValueOf>
 void AppendItems(const Json::Value& value, std::vector<Item>& items, ValueOf&& valueOf)
 {
-    // Entries take little text: how many there are is not worth memory for as many items at once.
+    // A short text can claim many entries: do not reserve for all of them at once.
     constexpr Json::ArrayIndex kReserved = 1024;
     if (value.isArray()) {
         items.reserve(items.size() + std::min(value.size(), kReserved));
@@ -147,7 +147,7 @@ void ReadAs(const Json::Value& value, std::vector<Item>& items, as::Wrapped how)
     });
 }
 
-/// The record type `Record`'s names, made on first use.
+/// The field names of a record type, collected on first use.
 template <class Record>
 const MemberIndex& IndexOf()
 {
@@ -163,8 +163,8 @@ const MemberIndex& IndexOf()
     return index;
 }
 
-/// Visits a field list and reads each member, there or not: a missing one reads as false, 0 or
-/// empty. Throws what JsonCpp throws for a member of the wrong kind.
+/// Visits a field list and reads each member. A missing one reads as false, 0 or empty. Throws what
+/// JsonCpp throws for a member of the wrong kind.
 template <class Record>
 class FieldReader
 {

@@ -1,4 +1,4 @@
-// Reading JSON answers: the text into a tree, and members without a presence test.
+// Reads JSON answers: parses the text, and finds members without testing for them.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -17,17 +17,17 @@
 namespace CapabilitySet::json
 {
 
-/// Parses a text with the reader's default features, comments collected.
+/// Parses a text with the default features of the reader, collecting comments.
 inline bool ParseText(std::string_view text, Json::Value& root)
 {
     Json::Reader reader;
     return reader.parse(text.data(), text.data() + text.size(), root, true);
 }
 
-/// A tree as indented text, a line end behind it.
+/// A tree as indented text with a trailing newline.
 inline std::string StyledText(const Json::Value& value)
 {
-    // Not value.toStyledString(): there memory that runs out cuts the text short, in silence.
+    // Not value.toStyledString(), which silently cuts the text short when memory runs out.
     std::ostringstream text;
     text.exceptions(std::ios::badbit);
     const Json::StreamWriterBuilder builder;
@@ -37,8 +37,8 @@ inline std::string StyledText(const Json::Value& value)
     return text.str();
 }
 
-/// A member of an object; null when there is none. Throws what JsonCpp throws for a value that can
-/// have no members.
+/// A member of an object, null if there is none. Throws what JsonCpp throws for a value that cannot
+/// have members.
 inline const Json::Value& MemberOf(const Json::Value& object, std::string_view name)
 {
     const Json::Value* const member = object.find(name.data(), name.data() + name.size());
@@ -48,12 +48,14 @@ inline const Json::Value& MemberOf(const Json::Value& object, std::string_view n
 /// Throws what JsonCpp throws for a value that cannot have members; null passes, it has none.
 inline void RequireObject(const Json::Value& value)
 {
-    static_cast<void>(MemberOf(value, {}));
+    if (!value.isObject()) {
+        static_cast<void>(MemberOf(value, ""));
+    }
 }
 
-/// Hands the root of an answer to `read`. An empty text and one that is not JSON read nothing; an
-/// exception, such as JsonCpp's for a member of the wrong kind, ends the reading and goes nowhere
-/// (but see ThrowScope).
+/// Passes the root of an answer to `read`. Empty text and text that is not JSON read nothing. An
+/// exception, such as the one JsonCpp throws for a member of the wrong kind, ends the reading here;
+/// only running out of memory inside a ThrowScope goes on to the caller.
 template <class Read>
 void WithRoot(const std::string& text, Read&& read)
 {
@@ -62,10 +64,10 @@ void WithRoot(const std::string& text, Read&& read)
     }
     try {
         Json::Value root;
-        // Where memory fails JsonCpp takes a decimal number for a malformed one: asked again, it
-        // reads the text or runs out of memory for good.
+        // When memory runs out, JsonCpp mistakes a decimal number for a malformed one. A second
+        // attempt either reads the text or runs out of memory for good.
         if (ParseText(text, root) || (ThrowScope::Active() && ParseText(text, root))) {
-            // A part that reads a text of its own ends the whole reading when memory runs out.
+            // Running out of memory in a part that parses its own text ends the whole reading.
             const ThrowScope parts;
             read(root);
         }
@@ -74,12 +76,12 @@ void WithRoot(const std::string& text, Read&& read)
             throw;
         }
     } catch (const Json::RuntimeError& error) {
-        // What JsonCpp makes of a malloc that failed; the other one is a text too deep to parse.
+        // JsonCpp throws this for a failed malloc, and for a text nested too deeply.
         if (ThrowScope::Active() &&
             std::string_view(error.what()).find("allocate") != std::string_view::npos) {
             throw std::bad_alloc();
         }
-    } catch (...)  // what was read before stays; answers never throw at the client
+    } catch (...)  // what was read stays; nothing is thrown at clients
     {
     }
 }

@@ -20,17 +20,17 @@
 namespace CapabilitySet::json
 {
 
-// What stands at the target already stays where no field writes over it. A value that reads as the
-// field's own stays too, so that a device gets a number back where it sent one for a text.
+// Values already at the target stay unless a field overwrites them. So does a value that reads the
+// same as its field: a device that sent a number for a text gets a number back.
 
 template <class Member>
 concept Scalar = std::is_arithmetic_v<Member> || std::is_same_v<Member, std::string>;
 
-/// Whether a record has no members of its own, but all that the device said.
+/// Whether a record lists no members and keeps everything the device sent instead.
 template <class Record>
 inline constexpr bool kIsTree = std::is_base_of_v<JsonTree<Record>, Record>;
 
-/// Reads a value, or the lack of one, as a member is read; false if it is of the wrong kind.
+/// Reads a value, or null, the way a member is read; false if it is of the wrong kind.
 template <Scalar Member>
 bool ReadScalar(const Json::Value& value, Member& member)
 {
@@ -63,11 +63,11 @@ bool ReadScalar(const Json::Value& value, Member& member)
     return true;
 }
 
-/// What identifies an item of a list among its siblings: the value itself, or a record's first
-/// field. Items whose first field is not a scalar have none and are identified by position alone.
+/// Identifies a list item among its siblings: the value itself, or the first field of a record.
+/// Items whose first field is not a scalar have no key and are identified by position alone.
 using ItemKey = std::variant<std::monostate, bool, int, unsigned int, double, std::string>;
 
-/// Visits a field list and takes the first field's name and value.
+/// Visits a field list and keeps the name and value of the first field.
 struct FirstField
 {
     template <class Member, class... How>
@@ -97,7 +97,7 @@ FirstField KeyOf(const Item& item)
     return first;
 }
 
-/// The entries of an array that items are about to replace.
+/// The entries of an array that is about to be rewritten.
 class PreviousEntries
 {
 public:
@@ -107,23 +107,23 @@ public:
     {
     }
 
-    /// The entry that an item was read from: the next one with the item's key that no other item
-    /// was matched to, or null. `isScalar` tells items without members from records.
+    /// The entry an item was read from: the next one with the item's key that no other item has
+    /// taken, or null. `isScalar` is true for items that are values, not records.
     const Json::Value* Match(const FirstField& item, bool isScalar);
 
 private:
-    /// Whether an entry has a key of the kind of `like`, and which.
+    /// Sets `key` to the key of an entry; false if the entry has none of the kind of `like`.
     bool EntryKey(Json::ArrayIndex entry, const FirstField& like, bool isScalar,
                   ItemKey& key) const;
 
     const Json::Value& array_;
     const char* wrapper_;
     Json::ArrayIndex next_ = 0;
-    /// Unmatched entries by key, from the first item on that does not match the next entry.
+    /// Entries not yet taken, by key. Filled when an item first fails to match the next entry.
     std::optional<std::set<std::pair<ItemKey, Json::ArrayIndex>>> unmatched_;
 };
 
-/// The value, made an object when it is none.
+/// The value, turned into an empty object if it is not an object.
 inline Json::Value& ObjectOf(Json::Value& value)
 {
     if (!value.isObject()) {
@@ -161,9 +161,9 @@ void WriteValue(Json::Value& target, const Member& member)
     }
 }
 
-/// Writes items into an array that then has as many entries, each in an object under `wrapper`
-/// unless that is null. An item is written over the entry it was read from; one that matches none
-/// is written from its own fields alone.
+/// Writes items into an array, each in an object under `wrapper` unless that is null. An item is
+/// written over the entry it was read from; one that matches no entry is written from its own
+/// fields alone.
 template <class Item>
 void WriteItems(Json::Value& target, const std::vector<Item>& items, const char* wrapper)
 {
@@ -190,7 +190,7 @@ void WriteValue(Json::Value& target, const std::vector<Item>& items)
     WriteItems(target, items, nullptr);
 }
 
-/// Visits a field list and writes each member; a part or a value that is not there is not written.
+/// Visits a field list and writes each member, except absent parts and values.
 class FieldWriter
 {
 public:
@@ -241,13 +241,13 @@ private:
 template <class Record>
 void WriteFields(Json::Value& target, const Record& record)
 {
-    // What lists no members is the device's own value, of whatever kind.
+    // A record without members keeps the value the device sent, of whatever kind.
     if (!kIsTree<Record> || target.isNull()) {
         Record::Fields(record, FieldWriter(ObjectOf(target)));
     }
 }
 
-/// A record under its own key, over what the device said.
+/// Writes a record under its own key, over what the device sent.
 template <class Record>
 Json::Value& WriteRecord(Json::Value& document, const Record& record)
 {
@@ -258,8 +258,8 @@ Json::Value& WriteRecord(Json::Value& document, const Record& record)
     return target;
 }
 
-/// The styled text of a document that `write` fills; empty when memory ran out, which inside an
-/// operation is thrown on.
+/// The styled text of the document that `write` fills. Empty if memory runs out, unless a
+/// ThrowScope lets the exception through.
 template <class Write>
 std::string MakeText(Write&& write)
 {
@@ -267,7 +267,7 @@ std::string MakeText(Write&& write)
         Json::Value document(Json::objectValue);
         write(document);
         return StyledText(document);
-    } catch (...) {  // callers are exported, and nothing is thrown at clients
+    } catch (...) {  // nothing is thrown at clients
         if (ThrowScope::Active()) {
             throw;
         }

@@ -1,4 +1,4 @@
-// Finds all fields of a record in one walk over a JSON object's members.
+// Finds all fields of a record in one pass over the members of a JSON object.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/json/MemberIndex.h"
 

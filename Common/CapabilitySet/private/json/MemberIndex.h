@@ -1,4 +1,4 @@
-// Finds all fields of a record in one walk over a JSON object's members.
+// Finds all fields of a record in one pass over the members of a JSON object.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,13 +12,13 @@
 namespace CapabilitySet::json
 {
 
-/// The names of a record's fields, and where each stands in reading order.
+/// The field names of a record and their places in reading order.
 class MemberIndex
 {
 public:
     void Add(std::string_view name) { fields_.push_back({name, fields_.size()}); }
 
-    /// Sorts as JsonCpp sorts an object's members; called once, after the last Add.
+    /// Sorts the names as JsonCpp sorts members. Call once, after the last Add.
     void Finish();
 
 private:
@@ -33,17 +33,17 @@ private:
     std::vector<Field> fields_;
 };
 
-/// The members of one object that a record's fields are read from. A look-up for each field would
-/// cost more where most of them are missing, as they are in the entries of long lists.
+/// The members of one object that match a record's fields. Looking up each field would cost more
+/// where most are missing, as in the entries of long lists.
 class MemberMatches
 {
 public:
-    /// Throws what JsonCpp throws for a value that can have no members.
+    /// Throws what JsonCpp throws for a value that cannot have members.
     MemberMatches(const MemberIndex& index, const Json::Value& object);
     MemberMatches(const MemberMatches&) = delete;
     MemberMatches& operator=(const MemberMatches&) = delete;
 
-    /// The member of the field at this place; null when there is none.
+    /// The member for the field at this place, null if there is none.
     [[nodiscard]] const Json::Value& operator[](std::size_t place) const
     {
         return matches_[place] == nullptr ? Json::Value::nullSingleton() : *matches_[place];
@@ -53,7 +53,8 @@ private:
     static constexpr std::size_t kInline = 64;
 
     std::array<const Json::Value*, kInline> inline_;
-    std::vector<const Json::Value*> more_;  ///< for records of very many fields
+    std::vector<const Json::Value*>
+        more_;  ///< used by records with more fields than `inline_` holds
     const Json::Value** matches_;
 };
 

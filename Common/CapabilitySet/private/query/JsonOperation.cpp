@@ -25,7 +25,7 @@ std::size_t ConversionLetter(std::string_view text)
     return at;
 }
 
-/// A formatted copy and its NUL in a zeroed buffer of at least `size` bytes.
+/// A formatted copy, NUL included, in a zeroed buffer of at least `size` bytes.
 std::string Buffered(std::string_view text, std::size_t size)
 {
     std::string buffer = FormattedCopy(text);

@@ -1,4 +1,4 @@
-// The buffer an answer is received into.
+// The buffer that receives an answer: zeroed before each attempt, larger each time.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/query/ReceiveBuffer.h"
 
@@ -17,7 +17,7 @@ namespace
 
 /// Below this the heap is cheaper than a mapping.
 constexpr std::size_t kSmallestMapping = 128 * 1024;
-/// Answers mostly fit the start of a buffer: cleared in place it keeps its pages.
+/// Most answers fit into this much; clearing it in place keeps its pages.
 constexpr std::size_t kClearedInPlace = 16 * 1024;
 /// A multiple of every page size.
 constexpr std::size_t kMovedAtOnce = 4 * 1024 * 1024;

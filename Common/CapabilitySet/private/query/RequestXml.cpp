@@ -1,4 +1,4 @@
-// The one-line documents that select what a device ability is asked for.
+// The one-line documents that select what a device ability query returns.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/query/RequestXml.h"
 

@@ -1,4 +1,4 @@
-// The one-line documents that select what a device ability is asked for.
+// The one-line documents that select what a device ability query returns.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -8,16 +8,16 @@
 namespace CapabilitySet::query
 {
 
-/// A root element, with or without its version, and its children in the order they are added.
+/// Builds a root element, with or without a version, and its children in order.
 class RequestXml
 {
 public:
-    /// An empty version writes no attribute.
+    /// An empty version omits the attribute.
     explicit RequestXml(std::string_view root, std::string_view version = "2.0");
 
     RequestXml& Child(std::string_view name, std::string_view text);
     RequestXml& Child(std::string_view name, long long number);
-    /// An empty element; an empty name adds nothing.
+    /// Adds an empty element, unless the name is empty.
     RequestXml& Empty(std::string_view name);
 
     [[nodiscard]] std::string Text() const;
@@ -27,10 +27,10 @@ private:
     std::string text_;
 };
 
-/// What stands for "no channel" in the documents that always name one.
+/// Means "no channel" in documents that always name one.
 inline constexpr std::string_view kNoChannel = "0xff";
 
-/// A root with the child "channelNO"; a negative channel asks for the device as a whole.
+/// A root with the child "channelNO", left out if the channel is negative.
 std::string ChannelXml(std::string_view root, long long channel);
 
 }  // namespace CapabilitySet::query

@@ -22,7 +22,7 @@ void AbilityRecord<Record>::Parse(const std::string& text)
 
 }  // namespace CapabilitySet
 
-/// Instantiates a record's members; log lines of its Parse then name this file.
+/// Instantiates a record's members. Log lines of its Parse name this file.
 #define CAPABILITYSET_ABILITY_RECORD(Record) \
     CAPABILITYSET_PARSE_PLACE(Record);       \
     template struct AbilityRecord<Record>

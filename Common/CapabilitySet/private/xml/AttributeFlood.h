@@ -1,4 +1,4 @@
-// Finds elements of more attributes than any device sends, before the parser meets them.
+// Finds elements with more attributes than any device sends, before the parser does.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -7,13 +7,13 @@
 namespace CapabilitySet::xml
 {
 
-/// No device puts more on one element.
+/// The most attributes on one element; no device sends more.
 inline constexpr int kMostAttributes = 1000;
 
-/// Whether a document in UTF-8 holds a start tag of more than kMostAttributes attributes,
-/// namespaces counted. The parser compares each attribute of an element with every other, before
-/// any hook runs: 200,000 of them take a minute. Documents under 64 KiB have no room for enough to
-/// matter and are not looked at.
+/// Whether a UTF-8 document holds a start tag with more than kMostAttributes attributes and
+/// namespace declarations. The parser compares each attribute of an element with all others before
+/// it calls any hook: 200,000 take a minute. Documents under 64 KiB cannot hold enough to matter
+/// and are not checked.
 bool HoldsAttributeFlood(std::string_view text);
 
 }  // namespace CapabilitySet::xml

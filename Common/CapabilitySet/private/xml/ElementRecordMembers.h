@@ -1,4 +1,4 @@
-// The member that ElementRecord declares; a source file instantiates it for its own records.
+// Defines the member of ElementRecord; a source file instantiates it for its own records.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 

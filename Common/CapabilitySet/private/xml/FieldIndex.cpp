@@ -1,4 +1,4 @@
-// Finds all fields of a record in one pass over an element's children.
+// Finds all fields of a record in one pass over the children of an element.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/xml/FieldIndex.h"
 
@@ -41,8 +41,8 @@ void FieldIndex::Finish()
     }
 }
 
-/// Made of the name's length and of its two ends: the names of one record differ there, and a
-/// device that sends others alike gains one more comparison each.
+/// Hashes the length and both ends of the name, where the names of a record differ. Other names
+/// that collide cost one comparison each.
 std::uint32_t FieldIndex::HashOf(const char* name)
 {
     const std::size_t length = std::strlen(name);
@@ -85,8 +85,8 @@ FieldMatches::FieldMatches(const FieldIndex& index, xmlNode* firstChild) : index
     }
 }
 
-/// Takes each child for the field of its name. False when a field stands behind one that comes
-/// later in the record: then the cursor, which goes for the earlier field, skips some of them.
+/// Matches each child to the field of its name. False if a field appears after one that comes later
+/// in the record; the cursor, looking for the earlier field first, then skips some.
 bool FieldMatches::MatchInOrder(xmlNode* firstChild)
 {
     std::size_t next = 0;
@@ -109,11 +109,11 @@ bool FieldMatches::MatchInOrder(xmlNode* firstChild)
     return true;
 }
 
-/// What a cursor finds that searches each name from where the last one was found. It never
-/// searches for a name that does not follow, so that it passes each child once.
+/// Finds what a cursor finds that searches for each name from where the last one was found. It
+/// never searches for a name that does not follow, so each child is passed once.
 void FieldMatches::MatchByCursor(xmlNode* firstChild)
 {
-    std::vector<std::size_t> last(index_.Size());  // of each name, counted from 1
+    std::vector<std::size_t> last(index_.Size());  // last position of each name, from 1
     std::size_t ordinal = 0;
     for (const xmlNode* child = firstChild; child != nullptr; child = child->next) {
         if (child->type != XML_ELEMENT_NODE) {

@@ -1,4 +1,4 @@
-// Finds all fields of a record in one pass over an element's children.
+// Finds all fields of a record in one pass over the children of an element.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,14 +13,14 @@
 namespace CapabilitySet::xml
 {
 
-/// The names of a record's fields in reading order, and where each stands in that order.
+/// The field names of a record and their places in reading order.
 class FieldIndex
 {
 public:
-    /// A field as its list gives it; a repeated one takes every element of its name that follows.
+    /// Adds the next field. A repeated one takes every following element of its name.
     void Add(const char* name, bool repeated);
 
-    /// Makes the look-up; called once, after the last Add.
+    /// Builds the look-up table. Call once, after the last Add.
     void Finish();
 
     [[nodiscard]] std::size_t Size() const { return fields_.size(); }
@@ -29,7 +29,7 @@ public:
 
     static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-    /// The first field of this name, or kNone.
+    /// The first field with this name, or kNone.
     [[nodiscard]] std::size_t Find(const char* name) const;
 
 private:
@@ -41,7 +41,7 @@ private:
     struct Slot
     {
         std::uint32_t hash = 0;
-        std::uint32_t field = 0;  ///< 1 is the first one, 0 an empty slot
+        std::uint32_t field = 0;  ///< field number + 1; 0 for an empty slot
     };
 
     static std::uint32_t HashOf(const char* name);
@@ -50,9 +50,8 @@ private:
     std::vector<Slot> slots_;
 };
 
-/// Where the fields of one record stand among an element's children: for each field the element
-/// that the forward cursor would find for it. An element out of order costs what it costs the
-/// cursor, the fields it skips over, but no further pass for each missing name.
+/// The child element of each field, as the forward cursor would find it. Elements out of order cost
+/// the fields that the cursor skips over; missing ones cost no further pass.
 class FieldMatches
 {
 public:
@@ -61,7 +60,7 @@ public:
     FieldMatches(const FieldMatches&) = delete;
     FieldMatches& operator=(const FieldMatches&) = delete;
 
-    /// The element of a field, of a repeated one its first; null when it is not read.
+    /// The element of a field, or the first one if it is repeated; null if it is not read.
     [[nodiscard]] xmlNode* operator[](std::size_t field) const { return matches_[field]; }
 
 private:
@@ -72,7 +71,7 @@ private:
 
     const FieldIndex& index_;
     std::array<xmlNode*, kInline> inline_;
-    std::vector<xmlNode*> more_;  ///< for records of very many fields
+    std::vector<xmlNode*> more_;  ///< used by records with more fields than `inline_` holds
     xmlNode** matches_;
 };
 

@@ -1,4 +1,4 @@
-// Keeps libxml2 quiet on a thread, and tells whether it ran out of memory.
+// Silences libxml2 on a thread and detects when it runs out of memory.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -8,8 +8,8 @@
 namespace CapabilitySet::xml
 {
 
-/// While one lives, nothing that libxml2 reports on this thread reaches the client's handlers or
-/// stderr. Starts with the last error forgotten.
+/// While one exists, nothing libxml2 reports on this thread reaches the client's handlers or
+/// stderr. Resets the last error first.
 class QuietLibxml
 {
 public:
@@ -23,11 +23,11 @@ public:
     QuietLibxml(const QuietLibxml&) = delete;
     QuietLibxml& operator=(const QuietLibxml&) = delete;
 
-    /// Whether an allocation failed since the start: many functions go on without what they could
-    /// not copy, and say so nowhere else.
+    /// Whether an allocation failed since the start. Many libxml2 functions go on without what they
+    /// could not copy and report it nowhere else.
     [[nodiscard]] static bool RanOutOfMemory() { return ranOutOfMemory_; }
 
-    /// The handler: the last error alone would not do, since any later warning takes its place.
+    /// The error handler. Checking the last error is not enough: a later warning replaces it.
     static void Note(void* /*context*/, xmlErrorPtr error)
     {
         ranOutOfMemory_ = ranOutOfMemory_ || error->code == XML_ERR_NO_MEMORY;

@@ -1,4 +1,4 @@
-// One parser context per thread, kept between documents, that trusts no device.
+// Parses documents in one context per thread, hardened against hostile devices.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/xml/XmlDocument.h"
 
@@ -19,14 +19,14 @@ namespace CapabilitySet::xml
 namespace
 {
 
-/// A kept dictionary beyond this is given back: a device could fill it with names.
+/// A larger dictionary is freed, not kept for the next document.
 constexpr std::size_t kMostDictionaryBytes = 256 * 1024;
 
-/// Names of one document, in bytes: a hundred thousand and more. The dictionary's time grows with
-/// their square.
+/// Bytes of names in one document, enough for more than a hundred thousand. Looking names up takes
+/// time quadratic in their number.
 constexpr std::size_t kLargestDictionary = 1024 * 1024;
 
-/// Values that a document gives its elements by declaration, at most.
+/// Bytes of attribute values that a document may add by declaration.
 constexpr std::size_t kMostDefaultedBytes = 64 * 1024;
 
 struct FreeContext
@@ -37,17 +37,17 @@ using Context = std::unique_ptr<xmlParserCtxt, FreeContext>;
 
 constexpr const char* kFlood = "An element has more than 1000 attributes";
 
-/// Why a hook refused the document being parsed on this thread; no message when none did.
+/// Why a hook refused the document being parsed on this thread; null message if none did.
 thread_local struct
 {
     int line;
     const char* message;
 } refusal;
 
-/// Bytes of attributes that the document being parsed on this thread has by declaration alone.
+/// Bytes of attributes that declarations have added to the document being parsed.
 thread_local std::size_t defaulted;
 
-/// Ends the parse: the document counts as one that is not well-formed.
+/// Stops parsing; the document counts as malformed.
 void Refuse(xmlParserCtxt* context, const char* why)
 {
     refusal = {context->input == nullptr ? 0 : context->input->line, why};
@@ -69,8 +69,8 @@ void RefuseUnparsedEntity(void* context, const xmlChar* /*name*/, const xmlChar*
     Refuse(static_cast<xmlParserCtxt*>(context), kEntities);
 }
 
-/// Declared values, up to the size that is allowed, for each element of a name: a few kilobytes of
-/// document can stand for gigabytes of attributes.
+/// Whether declared attribute values exceed their limit. They apply to every element of a name, so
+/// a few kilobytes can stand for gigabytes.
 bool DefaultsTooMuch(int defaultedCount, int attributeCount, const xmlChar** attributes)
 {
     auto bytes = static_cast<std::size_t>(defaultedCount);
@@ -86,7 +86,7 @@ void StartElement(void* context, const xmlChar* localName, const xmlChar* prefix
                   int attributeCount, int defaultedCount, const xmlChar** attributes)
 {
     auto* const parser = static_cast<xmlParserCtxt*>(context);
-    // Names are looked up among all namespaces in scope, each element's own and its parents'.
+    // Names are looked up among all namespaces in scope, those of the parents included.
     if (attributeCount > kMostAttributes || parser->nsNr / 2 > kMostAttributes) {
         Refuse(parser, kFlood);
         return;
@@ -105,7 +105,7 @@ Context NewContext(Form form)
     if (context == nullptr) {
         throw std::bad_alloc();
     }
-    // Set whatever the client's global defaults say, so that they are not obeyed.
+    // Set explicitly, so that the client's global defaults have no effect.
     const bool blankFree = form == Form::BlankFree;
     context->options =
         XML_PARSE_COMPACT | XML_PARSE_IGNORE_ENC | (blankFree ? XML_PARSE_NOBLANKS : 0);
@@ -125,7 +125,7 @@ Context NewContext(Form form)
     return context;
 }
 
-/// `encoding` is what was wrong with that, before the parser saw the text.
+/// `encoding` is a problem found before the parser saw the text.
 Problem LastProblem(const Problem& encoding = {})
 {
     if (refusal.message != nullptr) {
@@ -138,8 +138,8 @@ Problem LastProblem(const Problem& encoding = {})
     return {error->line, error->message == nullptr ? "" : error->message};
 }
 
-/// Puts the text, which ends in a NUL, before the context as its only input. The parser reads it
-/// where it stands and frees nothing of it. False: no memory.
+/// Makes the text, which ends in a NUL, the only input of the context. The parser reads it in place
+/// and does not free it. False if memory runs out.
 bool Feed(xmlParserCtxt* context, std::string_view text)
 {
     xmlParserInput* const input =
@@ -184,10 +184,9 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
     xmlParseDocument(context.get());
     Document document(context->myDoc);
     context->myDoc = nullptr;
-    // A tree that was built while memory ran out is wrong in places, well-formed or not, and says
-    // nothing of the text.
+    // A tree built while memory ran out is wrong in places, whether well-formed or not.
     const bool ranOut = QuietLibxml::RanOutOfMemory();
-    // A dictionary at its limit tells the same.
+    // A dictionary at its limit reports the same.
     if (ranOut && xmlDictGetUsage(context->dict) <= kMostDictionaryBytes) {
         throw std::bad_alloc();
     }
@@ -196,11 +195,11 @@ Document ParseText(const std::string& text, Form form, Problem& problem)
         problem = LastProblem(utf8.Refusal());
         return nullptr;
     }
-    // A kept context keeps neither the caller's text nor a copy of it.
+    // Drop the input: a kept context must not refer to the caller's text.
     while (xmlParserInput* const input = inputPop(context.get())) {
         xmlFreeInputStream(input);
     }
-    // Only after a clean parse is the context as good as new, and worth keeping.
+    // Only a context that parsed cleanly is worth keeping.
     if (xmlDictGetUsage(context->dict) <= kMostDictionaryBytes) {
         kept[static_cast<int>(form)] = std::move(context);
     }

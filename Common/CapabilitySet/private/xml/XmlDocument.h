@@ -1,4 +1,4 @@
-// A parsed XML document, and the one way in which the library parses one.
+// A parsed XML document and the one way the library parses it.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -16,8 +16,8 @@ namespace CapabilitySet::xml
 /// How a document is parsed.
 enum class Form
 {
-    Plain,     ///< the encoding is the document's own, blank texts stay in the tree
-    BlankFree  ///< UTF-8 whatever the document declares, blank texts removed
+    Plain,     ///< encoding as declared; blank texts stay in the tree
+    BlankFree  ///< always UTF-8; blank texts are removed
 };
 
 struct FreeDocument
@@ -33,10 +33,10 @@ struct Problem
     std::string message;
 };
 
-/// Parses a text up to its first NUL. Silent; touches and obeys none of the client's libxml2
-/// defaults and handlers; loads nothing from elsewhere; refuses declared entities and elements of
-/// more than 1,000 attributes. Null and a filled `problem` when the text is no document. Throws
-/// std::bad_alloc.
+/// Parses a text up to its first NUL. Reports nothing, and neither changes nor obeys the client's
+/// libxml2 defaults and handlers. Loads nothing from elsewhere, and refuses declared entities and
+/// elements with more than 1,000 attributes. Returns null and fills `problem` if the text is not a
+/// document. Throws std::bad_alloc.
 Document ParseText(const std::string& text, Form form, Problem& problem);
 
 /// Which root a record accepts besides its own, and what it logs when there is none.
@@ -48,14 +48,14 @@ struct RootRule
     bool logsMismatch = true;     ///< whether a wrong root is logged at all
 };
 
-/// Parses `text`, checks its root's name, and hands the root to `read`. An empty text is a silent
-/// no-op; every failure is one error line. Nothing is thrown.
+/// Parses `text`, checks the name of its root, and passes the root to `read`. Empty text is ignored
+/// silently; every failure logs one error line. Never throws.
 template <class Read>
 void WithRoot(const std::string& text, const char* rootName, const log::Place& place, Read&& read,
               Form form = Form::Plain, const RootRule& rule = {});
 
-/// The part of WithRoot that does not depend on the reader: the document, its root in `root`, or
-/// null after the line that says why.
+/// The part of WithRoot that does not depend on the reader. Returns the document and sets `root`,
+/// or returns null after a log line that says why.
 Document OpenRoot(const std::string& text, const char* rootName, const log::Place& place, Form form,
                   const RootRule& rule, xmlNode*& root);
 

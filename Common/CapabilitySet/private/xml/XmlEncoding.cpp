@@ -1,4 +1,4 @@
-// The encoding that an XML text declares, and the text in UTF-8.
+// Finds the declared encoding of an XML text and converts the text to UTF-8.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/xml/XmlEncoding.h"
 
@@ -19,10 +19,10 @@ namespace CapabilitySet::xml
 namespace
 {
 
-/// Converters count in int, and take up to three bytes for one.
+/// Converters count in int and may triple the size.
 constexpr std::size_t kMostConverted = 256 * 1024 * 1024;
 
-/// What is left of a declaration, taken off piece by piece, just as far as the parser gets.
+/// The rest of an XML declaration, consumed piece by piece exactly as far as the parser gets.
 class Declaration
 {
 public:
@@ -35,7 +35,7 @@ public:
         return isNext;
     }
 
-    /// As many characters as belong to these, at most `most`.
+    /// Consumes characters while `belongs` accepts them, at most `most`.
     template <class Belongs>
     std::string_view TakeWhile(Belongs belongs, std::size_t most = std::string_view::npos)
     {
@@ -55,7 +55,8 @@ public:
         return !TakeWhile(isBlank).empty();
     }
 
-    /// Up to the value of an attribute; its quote, or NUL where no value begins.
+    /// Consumes everything before the value of an attribute. Returns the quote, or NUL if no value
+    /// starts here.
     char TakeValueStart()
     {
         TakeBlanks();
@@ -87,8 +88,7 @@ void TakeVersion(Declaration& declaration)
     declaration.Take({&quote, 1});
 }
 
-/// Where the text's declaration names its encoding; empty where it does not, or not in a way that
-/// the parser takes.
+/// The encoding name as it stands in the text; empty if there is none the parser accepts.
 std::string_view DeclaredEncoding(std::string_view text)
 {
     Declaration declaration(text);
@@ -130,7 +130,7 @@ struct Free
 template <class Held>
 using Owned = std::unique_ptr<Held, Free>;
 
-/// Null: there is none of that name.
+/// Null if there is no such converter.
 Owned<xmlCharEncodingHandler> FindConverter(const std::string& encoding)
 {
     Owned<char> name(xmlMemStrdup(encoding.c_str()));
@@ -138,7 +138,7 @@ Owned<xmlCharEncodingHandler> FindConverter(const std::string& encoding)
         throw std::bad_alloc();
     }
     Owned<xmlCharEncodingHandler> converter(xmlFindCharEncodingHandler(encoding.c_str()));
-    // One that there was no memory to name is never freed.
+    // libxml2 never frees a converter that it could not name.
     if (converter != nullptr && converter->name == nullptr) {
         converter->name = name.release();
     }
@@ -148,11 +148,11 @@ Owned<xmlCharEncodingHandler> FindConverter(const std::string& encoding)
     return converter;
 }
 
-/// The beginning that can be converted.
+/// Converts the text up to the first byte that is invalid in its encoding.
 std::string Converted(std::string_view text, xmlCharEncodingHandler& converter)
 {
     if (text.empty()) {
-        return {};  // no buffer is made for nothing
+        return {};  // xmlBufferCreateStatic refuses empty text
     }
     const Owned<xmlBuffer> in(xmlBufferCreateStatic(const_cast<char*>(text.data()), text.size()));
     const Owned<xmlBuffer> out(xmlBufferCreate());

@@ -1,4 +1,4 @@
-// The ways of reading a field that are not worth inlining.
+// Reads the kinds of fields that are not worth inlining.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/xml/XmlFields.h"
 
@@ -78,7 +78,7 @@ bool ReadValue(xmlNode* node, std::vector<int>& codes, as::Codes how)
 bool ReadValue(xmlNode* node, std::vector<AlarmHandleType::HandleType>& types, as::HandleTypes how)
 {
     const OptElement<std::string> options(node);
-    // An event query never asks the device for anything else: only an alarm query lends its login.
+    // Only an alarm query lends its login: an event query asks the device for nothing else.
     ConvertHandleTypeFromXmlStr(types, options, how.withAlarmLogin ? AlarmQueryHandle() : -1);
     return options.capable;
 }

@@ -1,4 +1,4 @@
-// Reads a record's field list from an element's children.
+// Reads the field list of a record from the children of an element.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,12 +13,12 @@
 #include "CapabilitySet/private/xml/XmlDocument.h"
 #include "CapabilitySet/private/xml/XmlReading.h"
 
-// The families of records differ in three properties, each told by the record itself:
+// The families of records differ in three properties, which each record states:
 // - its flag is `valid` or `capable`, or it has none;
-// - Parse(_xmlNode*) takes the element, or its first child: records with `valid`, and those that
-//   state `kParseTakesFirstChild`;
-// - a nested record counts as read when it is found (records with `valid`), or when its own flag is
-//   raised (records with `capable`, and those that state `kNestedFlagCounts`).
+// - Parse(_xmlNode*) takes the element, or its first child if the record has `valid` or states
+// `kParseTakesFirstChild`;
+// - a nested record counts as read when it is found, or, in records with `capable` and those that
+// state `kNestedFlagCounts`, when its own flag is raised.
 
 namespace CapabilitySet::xml
 {
@@ -34,7 +34,7 @@ concept TakesFirstChild = HasValid<Record> || requires { requires Record::kParse
 template <class Record>
 concept NestedFlagCounts = HasCapable<Record> || requires { requires Record::kNestedFlagCounts; };
 
-/// A record, as against a value or a shared element type: it has a field list.
+/// A record, as opposed to a value or a shared element type: it has a field list.
 template <class Type>
 concept IsRecord = requires(Type& r) { Type::Fields(r, [](auto&&... /*field*/) {}); };
 
@@ -60,8 +60,7 @@ bool FlagOf(const Record& record)
     }
 }
 
-// One overload for each way of reading; the result tells whether the record that holds the member
-// counts as read.
+// One overload for each way of reading. The result says whether the owner counts as read.
 
 inline bool ReadValue(xmlNode* node, bool& value, as::Plain /*how*/)
 {
@@ -88,7 +87,7 @@ inline bool ReadValue(xmlNode* node, std::string& value, as::Plain /*how*/)
     return true;
 }
 
-/// Numbers of the other widths.
+/// Numbers of other types.
 bool ReadValue(xmlNode* node, long long& value, as::Plain how);
 bool ReadValue(xmlNode* node, float& value, as::Plain how);
 bool ReadValue(xmlNode* node, double& value, as::Plain how);
@@ -120,7 +119,7 @@ bool ReadValue(xmlNode* node, Value& value, as::Noted<bool> how)
     return ReadValue(node, value, as::plain);
 }
 
-/// An element type whose attributes can be read in place of its children.
+/// An element type that can read attributes instead of children.
 template <class Element>
     requires requires(Element& value, xmlNode* node) { value.ParseProp(node); }
 bool ReadValue(xmlNode* node, Element& value, as::Attributes /*how*/)
@@ -129,7 +128,7 @@ bool ReadValue(xmlNode* node, Element& value, as::Attributes /*how*/)
     return true;
 }
 
-/// A record or element type with a Parse of its own.
+/// A record or element type with its own Parse.
 template <ParsesNode Nested>
 bool ReadValue(xmlNode* node, Nested& value, as::Plain /*how*/)
 {
@@ -137,7 +136,7 @@ bool ReadValue(xmlNode* node, Nested& value, as::Plain /*how*/)
     return true;
 }
 
-/// Appends the elements of this name, from `first` on among its siblings.
+/// Appends the elements of this name among `first` and its following siblings.
 template <class Item>
 void AppendItems(xmlNode* first, const char* name, std::vector<Item>& items)
 {
@@ -161,7 +160,7 @@ void AppendItems(xmlNode* first, const char* name, std::vector<std::shared_ptr<I
 template <class Item>
 bool ReadValue(xmlNode* first, std::vector<Item>& items, as::Repeated /*how*/)
 {
-    // The name is that of the first item: the field's own.
+    // `first` has the field's own name.
     AppendItems(first, reinterpret_cast<const char*>(first->name), items);
     return true;
 }
@@ -177,7 +176,7 @@ template <class Member, class How>
 concept ReadableAs =
     requires(xmlNode* node, Member& member, How how) { ReadValue(node, member, how); };
 
-/// The record type `Record`'s names and their order, made on first use.
+/// The field names of a record type and their order, collected on first use.
 template <class Record>
 const FieldIndex& IndexOf()
 {
@@ -220,10 +219,10 @@ public:
         }
     }
 
-    /// Whether a field was read that counts.
+    /// Whether a field was read that makes the record count as read.
     [[nodiscard]] bool Read() const { return read_; }
 
-    /// Whether the field's element was found.
+    /// Whether the element of a field was found.
     [[nodiscard]] bool Found(const char* name) const
     {
         return matches_[IndexOf<Record>().Find(name)] != nullptr;
@@ -235,7 +234,7 @@ private:
     bool read_ = false;
 };
 
-/// Reads a record's fields from an element's children; may throw std::bad_alloc.
+/// Reads a record's fields from the children of an element. May throw std::bad_alloc.
 template <class Record>
 void ReadFields(Record& record, xmlNode* firstChild)
 {
@@ -246,8 +245,8 @@ void ReadFields(Record& record, xmlNode* firstChild)
     }
 }
 
-/// The whole of a record's Parse(_xmlNode*): `node` is the element or its first child, whichever
-/// this record takes; null reads nothing. Nothing is thrown.
+/// Implements a record's Parse(_xmlNode*): `node` is the element or its first child, whichever the
+/// record takes; null reads nothing. Never throws.
 template <class Record>
 void ParseNode(Record& record, xmlNode* node)
 {
@@ -261,7 +260,7 @@ void ParseNode(Record& record, xmlNode* node)
     EndAtException([&] { ReadFields(record, firstChild); });
 }
 
-/// The whole of a root record's Parse(const std::string&).
+/// Implements the Parse(const std::string&) of a root record.
 template <class Record>
 void ParseDocument(Record& record, const std::string& text, const char* rootName,
                    const log::Place& place, Form form = Form::Plain, const RootRule& rule = {})

@@ -1,4 +1,4 @@
-// Reading libxml2 trees: the forward cursor, texts in place, and values from them.
+// Reads libxml2 trees: the forward cursor, texts in place, and values.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/xml/XmlReading.h"
 
@@ -25,7 +25,7 @@ const char* Chars(const xmlChar* text)
     return reinterpret_cast<const char*>(text);
 }
 
-/// Whether a chain of children is one piece of text, which may then be viewed where it is.
+/// Whether the children are a single text, which can be viewed in place.
 bool IsOnePiece(const xmlNode* child)
 {
     return child->next == nullptr &&
@@ -37,7 +37,7 @@ std::string_view View(const xmlChar* text)
     return text == nullptr ? std::string_view{} : std::string_view{Chars(text)};
 }
 
-/// A copy for which memory ran out is null or cut short: neither is the text.
+/// Copies a text; throws if memory ran out, when libxml2 returns null or a shortened copy.
 template <class Copy>
 std::string_view Keep(Copy&& copy, std::string& spare)
 {
@@ -80,7 +80,7 @@ std::string_view TextOf(const xmlNode* node, std::string& spare)
 bool AttributeOf(const xmlNode* element, const char* name, std::string& spare,
                  std::string_view& value)
 {
-    // A compact tree keeps short texts where elements keep their attributes.
+    // In a compact tree, text nodes use the field in which elements keep their attributes.
     const xmlAttr* attribute = element->type == XML_ELEMENT_NODE ? element->properties : nullptr;
     while (attribute != nullptr && std::strcmp(Chars(attribute->name), name) != 0) {
         attribute = attribute->next;
@@ -93,7 +93,7 @@ bool AttributeOf(const xmlNode* element, const char* name, std::string& spare,
         value = View(attribute->children->content);
         return true;
     }
-    // An attribute in pieces, or one that a document type gives a default.
+    // The attribute consists of pieces, or gets its value from the document type.
     const auto* key = reinterpret_cast<const xmlChar*>(name);
     if (attribute == nullptr && (element->doc == nullptr || element->doc->intSubset == nullptr ||
                                  xmlHasProp(element, key) == nullptr)) {

@@ -1,4 +1,4 @@
-// Reading libxml2 trees: the forward cursor, texts in place, and values from them.
+// Reads libxml2 trees: the forward cursor, texts in place, and values.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -14,15 +14,15 @@
 namespace CapabilitySet::xml
 {
 
-/// From the node under the cursor on, itself included, finds the next element of this name
-/// (exact, case-sensitive, namespaces ignored). True: the cursor stands on it; false: it stays.
+/// Finds the next element of this name (exact, ignoring namespaces), starting with the node under
+/// the cursor. On true the cursor is moved there; on false it stays.
 bool NextElementNamed(xmlNode*& cursor, const char* name);
 
-/// The text of a node, viewed in place when it is one piece; otherwise `spare` holds a copy. Valid
-/// while both the document and `spare` live. Empty for a null node. Throws std::bad_alloc.
+/// The text of a node, viewed in place if it is a single piece and copied to `spare` otherwise.
+/// Valid while the document and `spare` exist. Empty for null. Throws std::bad_alloc.
 std::string_view TextOf(const xmlNode* node, std::string& spare);
 
-/// An attribute's text, in the same manner; false when the element has no such attribute.
+/// The text of an attribute, in the same way; false if the element does not have it.
 bool AttributeOf(const xmlNode* element, const char* name, std::string& spare,
                  std::string_view& value);
 
@@ -33,15 +33,15 @@ unsigned int GetNodeUInt(const xmlNode* node);
 /// True for exactly "true" and "1".
 bool GetNodeBool(const xmlNode* node);
 
-/// Replaces `target` by the non-empty pieces of `text` between commas.
+/// Replaces `target` with the non-empty pieces of a comma-separated text.
 void SplitOptions(std::vector<std::string>& target, std::string_view text);
 
-/// The bounds in the attributes "min" and "max"; true when both are there and hold text. A bound
-/// that holds none is left as it is.
+/// Reads the attributes "min" and "max"; true if both hold text. A bound without text is left
+/// unchanged.
 bool ReadBounds(const xmlNode* element, unsigned int& min, unsigned int& max);
 
-/// Runs `read`, which may throw. Unless a ThrowScope exists the exception ends here, so that a
-/// failure in a nested record ends the reading of the whole one.
+/// Runs `read`, which may throw. Without a ThrowScope the exception ends here; a failure in a
+/// nested record ends the reading of the outermost one.
 template <class Read>
 void EndAtException(Read&& read)
 {

@@ -37,7 +37,7 @@ std::string XmlRecord<Record>::createXml() const
 
 }  // namespace CapabilitySet
 
-/// Instantiates a record's members; log lines of its Parse then name this file.
+/// Instantiates a record's members. Log lines of its Parse name this file.
 #define CAPABILITYSET_XML_RECORD(Record) \
     CAPABILITYSET_PARSE_PLACE(Record);   \
     template struct XmlRecord<Record>

@@ -1,4 +1,4 @@
-// Builds request documents from records' field lists.
+// Builds request documents from the field lists of records.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/private/xml/XmlWriting.h"
 
@@ -23,8 +23,7 @@ const xmlChar* Chars(const char* text)
     return reinterpret_cast<const xmlChar*>(text);
 }
 
-/// Sets what shapes a document whatever the client has set for this thread, and leaves the client's
-/// settings as they were.
+/// Sets this thread's output format for the time of a dump and restores the client's settings.
 class OutputForm
 {
 public:
@@ -57,8 +56,8 @@ struct FreeText
     void operator()(xmlChar* text) const { xmlFree(text); }
 };
 
-/// Drops what no XML document can hold in any spelling: control characters but tab and line ends,
-/// and the two non-characters U+FFFE and U+FFFF. libxml2 would write them as they are.
+/// Drops characters that XML cannot represent: control characters except tab and line ends, and the
+/// non-characters U+FFFE and U+FFFF. libxml2 would write them as they are.
 void DropForbidden(std::string& utf8)
 {
     const auto isControl = [](char c) {
@@ -102,7 +101,7 @@ void AddText(xmlNode* parent, const char* name, const std::string& text)
 {
     // An empty text node would be written as "<a></a>".
     const char* const content = text.c_str()[0] == '\0' ? nullptr : text.c_str();
-    // Not xmlNewChild, which takes its text for XML and loses what stands behind an "&".
+    // Not xmlNewChild: it parses its text as XML and loses what follows an "&".
     if (xmlNewTextChild(parent, nullptr, Chars(name), Chars(content)) == nullptr) {
         throw std::bad_alloc();
     }
@@ -125,7 +124,7 @@ void AddChild(xmlNode* parent, xmlNode* child)
 std::string TextOfValue(double value)
 {
     constexpr int kStreamPrecision = 6;
-    // The largest number has 309 digits before the point, the smallest ones 340 behind it.
+    // The largest number has 309 digits before the point, the smallest 340 after it.
     std::array<char, 384> digits;
     char* const begin = digits.data();
     const auto end = std::to_chars(begin, begin + digits.size(), value, std::chars_format::general,
@@ -155,7 +154,7 @@ std::string DumpDocument(xmlNode* root, const char* version)
     }
     try {
         return Dump(document.get());
-    } catch (...) {  // callers are exported, and nothing is thrown at clients
+    } catch (...) {  // nothing is thrown at clients
         return {};
     }
 }

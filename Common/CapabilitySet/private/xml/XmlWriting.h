@@ -1,4 +1,4 @@
-// Builds request documents from records' field lists.
+// Builds request documents from the field lists of records.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,11 +15,10 @@
 namespace CapabilitySet::xml
 {
 
-/// Makes an unlinked element; the caller owns it. Null when memory ran out.
+/// Makes an unlinked element that the caller owns. Null if memory runs out.
 xmlNode* NewElement(const char* name);
 
-/// Adds a child that holds a text up to its first NUL, escaped; an empty text gives an empty
-/// element.
+/// Adds a child holding a text up to its first NUL, escaped. Empty text gives an empty element.
 void AddText(xmlNode* parent, const char* name, const std::string& text);
 
 struct FreeNode
@@ -27,10 +26,10 @@ struct FreeNode
     void operator()(xmlNode* node) const { xmlFreeNode(node); }
 };
 
-/// The element, or null, the element freed, when memory has run out since QuietLibxml began.
+/// The element; or null, with the element freed, if memory has run out since QuietLibxml began.
 xmlNode* CompleteOrNull(xmlNode* element);
 
-/// Links `child` below `parent`, which then owns it; null is memory that ran out: std::bad_alloc.
+/// Links `child` to `parent`, which then owns it. Throws std::bad_alloc if `child` is null.
 void AddChild(xmlNode* parent, xmlNode* child);
 
 inline std::string TextOfValue(const std::string& value)
@@ -50,14 +49,14 @@ std::string TextOfValue(Number value)
     return std::to_string(value);
 }
 
-/// As a stream of the classic locale writes it; where its six digits would not read back the same,
-/// all digits of the plain decimal form.
+/// Formats a number as a stream with the classic locale does. If six digits would not read back the
+/// same, writes all digits in plain decimal form.
 std::string TextOfValue(double value);
 
 template <class Record>
 xmlNode* MakeNode(const Record& record, const char* name);
 
-/// Writes one member below `parent`; an item that points nowhere is left out.
+/// Writes one member under `parent`; null items are left out.
 template <class Member>
 void WriteMember(xmlNode* parent, const char* name, const Member& member)
 {
@@ -72,7 +71,7 @@ void WriteMember(xmlNode* parent, const char* name, const Member& member)
     }
 }
 
-/// Visits a field list and writes each member, set or not, in the list's order.
+/// Visits a field list and writes every member in order, set or not.
 class FieldWriter
 {
 public:
@@ -86,7 +85,7 @@ public:
                 WriteMember(parent_, name, item);
             }
         } else if constexpr (std::is_same_v<How, as::Items>) {
-            // Linked first, so that its owner frees it whatever happens to the items.
+            // Linked first, so that it is freed with its parent if an item fails.
             xmlNode* const list = NewElement(name);
             AddChild(parent_, list);
             for (const auto& item : member) {
@@ -101,7 +100,7 @@ private:
     xmlNode* parent_;
 };
 
-/// A record's element, unlinked; the caller owns it. Null when memory ran out.
+/// Makes a record's element, unlinked; the caller owns it. Null if memory runs out.
 template <class Record>
 xmlNode* MakeNode(const Record& record, const char* name)
 {
@@ -114,22 +113,21 @@ xmlNode* MakeNode(const Record& record, const char* name)
     return owner.release();
 }
 
-/// A record's element as CreateXmlNodePtr gives it: null instead of an exception, and instead of an
-/// element that memory ran out in.
+/// Implements CreateXmlNodePtr: returns null if memory runs out anywhere. Never throws.
 template <class Record>
 xmlNode* CreateNode(const Record& record, const char* name)
 {
     const QuietLibxml quiet;
     try {
         return CompleteOrNull(MakeNode(record, name));
-    } catch (...) {  // callers are exported, and nothing is thrown at clients
+    } catch (...) {  // nothing is thrown at clients
         return nullptr;
     }
 }
 
-/// The body that a root makes: an indented UTF-8 document whose root carries the version, unless
-/// that is empty; text that is in the client's ANSI code page is converted, and characters that no
-/// XML document can hold are dropped. Takes the root over. Empty when anything fails. Never throws.
+/// Turns a root into a request body: an indented UTF-8 document whose root carries the version
+/// unless that is empty. Text in the client's ANSI code page is converted, and characters that XML
+/// cannot represent are dropped. Takes ownership of the root. Empty on any failure. Never throws.
 std::string DumpDocument(xmlNode* root, const char* version);
 
 }  // namespace CapabilitySet::xml
