@@ -207,13 +207,17 @@ void ReadText(const std::string& text, Record& record)
 {
     WithJson(text, [&record](const Json::Value& document) {
         const std::string key = Record::kKey;
-        if (key.empty() || !document[key].isNull()) {
-            record.root = key.empty() ? document : document[key];
-        } else if constexpr (requires { Record::kMayLackKey; }) {
-            record.root = document;
+        constexpr bool kMayLackKey = requires { Record::kMayLackKey; };
+        Json::Value root;
+        if (key.empty() || (kMayLackKey && document[key].isNull())) {
+            root = document;
         } else {
-            record.root = Json::Value();
+            root = document[key];
         }
+        if (!root.isObject() && !root.isNull()) {
+            return;
+        }
+        record.root = root;
         ReadMembers(record.root, record);
     });
 }

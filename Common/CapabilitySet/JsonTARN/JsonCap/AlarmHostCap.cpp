@@ -19,7 +19,6 @@ void SubSysOperateCapability::Parse(const Json::Value& value)
     if (value.isNull()) {
         return;
     }
-    json::RequireObject(value);
     root = value;
     present = true;
 }
