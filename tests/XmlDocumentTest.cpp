@@ -274,7 +274,8 @@ TEST(XmlDocumentTest, LogsOneLineForEachDocumentThatIsNoneOfTheRoot)
     EXPECT_EQ(log.Lines()[0].file, kPlace.file);
     EXPECT_EQ(log.Lines()[0].line, 7);
     log.Clear();
-    WithRoot("<x/>", "Root", kPlace, [](xmlNode*) {}, Form::Plain, {.prefix = "[t] ", .document = "List "});
+    WithRoot("<x/>", "Root", kPlace, [](xmlNode*) {}, Form::Plain,
+             {.prefix = "[t] ", .document = "List "});
     WithRoot("<x/>", "Root", kPlace, [](xmlNode*) {}, Form::Plain, {.logsMismatch = false});
     EXPECT_THAT(log.Messages(),
                 testing::ElementsAre("[t] The root element is mismatched with the List XML."));
