@@ -1,5 +1,7 @@
 // Who the simulated device's server lets in: digest authentication and TLS.
 // SPDX-License-Identifier: Apache-2.0
+#include <openssl/ssl.h>
+
 #include <chrono>
 #include <thread>
 
@@ -129,6 +131,22 @@ TEST(DeviceAccess, TlsBefore12IsRefused)
         client.Set(CURLOPT_SSLVERSION, CURL_SSLVERSION_TLSv1 | version);
         EXPECT_EQ(client.Get("/x").code == CURLE_OK, version == CURL_SSLVERSION_MAX_TLSv1_2);
     }
+}
+
+TEST(DeviceAccess, ClientsCannotRenegotiate)
+{
+    ServerOptions options;
+    options.tls = true;
+    const auto server = StartServer(std::move(options));
+    const RawConnection connection(*server, "");
+    const std::unique_ptr<SSL_CTX, void (*)(SSL_CTX*)> context(SSL_CTX_new(TLS_client_method()),
+                                                               &SSL_CTX_free);
+    ASSERT_EQ(SSL_CTX_set_max_proto_version(context.get(), TLS1_2_VERSION), 1);
+    const std::unique_ptr<SSL, void (*)(SSL*)> tls(SSL_new(context.get()), &SSL_free);
+    ASSERT_EQ(SSL_set_fd(tls.get(), connection.Socket()), 1);
+    ASSERT_EQ(SSL_connect(tls.get()), 1);
+    ASSERT_EQ(SSL_renegotiate(tls.get()), 1);
+    EXPECT_NE(SSL_do_handshake(tls.get()), 1);
 }
 
 TEST(DeviceAccess, RefusesABodyBeforeItIsSent)

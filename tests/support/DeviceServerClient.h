@@ -161,6 +161,7 @@ public:
         }
         return text;
     }
+    [[nodiscard]] int Socket() const { return socket_; }
     /// Waits for the end of the connection.
     void ReadToEnd() const { static_cast<void>(ReadUntil("never sent")); }
 
