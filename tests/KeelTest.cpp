@@ -147,15 +147,6 @@ TEST_F(KeelLogTest, LeavesTheClientsOwnAutomaticConfigurationToTheClient)
               "file later\n");
 }
 
-TEST_F(KeelLogTest, WritesLevelLoggerMessageAndPlace)
-{
-    EXPECT_EQ(OutputOf([] {
-                  Configure("DEBUG");
-                  LogOneLineOfEachKind();
-              }),
-              kAllLines);
-}
-
 TEST_F(KeelLogTest, HeedsAConfigurationMadeAfterTheFirstLines)
 {
     EXPECT_EQ(OutputOf([] {

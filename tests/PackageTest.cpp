@@ -29,7 +29,7 @@ using Then = Reply::Then;
 
 ON_EVERY_ROAD(PackageTest);
 
-/// What became of a download.
+/// The result of a download.
 struct Fetched
 {
     bool success = false;
@@ -98,7 +98,7 @@ TEST_P(PackageTest, ArrivesWholeInOneExchangeWhateverItsSize)
     }
 }
 
-TEST_P(PackageTest, TheThreadThatAsksHearsHowMuchHasCome)
+TEST_P(PackageTest, ReportsProgressToTheThreadThatAsked)
 {
     using Parts = std::vector<std::pair<unsigned long long, unsigned long long>>;
     const Asked recorder = Login("recorder");
@@ -134,21 +134,6 @@ TEST_P(PackageTest, AProgressCallbackThatThrowsEndsTheRequestAndLeaksNothing)
     NET_ORB_SetReceiveProgress(nullptr, nullptr);
     EXPECT_TRUE(FetchTask(recorder, "pkg-1M").success);
     EXPECT_LE(openFiles(), before + 5) << "connections of a server in this process";
-}
-
-TEST(PackageHttpTest, OneRequestReachesTheDevice)
-{
-    Asked recorder(Road::Http, "recorder");
-    ASSERT_TRUE(FetchTask(recorder, "14").success);
-    int requests = 0;
-    for (const Device::ServedRequest& served : recorder.EndServing()) {
-        if (served.target.find("/dataPackage/14") == std::string::npos) {
-            continue;
-        }
-        ++requests;
-        EXPECT_EQ(served.bytes, 50U << 20);
-    }
-    EXPECT_EQ(requests, 1);
 }
 
 TEST(PackageHttpTest, ADownloadThatStallsEndsWithTheLogout)

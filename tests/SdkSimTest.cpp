@@ -1,4 +1,4 @@
-// The bundled SDK over the simulated device in this process.
+// The portable SDK over the simulated device in this process.
 // SPDX-License-Identifier: Apache-2.0
 #include <gtest/gtest.h>
 
@@ -31,7 +31,7 @@ using TestSupport::Statistics;
 const std::string kLarge = "<Large>" + std::string(10'000 - 15, 'x') + "</Large>";
 const std::string kTime = "<Time><zone>UTC</zone></Time>";
 
-/// A profile folder of its own, gone with the test.
+/// A profile folder of its own, removed with the test.
 class SdkSim : public testing::Test
 {
 protected:
@@ -156,7 +156,7 @@ TEST_F(SdkSim, ChangeWithTooSmallBufferIsCarriedOutOnce)
     EXPECT_EQ(Ask(device.UserID(), "/TARN/time\r\n").answer, body) << "no method is a GET";
 }
 
-TEST_F(SdkSim, NoAnswerWantedSucceedsAndTellsTheStatusDocument)
+TEST_F(SdkSim, NoAnswerWantedSucceedsAndReportsTheStatusDocument)
 {
     const LoggedIn device(info_);
     EXPECT_TRUE(Ask(device.UserID(), "GET /TARN/large", "", {0, 0}).success);
@@ -252,7 +252,7 @@ TEST_F(SdkSim, BadArgumentsAreErrorsNotCrashes)
     EXPECT_NE(NET_ORB_GetLastErrorModelCode(nullptr, nullptr), 0);
 }
 
-TEST_F(SdkSim, LoginTellsWrongProfileAndWrongPasswordApart)
+TEST_F(SdkSim, LoginDistinguishesWrongProfileAndWrongPassword)
 {
     struct Case
     {
@@ -371,7 +371,7 @@ TEST(SessionTest, EachIdIsOfOneSessionHoweverManyComeAndGo)
             std::make_shared<PelNet::Session>(nullptr);
         for (int i = 0; i < 300'000; ++i) {
             const int id = table.Add(own);
-            // Most of the few IDs left are those of the other threads.
+            // Most of the few IDs left belong to the other threads.
             const auto other = table.Find(PelNet::SessionTable::kCapacity - 1 - i % 8);
             wrong += table.Find(id) != own || table.Remove(id) != own ? 1 : 0;
         }

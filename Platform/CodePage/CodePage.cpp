@@ -1,4 +1,4 @@
-// From the system's ANSI code page to UTF-8: the system call on Windows, iconv elsewhere.
+// Converting between the ANSI code page and UTF-8: system calls on Windows, iconv elsewhere.
 // SPDX-License-Identifier: Apache-2.0
 #include "CodePage/CodePage.h"
 
@@ -137,11 +137,11 @@ public:
 
     explicit operator bool() const { return handle_ != None(); }
 
-    /// Converts as much as can be, appends it to `out` and takes it off `in`. False: `in` now
-    /// begins with something that cannot be converted.
+    /// Converts as much as possible, appends it to `out` and removes it from `in`. False if `in`
+    /// now begins with something that cannot be converted.
     bool Append(std::string_view& in, std::string& out)
     {
-        // iconv does not write to its input, its interface only says so.
+        // iconv does not write to its input, although its signature lacks the const.
         char* from = const_cast<char*>(in.data());
         std::size_t left = in.size();
         int error = 0;
@@ -152,7 +152,7 @@ public:
         return error == 0 || in.empty();
     }
 
-    /// Appends what a code set with shift states needs at the end of a text.
+    /// Appends the shift sequence that some code sets need at the end of a text.
     void Finish(std::string& out) { Step(nullptr, nullptr, out); }
 
 private:
@@ -173,7 +173,7 @@ private:
     iconv_t handle_;
 };
 
-/// Bytes of the well-formed character at the beginning of UTF-8 text.
+/// The bytes of the first character of well-formed UTF-8.
 std::size_t CharacterLength(std::string_view utf8)
 {
     std::size_t length = 1;
@@ -183,7 +183,7 @@ std::size_t CharacterLength(std::string_view utf8)
     return length;
 }
 
-/// iconv passes what the first UTF-8 had beyond U+10FFFF: each byte of such text is a bad one.
+/// Replaces each byte of characters beyond U+10FFFF, which iconv lets through.
 std::string WithoutBeyondUnicode(std::string utf8)
 {
     const std::string_view text = utf8;
@@ -206,8 +206,8 @@ std::string WithoutBeyondUnicode(std::string utf8)
     return kept == 0 ? std::move(utf8) : cleaned.append(text.substr(kept));
 }
 
-/// The code set of the calling thread's locale. The plain "C" locale says US-ASCII: a client that
-/// never chose a locale works in UTF-8.
+/// The code set of the calling thread's locale. The plain "C" locale reports US-ASCII, but a client
+/// that never chose a locale works in UTF-8.
 const char* AnsiCodeSet()
 {
     // NOLINTNEXTLINE(concurrency-mt-unsafe): races only with a client that changes its locale
@@ -247,7 +247,7 @@ std::string ToUtf8(std::string_view text, const char* codeSet)
     }
     utf8.reserve(text.size() + text.size() / 2);
     while (!converter.Append(text, utf8)) {
-        // The system call of the other platform substitutes too, and goes on.
+        // Windows substitutes and goes on as well.
         utf8.append(kReplacement);
         text.remove_prefix(1);
     }
@@ -262,7 +262,7 @@ std::string FromUtf8(std::string_view utf8, const char* codeSet)
     if (!converter) {
         return text;
     }
-    // What is not UTF-8 becomes U+FFFD first, so what stops the converter is a whole character.
+    // Replace what is not UTF-8 first, so that whatever stops the converter is a whole character.
     const std::string wellFormed = ToUtf8(utf8, kUtf8);
     std::string_view rest = wellFormed;
     while (!converter.Append(rest, text)) {

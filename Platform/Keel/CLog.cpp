@@ -1,4 +1,4 @@
-// The logger of the client: lines with a tag, a message and the place they come from.
+// The client's logger.
 // SPDX-License-Identifier: Apache-2.0
 #include "Keel/CLog.h"
 

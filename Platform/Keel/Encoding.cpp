@@ -1,4 +1,4 @@
-// Between UTF-8 and the client's local code page.
+// Converting UTF-8 to the client's local code page.
 // SPDX-License-Identifier: Apache-2.0
 #include "Keel/Encoding.h"
 

@@ -8,7 +8,7 @@ namespace Keel::Error
 namespace
 {
 
-/// Set when the thread's last error is gone: static objects outlive that of the main thread.
+/// Set once the thread's last error is destroyed. Static objects outlive the main thread's.
 thread_local bool isGone = false;
 
 struct LastError

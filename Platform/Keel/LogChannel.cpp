@@ -1,4 +1,4 @@
-// One log4cxx logger of the platform, asked and written to without configuring log4cxx.
+// Writing to a log4cxx logger without configuring log4cxx.
 // SPDX-License-Identifier: Apache-2.0
 #include "Keel/LogChannel.h"
 
@@ -21,10 +21,10 @@ namespace Keel::details
 namespace
 {
 
-/// Set once static objects go away: log4cxx, some of whose own are gone by then, can hang.
+/// Set once static objects are destroyed. log4cxx can hang when some of its own are gone.
 std::atomic<bool> processEnds{false};
 
-/// A static one, made after what log4cxx has made for itself so far, goes away before that does.
+/// Its static instances are created after log4cxx's statics, so they are destroyed before them.
 struct ProcessEndWatch
 {
     ProcessEndWatch() = default;
@@ -33,7 +33,7 @@ struct ProcessEndWatch
     ProcessEndWatch& operator=(const ProcessEndWatch&) = delete;
 };
 
-/// Set once any logger has, or had, an appender: until then a line costs one look here.
+/// Set once any logger has, or had, an appender. Until then a log line costs one look here.
 std::atomic<bool> anyAppender{false};
 
 class AppenderWatch : public log4cxx::spi::HierarchyEventListener
@@ -70,11 +70,11 @@ void StayLoaded()
 #endif
 }
 
-/// False while no line can reach anyone: nothing is configured yet, or the process ends.
+/// False while no line can reach anyone: nothing is configured yet, or the process is ending.
 bool IsAnyoneListening()
 {
     static const bool isWatching = [] {
-        // log4cxx calls the watch until the process ends, and has no way to take it back.
+        // log4cxx calls the watch until the process ends and offers no way to remove it.
         StayLoaded();
         const auto repository = log4cxx::LogManager::getLoggerRepository();
         repository->addHierarchyEventListener(std::make_shared<AppenderWatch>());
@@ -88,8 +88,8 @@ bool IsAnyoneListening()
            !processEnds.load(std::memory_order_relaxed);
 }
 
-/// The repository is asked directly: LogManager::getLogger would look for configuration files in
-/// the current directory and configure log4cxx in the client's place.
+/// Asks the repository directly: LogManager::getLogger would look for configuration files in the
+/// current directory and configure log4cxx instead of the client.
 log4cxx::LoggerPtr FindLogger(const std::string& name)
 {
     log4cxx::LogString logString;
@@ -118,7 +118,7 @@ const log4cxx::LevelPtr& Log4cxxLevel(LogLevel level)
     return level == LogLevel::Error ? error : level == LogLevel::Info ? info : debug;
 }
 
-/// A line that no appender takes makes log4cxx complain on stderr.
+/// log4cxx complains on stderr about a line that no appender takes.
 bool HasAppender(const log4cxx::LoggerPtr& logger)
 {
     for (log4cxx::LoggerPtr at = logger; at; at = at->getParent()) {
@@ -183,7 +183,7 @@ try {
         WriteTo(*logger, level, message, location);
     }
 } catch (...) {
-    // A line that cannot be written is lost: logging never fails its caller.
+    // A line that cannot be written is lost. Logging never fails its caller.
 }
 
 bool LogChannel::IsEnabled(LogLevel level, const std::string& name) noexcept

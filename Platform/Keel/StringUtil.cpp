@@ -1,4 +1,4 @@
-// Text helpers.
+// Formatting, splitting, replacing and trimming text.
 // SPDX-License-Identifier: Apache-2.0
 #include "Keel/StringUtil.h"
 

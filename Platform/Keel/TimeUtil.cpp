@@ -1,4 +1,4 @@
-// Times as the protocol writes them.
+// Reading times as the protocol writes them.
 // SPDX-License-Identifier: Apache-2.0
 #include "Keel/TimeUtil.h"
 
@@ -14,7 +14,7 @@ namespace
 using std::chrono::seconds;
 using std::chrono::sys_seconds;
 
-/// Takes what it recognises off the front of a text; `Good` is false once something was not there.
+/// Takes what it recognises off the front of a text. `Good` is false once something was missing.
 class Scanner
 {
 public:
@@ -43,7 +43,7 @@ public:
     void Need(char c) { isGood_ = Has(c) && isGood_; }
     void Need(bool condition) { isGood_ = isGood_ && condition; }
 
-    /// A decimal fraction, which is passed over.
+    /// Skips a decimal fraction.
     void Fraction()
     {
         if (!Has('.')) {
@@ -63,7 +63,7 @@ private:
     bool isGood_ = true;
 };
 
-/// Date and time of day, not yet tied to a zone; midnight at a day's end may be written 24:00:00.
+/// Date and time of day, without a zone. Midnight at the end of a day may be written 24:00:00.
 sys_seconds ReadDatetime(Scanner& scanner, char separator)
 {
     const std::chrono::year year{static_cast<int>(scanner.Number(4))};
@@ -86,7 +86,7 @@ sys_seconds ReadDatetime(Scanner& scanner, char separator)
     return std::chrono::sys_days{date} + seconds{hours * 3600 + minutes * 60 + secs};
 }
 
-/// Offset from UTC, when the text says one.
+/// The offset from UTC, if the text has one.
 std::optional<seconds> ReadZone(Scanner& scanner)
 {
     if (scanner.Has('Z')) {
@@ -104,7 +104,7 @@ std::optional<seconds> ReadZone(Scanner& scanner)
     return isWest ? -offset : offset;
 }
 
-/// What local clocks are ahead of UTC at a moment.
+/// How far local clocks are ahead of UTC at a moment.
 seconds LocalOffset(sys_seconds moment)
 {
     const std::time_t utc = std::chrono::system_clock::to_time_t(moment);
@@ -126,8 +126,8 @@ seconds LocalOffset(sys_seconds moment)
     return clock - moment;
 }
 
-/// The moment at which local clocks show `local`. Of two such moments the first; a time that the
-/// clocks skip is counted on from before the change. mktime leaves both to chance.
+/// The moment at which local clocks show `local`. If there are two, the first; if the clocks skip
+/// that time, as they ran before the change. mktime leaves both cases open.
 sys_seconds LocalToUtc(sys_seconds local)
 {
 #if !defined(_WIN32)

@@ -61,7 +61,7 @@ std::unique_ptr<HttpConnection> HttpTransport::Take()
 std::unique_ptr<HttpConnection> HttpTransport::Make()
 {
     const std::lock_guard lock(mutex_);
-    // The password is wiped by then.
+    // By then the password has been wiped.
     if (cancelled_) {
         return nullptr;
     }

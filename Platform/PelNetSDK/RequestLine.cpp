@@ -66,7 +66,7 @@ std::optional<RequestLine> ParseRequestLine(std::string_view line)
             line.remove_suffix(1);
         }
     }
-    // Clients rely on a line without a method being a GET.
+    // Kept: a line without a method is a GET. Clients rely on it.
     std::string_view method = "GET";
     for (const std::string_view candidate : kMethods) {
         if (line.starts_with(candidate) && line.substr(candidate.size()).starts_with(' ')) {

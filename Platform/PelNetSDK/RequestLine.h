@@ -13,18 +13,18 @@ namespace PelNet
 struct RequestLine
 {
     std::string method;  ///< "GET", "PUT", "POST" or "DELETE"
-    std::string target;  ///< path and query; every byte may stand in an HTTP request line
+    std::string target;  ///< path and query, percent-encoded where HTTP requires it
 
     bool operator==(const RequestLine&) const = default;
 };
 
 /// Reads "METHOD /path?query", with or without a line end, up to the first NUL. A line that begins
-/// with '/' is a GET. Bytes that may not stand in a target are percent-encoded; a '%' stays when
+/// with '/' is a GET. Bytes that are illegal in a target are percent-encoded; a '%' stays if
 /// two hexadecimal digits follow. Nothing if the target does not begin with '/', is longer than
 /// limits::kTarget, or holds a carriage return or line feed: no header can be smuggled in.
 [[nodiscard]] std::optional<RequestLine> ParseRequestLine(std::string_view line);
 
-/// The target with percent-encoding undone in the path; the query stays as it is.
+/// The target with its path decoded. The query stays as it is.
 [[nodiscard]] std::string DecodePath(std::string_view target);
 
 }  // namespace PelNet

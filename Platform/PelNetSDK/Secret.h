@@ -1,4 +1,4 @@
-// A password in memory, overwritten when it is no longer needed.
+// A password in memory, overwritten once it is no longer needed.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -8,7 +8,7 @@
 namespace PelNet
 {
 
-/// Moves without leaving a copy behind, unlike a short std::string.
+/// Unlike a short std::string, it leaves no copy behind when moved.
 class Secret
 {
 public:
@@ -33,7 +33,7 @@ public:
 
     void Wipe() noexcept
     {
-        // Volatile, so that the compiler may not leave it out.
+        // Volatile, so that the compiler must not drop the writes.
         for (volatile char& byte : bytes_) {
             byte = '\0';
         }

@@ -37,7 +37,7 @@ public:
     [[nodiscard]] std::optional<int> KnownChannel(int channel, int mode) const;
     void LearnChannel(int channel, int mode, int number);
 
-    /// Cancels what runs and forgets every kept answer.
+    /// Cancels running requests and forgets every kept answer.
     void Close() noexcept;
 
 private:

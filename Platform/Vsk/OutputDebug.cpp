@@ -21,7 +21,7 @@ void VSK_OutputDebug(const char* format, ...)
         channel.Write(LogLevel::Debug, Keel::StringUtil::FormatStringV(format, arguments),
                       log4cxx::spi::LocationInfo::getLocationUnavailable());
     } catch (...) {
-        // A trace that cannot be made is lost.
+        // A trace that cannot be formatted is lost.
     }
     va_end(arguments);
 }

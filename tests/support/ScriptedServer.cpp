@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <memory>
@@ -66,6 +67,9 @@ public:
             ssl_.reset(SSL_new(certificate->Context()));
             SSL_set_fd(ssl_.get(), socket_);
             usable_ = SSL_accept(ssl_.get()) == 1;
+            if (!usable_) {
+                Drain();
+            }
         }
     }
     ~Channel() { close(socket_); }
@@ -104,6 +108,15 @@ public:
     }
 
 private:
+    /// Closed with unread data, the connection would be reset before the client saw the alert.
+    void Drain() const
+    {
+        shutdown(socket_, SHUT_WR);
+        std::array<char, 4096> unread;
+        while (recv(socket_, unread.data(), unread.size(), 0) > 0) {
+        }
+    }
+
     struct Freer
     {
         void operator()(SSL* ssl) const { SSL_free(ssl); }
