@@ -31,7 +31,7 @@ public:
             Leaf(name, R"( min="1" max="64"/>)");
         } else if constexpr (std::is_same_v<Member, CapabilitySet::OptElement<std::string>>) {
             Leaf(name, R"( opt="HDMI1,VGA,CVBS"/>)");
-        } else if constexpr (CapabilitySet::xml::IsRecord<Member>) {
+        } else if constexpr (CapabilitySet::HasFields<Member>) {
             Nested(name, member);
         } else {
             Leaf(name, '>' + ValueOf(member) + "</" + name + '>');

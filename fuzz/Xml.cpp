@@ -1,7 +1,7 @@
 // Any bytes as an XML document: every record against a reader of the plainest kind.
 // SPDX-License-Identifier: Apache-2.0
-#include "CapabilitySet/RecordTree.h"
-#include "CapabilitySet/private/xml/XmlExplain.h"
+#include "CapabilitySet/Explain.h"
+#include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 #include "fuzz/Check.h"
 #include "fuzz/Targets.h"
 #include "support/AbilityRecords.h"
@@ -27,11 +27,8 @@ void Compare(const std::string& text)
     }
     Require(Describe({}, Record(text)) == Describe({}, expected), "differs from the plain reading",
             name);
-    if constexpr (xml::IsRecord<Record>) {
-        for (const xml::Untaken& untaken : xml::Explain<Record>(text, name.c_str())) {
-            Require(!untaken.path.empty() && !untaken.reason.empty(), "passes over in silence",
-                    name);
-        }
+    for (const Untaken& untaken : Explain<Record>(name, text).untaken) {
+        Require(!untaken.path.empty() && !untaken.reason.empty(), "passes over in silence", name);
     }
 }
 

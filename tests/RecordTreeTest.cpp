@@ -3,20 +3,22 @@
 #include "CapabilitySet/RecordTree.h"
 
 #include <cmath>
+#include <cstring>
 #include <iterator>
 #include <limits>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "CapabilitySet/AlarmAbility.h"
 #include "CapabilitySet/BasicCapability.h"
 #include "CapabilitySet/ChannelAbility.h"
 #include "CapabilitySet/EventAbility.h"
+#include "CapabilitySet/Explain.h"
 #include "CapabilitySet/XMLParamInterface/SystemConfig.h"
-#include "CapabilitySet/private/xml/XmlExplain.h"
 #include "support/ForeignLocale.h"
 
 namespace
@@ -151,7 +153,9 @@ std::vector<std::string> Explained(const std::string& content, const char* root)
 {
     std::vector<std::string> lines;
     const std::string text = std::string("<") + root + ">" + content + "</" + root + ">";
-    for (const xml::Untaken& each : xml::Explain<Record>(text, root)) {
+    const Reading reading = CapabilitySet::Explain<Record>(root, text);
+    EXPECT_EQ(reading.values, Describe(root, Record(text)));
+    for (const Untaken& each : reading.untaken) {
         lines.push_back(std::to_string(each.line) + " " + each.path + ": " + each.reason);
     }
     return lines;
@@ -173,15 +177,38 @@ TEST(RecordTreeTest, ExplainNamesWhatWasPassedOverAndWhy)
     EXPECT_EQ(Explained<BasicCapability>("<HardwareCapability>", "BasicCapability"), Lines());
 }
 
+TEST(RecordTreeTest, ExplainFoldsWhatOneMisplacedElementCost)
+{
+    std::string content;
+    BasicCapability record;
+    HardwareCapability::Fields(record.hardware,
+                               [&](const char* name, auto&&... /*member and how*/) {
+                                   content.append("<").append(name).append("/>");
+                               });
+    content.erase(content.find("<485"), std::strlen("<485SlotNo/>"));
+    const std::size_t first = content.find('>') + 1;
+    content = content.substr(first) + "\n" + content.substr(0, first);
+    const std::string text = "<BasicCapability><HardwareCapability>" + content +
+                             "</HardwareCapability></BasicCapability>";
+    const Reading reading = CapabilitySet::Explain<BasicCapability>("BasicCapability", text);
+    ASSERT_EQ(reading.untaken.size(), 1U);
+    EXPECT_EQ(reading.untaken[0].line, 2);
+    EXPECT_GT(reading.untaken[0].count, 40U);
+    EXPECT_THAT(reading.untaken[0].reason, testing::EndsWith(" more"));
+}
+
 TEST(RecordTreeTest, ExplainLooksIntoTheItemsOfLists)
 {
-    const std::string behind = ": out of order: stands before Intrusiongion, which is read first";
-    EXPECT_EQ(Explained<FieldDetection>(
-                  "<alarmTime>1</alarmTime><Intrusiongion><id>1</id><x/></Intrusiongion>"
-                  "<alarmTime>2</alarmTime><Intrusiongion><y/></Intrusiongion>",
-                  "FieldDetection"),
-              (Lines{"1 alarmTime" + behind, "1 alarmTime" + behind, "1 Intrusiongion/x: unknown",
-                     "1 Intrusiongion/y: unknown"}));
+    EXPECT_EQ(
+        Explained<EventAbility>(
+            "<FieldDetection><alarmTime>1</alarmTime><Intrusiongion><id>1</id>"
+            "<x/></Intrusiongion><alarmTime>2</alarmTime>\n<Intrusiongion><y/></Intrusiongion>"
+            "</FieldDetection>",
+            "EventAbility"),
+        (Lines{"2 FieldDetection/Intrusiongion: out of order: read before the 2 "
+               "elements in front of it, which were lost: alarmTime, alarmTime",
+               "1 FieldDetection/Intrusiongion/x: unknown",
+               "2 FieldDetection/Intrusiongion/y: unknown"}));
     EXPECT_EQ(Explained<DeviceStatus>("<FanList><Fan><speed>1</speed><hum/></Fan><pump/></FanList>",
                                       "DeviceStatus"),
               (Lines{"1 FanList/pump: unknown", "1 FanList/Fan/hum: unknown"}));

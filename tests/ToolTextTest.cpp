@@ -14,7 +14,7 @@
 #include "Tool/record/Base64.h"
 #include "Tool/record/Document.h"
 #include "Tool/record/JsonOutput.h"
-#include "Tool/record/Records.h"
+#include "Tool/record/RecordNames.h"
 #include "Tool/record/Table.h"
 #include "Tool/record/Values.h"
 #include "Tool/session/Connection.h"

@@ -86,7 +86,7 @@ Record WithOneItemEach()
             } else {
                 member.push_back({});
             }
-        } else if constexpr (tree::HasFields<std::remove_cvref_t<decltype(member)>>) {
+        } else if constexpr (HasFields<std::remove_cvref_t<decltype(member)>>) {
             member = WithOneItemEach<std::remove_cvref_t<decltype(member)>>();
         }
     });

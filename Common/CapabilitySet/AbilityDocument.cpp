@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "CapabilitySet/private/xml/ElementTree.h"
 #include "CapabilitySet/private/xml/XmlReading.h"
 
 namespace CapabilitySet
@@ -37,8 +38,9 @@ void CopyAttributes(const xmlNode* node, AbilityElement& element)
     }
 }
 
-/// Recursion is safe: the parser refuses documents deeper than 256 elements.
-AbilityElement CopyElement(const xmlNode* node)
+}  // namespace
+
+AbilityElement xml::CopyElement(const xmlNode* node)
 {
     AbilityElement element;
     element.name = xml::XmlCharToString(node->name);
@@ -56,8 +58,6 @@ AbilityElement CopyElement(const xmlNode* node)
     }
     return element;
 }
-
-}  // namespace
 
 const AbilityElement& AbilityElement::Find(std::string_view path) const
 {
@@ -92,7 +92,7 @@ void AbilityDocument::ParseElement(_xmlNode* element)
         return;
     }
     xml::EndAtException([&] {
-        AbilityElement read = CopyElement(element);
+        AbilityElement read = xml::CopyElement(element);
         if (read.children.empty()) {
             return;
         }

@@ -1,11 +1,15 @@
-// Tags for field lists: the third argument says how a field is read if its type does not.
-// SPDX-License-Identifier: Apache-2.0
+// Field lists: which types have one, and the tags that say how a field is read if its type does
+// not. SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 namespace CapabilitySet
 {
 
 struct OptionCodes;
+
+/// A record, as opposed to a value or a shared element type: a type with a field list.
+template <class Type>
+concept HasFields = requires(const Type& r) { Type::Fields(r, [](auto&&... /*field*/) {}); };
 
 namespace as
 {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <set>
 
 #include <json/value.h>
 
@@ -168,6 +169,27 @@ RecordNode Node(std::string name, const Json::Value& value)
     // JsonCpp would write 0.4 as 0.40000000000000002.
     node.text = value.type() == Json::realValue ? RealText(value.asDouble()) : value.asString();
     return node;
+}
+
+void AddUnlisted(RecordNode& record, const Json::Value& root)
+{
+    if (!root.isObject()) {
+        if (!root.isNull()) {
+            record.children.push_back(Node("(whole)", root));
+        }
+        return;
+    }
+    // Hostile answers hold members by the ten thousand.
+    std::set<std::string> listed;
+    for (const RecordNode& child : record.children) {
+        listed.insert(child.name);
+    }
+    for (auto each = root.begin(); each != root.end(); ++each) {
+        const std::string name = each.name();
+        if (!listed.contains(name)) {
+            record.children.push_back(Node(name, *each));
+        }
+    }
 }
 
 }  // namespace CapabilitySet::tree

@@ -13,6 +13,7 @@
 #include "CapabilitySet/AbilityDocument.h"
 #include "CapabilitySet/CapabilityElements.h"
 #include "CapabilitySet/Export.h"
+#include "CapabilitySet/FieldTags.h"
 
 namespace CapabilitySet
 {
@@ -42,10 +43,6 @@ struct CAPABILITYSET_API RecordNode
 
 namespace tree
 {
-
-/// A record with a field list.
-template <class Type>
-concept HasFields = requires(const Type& r) { Type::Fields(r, [](auto&&... /*field*/) {}); };
 
 CAPABILITYSET_API RecordNode Flag(std::string name, bool value);
 CAPABILITYSET_API RecordNode Text(std::string name, std::string value);
@@ -104,6 +101,9 @@ CAPABILITYSET_API RecordNode Node(std::string name, const OptJsonElement& value)
 CAPABILITYSET_API RecordNode Node(std::string name, const MisinfoMinMaxElement& value);
 CAPABILITYSET_API RecordNode Node(std::string name, const AbilityElement& value);
 CAPABILITYSET_API RecordNode Node(std::string name, const Json::Value& value);
+
+/// Adds the members of `root` that `record` has no member for.
+CAPABILITYSET_API void AddUnlisted(RecordNode& record, const Json::Value& root);
 
 template <HasFields Record>
 RecordNode Node(std::string name, const Record& record);
@@ -165,6 +165,19 @@ RecordNode Describe(std::string name, const Record& record)
     } else {
         return tree::Node(std::move(name), record);
     }
+}
+
+/// As Describe; a JSON record is followed by what else the device said, and counts as announced when
+/// the device said anything.
+template <class Record>
+RecordNode DescribeWhole(std::string name, const Record& record)
+{
+    RecordNode node = Describe(std::move(name), record);
+    if constexpr (requires(const Json::Value& root) { record.root == root; }) {
+        tree::AddUnlisted(node, record.root);
+        node.announced = !record.root.isNull();
+    }
+    return node;
 }
 
 /// Whether two trees hold the same values. That a record was announced at all does not count: one

@@ -9,7 +9,6 @@
 #include "Tool/command/Commands.h"
 #include "Tool/command/ReportCommand.h"
 #include "Tool/record/JsonOutput.h"
-#include "Tool/record/JsonTree.h"
 #include "Tool/session/Paging.h"
 #include "Tool/terminal/Text.h"
 
@@ -30,7 +29,7 @@ Part Read(bool (*get)(Record&, unsigned int&, const int))
     return [get](Talk& talk, const char* name) {
         Record record;
         talk.Do([&](unsigned int& error) { return get(record, error, talk.UserID()); });
-        return DescribeJson(name, record);
+        return DescribeWhole(name, record);
     };
 }
 
@@ -39,7 +38,7 @@ template <class Record>
 Part Fetch(const char* path)
 {
     return [path](Talk& talk, const char* name) {
-        return DescribeJson(name, Record(talk.Send(std::string("GET ") + path + "?format=json")));
+        return DescribeWhole(name, Record(talk.Send(std::string("GET ") + path + "?format=json")));
     };
 }
 
@@ -118,7 +117,7 @@ void AddLogCommand(Command& group, CommonOptions& common)
                     return JsonConfigApp::GetAlarmHostDeviceLog(condition, result, error,
                                                                 talk.UserID());
                 });
-                return ReadPage(DescribeJson("Log", result));
+                return ReadPage(DescribeWhole("Log", result));
             });
         });
     AddTimeOptions(command, options->time);

@@ -7,7 +7,6 @@
 #include <map>
 
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
-#include "Tool/record/JsonTree.h"
 #include "Tool/record/Rows.h"
 
 namespace Tool
@@ -173,7 +172,7 @@ Report ListZones(Talk& talk)
         return JsonConfigApp::GetAlarmHostZoneConfiguration(config, error, talk.UserID());
     });
     const AlarmHostZonesInfo info(talk.Send("GET /TARN/SecurityCP/status/zones?format=json"));
-    std::map<std::string, RecordNode> states = ById(DescribeJson("zones", info));
+    std::map<std::string, RecordNode> states = ById(DescribeWhole("zones", info));
     RecordNode zones{"zones", RecordNode::Kind::List, {}, true, {}};
     for (const AlarmHostZone& zone : config.zones) {
         RecordNode row = Describe("Zone", zone);

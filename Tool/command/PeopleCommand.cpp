@@ -9,7 +9,6 @@
 #include "CapabilitySet/JsonTARN/JsonConfig/JsonConfigApp.h"
 #include "Tool/command/Commands.h"
 #include "Tool/command/ReportCommand.h"
-#include "Tool/record/JsonTree.h"
 #include "Tool/session/PackageDownload.h"
 #include "Tool/session/Paging.h"
 #include "Tool/terminal/Text.h"
@@ -70,7 +69,7 @@ Report ReadPeople(Talk& talk, const PageOptions& options, const std::string& tas
         talk.Do([&](unsigned int& error) {
             return JsonConfigApp::GetHFPDSearchRecordData(result, task, error, talk.UserID());
         });
-        Page page = ReadPage(DescribeJson("People", result));
+        Page page = ReadPage(DescribeWhole("People", result));
         page.hasMore = false;
         return page;
     });

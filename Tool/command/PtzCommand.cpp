@@ -6,7 +6,7 @@
 #include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 #include "Tool/command/Commands.h"
 #include "Tool/command/ReportCommand.h"
-#include "Tool/record/PtzLists.h"
+#include "Tool/record/RecordNames.h"
 
 namespace Tool
 {
@@ -37,9 +37,15 @@ void AddListCommand(Command& ptz, CommonOptions& common, const CommandText& text
     Command& command =
         AddReportCommand(ptz, common, text, [channel, name = std::string(text.name)](Talk& talk) {
             talk.SetChannelOption(kChannelOption);
-            return Report{ReadPtzList<List>(
-                List::kRoot,
-                talk.Send("GET " + PtzListPath(talk.ProtocolChannel(*channel), name)))};
+            const Reading reading =
+                FindRecord(List::kRoot)
+                    ->read(talk.Send("GET /TARN/PTZCtrl/channels/" +
+                                     std::to_string(talk.ProtocolChannel(*channel)) + "/" + name));
+            if (!reading.problem.empty()) {
+                throw Failure("the device's document cannot be read as " +
+                              std::string(List::kRoot) + ": " + reading.problem);
+            }
+            return Report{reading.values};
         });
     AddChannelOption(command, *channel);
 }

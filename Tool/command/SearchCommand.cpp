@@ -7,7 +7,6 @@
 #include "Tool/command/Assignment.h"
 #include "Tool/command/Commands.h"
 #include "Tool/command/ReportCommand.h"
-#include "Tool/record/JsonTree.h"
 #include "Tool/session/PackageDownload.h"
 #include "Tool/session/Paging.h"
 #include "Tool/session/TaskRun.h"
@@ -67,7 +66,7 @@ Report FetchJsonPages(Talk& talk, const SearchOptions& options, const std::strin
         talk.Do([&](unsigned int& error) {
             return operation(description, result, error, talk.UserID());
         });
-        return ReadPage(DescribeJson(name, result));
+        return ReadPage(DescribeWhole(name, result));
     });
 }
 

@@ -48,7 +48,7 @@ void KeepPart(Finding& finding, const std::string& part)
             names.push_back(each.name);
         }
     }
-    if (std::ranges::count(finding.record->options, "--part") == 0) {
+    if (std::ranges::count(finding.record->selectors, "part") == 0) {
         return;
     }
     const bool isThere = std::ranges::any_of(
@@ -181,7 +181,7 @@ std::string UsersOf(const std::string& option)
 {
     std::vector<std::string> names;
     for (const RecordEntry& each : AllRecords()) {
-        if (std::ranges::count(each.options, option) > 0) {
+        if (each.ask && std::ranges::count(OptionsOf(each), option) > 0) {
             names.push_back(each.name);
         }
     }
@@ -246,8 +246,9 @@ int ListRecords(const CommonOptions& common, bool json)
         Json::Value item(Json::objectValue);
         item["record"] = each.name;
         item["description"] = each.description;
+        item["asked"] = static_cast<bool>(each.ask);
         item["options"] = Json::Value(Json::arrayValue);
-        for (const std::string& option : each.options) {
+        for (const std::string& option : OptionsOf(each)) {
             item["options"].append(option);
         }
         list.append(std::move(item));

@@ -3,6 +3,8 @@
 #include "Tool/command/ShowOutput.h"
 
 #include <algorithm>
+#include <functional>
+#include <numeric>
 
 #include "PelNetSDK/Login.h"
 #include "Tool/record/Table.h"
@@ -23,10 +25,11 @@ std::string RenderUntaken(const std::vector<Untaken>& untaken, bool explain, std
         out += paint(Style::Faint, "The record took everything that the document holds.") + "\n";
         return explain ? out : std::string();
     }
-    const std::string count = Counted(untaken.size(), "element");
+    const std::size_t lost = std::transform_reduce(untaken.begin(), untaken.end(), std::size_t{0},
+                                                   std::plus<>(), std::mem_fn(&Untaken::count));
+    const std::string count = Counted(lost, "element");
     if (!explain) {
-        const std::string note = count + " of the document " +
-                                 (untaken.size() == 1 ? "was" : "were") +
+        const std::string note = count + " of the document " + (lost == 1 ? "was" : "were") +
                                  " passed over; --explain tells why";
         return out + paint(Style::Faint, note) + "\n";
     }
@@ -69,7 +72,7 @@ std::string RenderReading(const Reading& reading, const std::string& source, boo
 std::string FailureSentence(const Finding& finding, const std::string& device)
 {
     const bool isChannel = finding.failure.error == NET_ORB_CHANNEL_ERROR &&
-                           std::ranges::count(finding.record->options, "--channel") > 0;
+                           std::ranges::count(finding.record->selectors, "channel") > 0;
     return finding.record->name + " of " + device + ": " + Told(finding.failure) +
            (isChannel ? "; choose one with --channel N" : Hint(finding.failure));
 }
@@ -99,11 +102,13 @@ std::string RenderSummary(std::span<const Finding> findings, const std::string& 
 
 std::string RenderRecordList(const Paint& paint)
 {
-    Grid grid({"record", "what it tells"});
+    Grid asked({"record", "what it tells"});
+    Grid parsed({"record that only \"capset parse\" reads", "what it tells"});
     for (const RecordEntry& each : AllRecords()) {
-        grid.Add({{each.name}, {each.description}});
+        (each.ask ? asked : parsed).Add({{each.name}, {each.description}});
     }
-    return grid.Render(0, TerminalWidth(stdout), paint);
+    const std::size_t width = TerminalWidth(stdout);
+    return asked.Render(0, width, paint) + "\n" + parsed.Render(0, width, paint);
 }
 
 }  // namespace Tool

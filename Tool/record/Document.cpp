@@ -13,7 +13,7 @@
 
 #include <json/value.h>
 
-#include "CapabilitySet/private/xml/XmlDocument.h"
+#include "CapabilitySet/XmlText.h"
 #include "Tool/Failure.h"
 #include "Tool/record/JsonOutput.h"
 #include "Tool/terminal/Terminal.h"
@@ -22,59 +22,16 @@
 namespace Tool
 {
 
-namespace xml = CapabilitySet::xml;
-
 namespace
 {
 
 constexpr std::array<std::string_view, 5> kStatusMembers{"statusCode", "statusString",
                                                          "subStatusCode", "errorCode", "errorMsg"};
 
-xml::Document ParseXml(const std::string& document)
+/// No document at all is most often JSON.
+bool MayBeXml(const std::string& document)
 {
-    xml::Problem problem;
-    return document.find('<') == std::string::npos
-               ? nullptr
-               : xml::ParseText(document, xml::Form::Plain, problem);
-}
-
-bool IsBlank(const xmlNode* node)
-{
-    return node->type == XML_TEXT_NODE && Trimmed(xml::XmlCharToString(node->content)).empty();
-}
-
-/// Drops the blanks between elements, which would keep the writer from indenting. Recursion is
-/// safe: the parser refuses documents deeper than 256 elements.
-void DropIndentation(xmlNode* element)
-{
-    bool mixed = false;
-    bool holdsElements = false;
-    for (xmlNode* child = element->children; child != nullptr; child = child->next) {
-        holdsElements = holdsElements || child->type == XML_ELEMENT_NODE;
-        mixed = mixed || (child->type == XML_TEXT_NODE && !IsBlank(child));
-    }
-    xmlNode* next = nullptr;
-    for (xmlNode* child = element->children; child != nullptr; child = next) {
-        next = child->next;
-        if (child->type == XML_ELEMENT_NODE) {
-            DropIndentation(child);
-        } else if (holdsElements && !mixed && IsBlank(child)) {
-            xmlUnlinkNode(child);
-            xmlFreeNode(child);
-        }
-    }
-}
-
-std::string IndentedXml(xmlDoc* document)
-{
-    DropIndentation(xmlDocGetRootElement(document));
-    xmlChar* text = nullptr;
-    int size = 0;
-    xmlDocDumpFormatMemoryEnc(document, &text, &size, "UTF-8", 1);
-    const std::unique_ptr<xmlChar, void (*)(void*)> owner(text, xmlFree);
-    return text == nullptr
-               ? std::string()
-               : std::string(reinterpret_cast<const char*>(text), static_cast<std::size_t>(size));
+    return document.find('<') != std::string::npos;
 }
 
 /// A member of a status document that is a JSON object.
@@ -87,14 +44,11 @@ std::optional<std::string> JsonMember(const Json::Value& status, std::string_vie
     return member->asString();
 }
 
-std::optional<std::string> XmlMember(xmlNode* root, std::string_view name)
+std::optional<std::string> XmlMember(const CapabilitySet::AbilityElement& root,
+                                     std::string_view name)
 {
-    for (xmlNode* child = root->children; child != nullptr; child = child->next) {
-        if (child->type == XML_ELEMENT_NODE && xml::XmlCharToString(child->name) == name) {
-            return Trimmed(xml::GetNodeString(child));
-        }
-    }
-    return std::nullopt;
+    const CapabilitySet::AbilityElement& member = root.Find(name);
+    return member ? std::optional(Trimmed(member.text)) : std::nullopt;
 }
 
 template <class Find>
@@ -113,8 +67,8 @@ std::vector<std::pair<std::string, std::string>> Members(Find&& find)
 
 std::string Pretty(const std::string& document)
 {
-    if (const xml::Document parsed = ParseXml(document)) {
-        if (std::string text = IndentedXml(parsed.get()); !text.empty()) {
+    if (MayBeXml(document)) {
+        if (std::string text = CapabilitySet::IndentedXml(document); !text.empty()) {
             return text;
         }
     }
@@ -126,7 +80,7 @@ std::string Pretty(const std::string& document)
 bool IsDocument(const std::string& text)
 {
     Json::Value value;
-    return ParseXml(text) != nullptr ||
+    return (MayBeXml(text) && CapabilitySet::ElementsOf(text)) ||
            (ReadJson(text, value) && (value.isObject() || value.isArray()));
 }
 
@@ -165,9 +119,10 @@ void PrintDocument(const std::string& document)
 
 std::vector<std::pair<std::string, std::string>> ReadStatus(const std::string& document)
 {
-    if (const xml::Document parsed = ParseXml(document)) {
-        xmlNode* const root = xmlDocGetRootElement(parsed.get());
-        return Members([root](std::string_view name) { return XmlMember(root, name); });
+    if (MayBeXml(document)) {
+        if (const auto root = CapabilitySet::ElementsOf(document)) {
+            return Members([&root](std::string_view name) { return XmlMember(root, name); });
+        }
     }
     Json::Value value;
     if (!ReadJson(document, value) || !value.isObject()) {

@@ -26,15 +26,31 @@ const RecordEntry& RecordNamed(const std::string& name)
                   kUsage);
 }
 
+std::vector<std::string> OptionsOf(const RecordEntry& record)
+{
+    std::vector<std::string> options;
+    for (const std::string& selector : record.selectors) {
+        options.push_back("--" + selector);
+    }
+    return options;
+}
+
 std::vector<const RecordEntry*> RecordsNamed(const std::vector<std::string>& names)
 {
     std::vector<const RecordEntry*> records;
     for (const std::string& name : names) {
-        records.push_back(&RecordNamed(name));
+        const RecordEntry& record = RecordNamed(name);
+        if (!record.ask) {
+            throw Failure("no query gets " + record.name + "; \"capset parse\" reads a saved one",
+                          kUsage);
+        }
+        records.push_back(&record);
     }
     if (names.empty()) {
         for (const RecordEntry& each : AllRecords()) {
-            records.push_back(&each);
+            if (each.ask) {
+                records.push_back(&each);
+            }
         }
     }
     return records;
@@ -47,7 +63,7 @@ void CheckOptions(const std::vector<const RecordEntry*>& records,
     std::ranges::transform(records, std::back_inserter(names), &RecordEntry::name);
     for (const std::string& option : options) {
         const bool used = std::ranges::any_of(records, [&option](const RecordEntry* record) {
-            return std::ranges::count(record->options, option) > 0;
+            return std::ranges::count(OptionsOf(*record), option) > 0;
         });
         if (!used) {
             throw Failure(option + " selects nothing of " + Joined(names), kUsage);

@@ -7,7 +7,7 @@
 #include <json/value.h>
 
 #include "Tool/Failure.h"
-#include "Tool/record/Records.h"
+#include "Tool/record/RecordNames.h"
 #include "Tool/session/SdkFailure.h"
 
 namespace Tool

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "CapabilitySet/private/query/JsonOperation.h"
+#include "CapabilitySet/JsonTARN/DataPackage.h"
 #include "PelNetSDK/Login.h"
 #include "Tool/record/Document.h"
 
@@ -63,14 +63,9 @@ Report Download(Talk& talk, DownloadFile& file, const PackageOperation& operatio
 
 PackageOperation PackageAt(const std::string& url)
 {
-    // The library sends a request line as a format, in which a percent sign is written twice.
-    std::string path;
-    for (const char c : PathOf(url)) {
-        path += c == '%' ? std::string("%%") : std::string(1, c);
-    }
-    return [path](tagNET_ORB_XML_CONFIG_OUTPUT& package, unsigned int& error, int userID) {
-        return CapabilitySet::query::DownloadPackage(package, error, userID, CAPABILITYSET_HERE,
-                                                     {"GET ", &path, "\r\n"});
+    return [path = PathOf(url)](tagNET_ORB_XML_CONFIG_OUTPUT& package, unsigned int& error,
+                                int userID) {
+        return CapabilitySet::DownloadPackageAt(package, path, error, userID);
     };
 }
 

@@ -161,7 +161,7 @@ private:
         Fill(element.max);
     }
 
-    template <CapabilitySet::tree::HasFields Record>
+    template <CapabilitySet::HasFields Record>
     void Fill(Record& record)
     {
         if constexpr (requires { record.present = true; }) {

@@ -277,7 +277,7 @@ bool Read(const xmlNode* node, Value& value, as::Noted<bool> how)
     return Read(node, value);
 }
 
-template <xml::IsRecord Record>
+template <CapabilitySet::HasFields Record>
 bool Read(const xmlNode* node, Record& record, as::Plain how = {});
 
 template <class Item>
@@ -320,7 +320,7 @@ void ReadFrom(const xmlNode* cursor, Record& record)
         constexpr bool kIsList = (std::is_same_v<decltype(how), as::Repeated> || ...);
         while (Find(cursor, name)) {
             bool counts = Read(cursor, member, how...);
-            if constexpr (xml::NestedFlagCounts<Record> && xml::IsRecord<Member>) {
+            if constexpr (xml::NestedFlagCounts<Record> && CapabilitySet::HasFields<Member>) {
                 counts = xml::FlagOf(member);
             }
             isRead = isRead || counts;
@@ -335,7 +335,7 @@ void ReadFrom(const xmlNode* cursor, Record& record)
     }
 }
 
-template <xml::IsRecord Record>
+template <CapabilitySet::HasFields Record>
 bool Read(const xmlNode* node, Record& record, as::Plain /*how*/)
 {
     ReadFrom(node->children, record);

@@ -44,7 +44,7 @@ inline bool IsSame(const CapabilitySet::OptJsonElement& a, const CapabilitySet::
     return a.capable == b.capable && a.opt == b.opt;
 }
 
-template <CapabilitySet::tree::HasFields Record>
+template <CapabilitySet::HasFields Record>
 bool IsSame(const Record& a, const Record& b);
 
 inline bool IsSame(const CapabilitySet::MisinfoMinMaxElement& a,
@@ -78,7 +78,7 @@ inline bool IsSame(const CapabilitySet::AbilityDocument& a, const CapabilitySet:
     return a.capable == b.capable && IsSame(a.root, b.root);
 }
 
-template <CapabilitySet::tree::HasFields Record>
+template <CapabilitySet::HasFields Record>
 bool IsSame(const Record& a, const Record& b)
 {
     bool same = true;

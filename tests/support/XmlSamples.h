@@ -82,7 +82,7 @@ inline Sample SampleOf(const std::vector<CapabilitySet::AlarmHandleType::HandleT
     return {" opt='audio'", {}};
 }
 
-template <xml::IsRecord Record>
+template <CapabilitySet::HasFields Record>
 Sample SampleOf(const Record& /*member*/, int number, auto... /*how*/)
 {
     return {{}, FirstField<Record>(number)};

@@ -34,10 +34,6 @@ concept TakesFirstChild = HasValid<Record> || requires { requires Record::kParse
 template <class Record>
 concept NestedFlagCounts = HasCapable<Record> || requires { requires Record::kNestedFlagCounts; };
 
-/// A record, as opposed to a value or a shared element type: it has a field list.
-template <class Type>
-concept IsRecord = requires(Type& r) { Type::Fields(r, [](auto&&... /*field*/) {}); };
-
 template <class Record>
 void RaiseFlag(Record& record)
 {
@@ -211,7 +207,7 @@ public:
             if (node == nullptr || !ReadValue(node, member, how)) {
                 return;
             }
-            if constexpr (NestedFlagCounts<Record> && IsRecord<Member>) {
+            if constexpr (NestedFlagCounts<Record> && HasFields<Member>) {
                 read_ = read_ || FlagOf(member);
             } else {
                 read_ = true;
