@@ -20,16 +20,16 @@ namespace CapabilitySet::catalog
 /// names; where one is not set, its default holds.
 struct Selectors
 {
-    std::optional<int> channel;                ///< "channel": the SDK's number, 1 by default; -1:
-                                               ///< the device as a whole
-    std::optional<std::vector<int>> channels;  ///< "channels": asked for together, by default
-                                               ///< `channel` alone
-    std::optional<int> audioChannel;           ///< "audio-channel": 1 by default
-    std::optional<int> talkChannel;            ///< "talk-channel": of two-way audio, 1 by default
-    std::optional<int> wall;                   ///< "wall": video wall, 1 by default
-    std::optional<int> output;                 ///< "output": of the wall, 1 by default
-    std::optional<std::string> part;           ///< "part": the name of one part's element
-    bool extended = false;                     ///< "extended": the extended form
+    std::optional<int> channel{};                ///< "channel": the SDK's number, 1 by default; -1:
+                                                 ///< the device as a whole
+    std::optional<std::vector<int>> channels{};  ///< "channels": asked for together, by default
+                                                 ///< `channel` alone
+    std::optional<int> audioChannel{};           ///< "audio-channel": 1 by default
+    std::optional<int> talkChannel{};            ///< "talk-channel": of two-way audio, 1 by default
+    std::optional<int> wall{};                   ///< "wall": video wall, 1 by default
+    std::optional<int> output{};                 ///< "output": of the wall, 1 by default
+    std::optional<std::string> part{};           ///< "part": the name of one part's element
+    bool extended = false;                       ///< "extended": the extended form
 };
 
 /// What asking a device for a record gave.
@@ -49,19 +49,19 @@ enum class Format
 /// One record of the library.
 struct RecordEntry
 {
-    std::string name;
-    std::string description;  ///< one line
-    std::string type;         ///< the record's C++ type, without its namespace
+    std::string name{};
+    std::string description{};  ///< one line
+    std::string type{};         ///< the record's C++ type, without its namespace
     Format format = Format::Xml;
-    std::vector<std::string> selectors;  ///< the names of those that `ask` uses
+    std::vector<std::string> selectors{};  ///< the names of those that `ask` uses
 
     /// Asks a device that is logged in. Empty for a record that no query gets by itself: a request
     /// body, the result of a search, a document that clients fetch themselves.
-    std::function<Answer(int userID, const Selectors& selectors)> ask;
+    std::function<Answer(int userID, const Selectors& selectors)> ask{};
     /// Reads a text as the record and explains what was read. Never hangs, whatever the text.
-    std::function<Reading(const std::string& text)> read;
+    std::function<Reading(const std::string& text)> read{};
     /// The record as it is before anything is read into it.
-    std::function<RecordNode()> blank;
+    std::function<RecordNode()> blank{};
 };
 
 /// All records, in the order in which they are shown: abilities, settings and states, JSON records,

@@ -39,7 +39,7 @@ install(FILES ${PROJECT_BINARY_DIR}/CapabilitySetConfig.cmake
 file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" pc_prefix "\${pcfiledir}/${pc_prefix}")
 foreach(package IN ITEMS keel keel-static pelnetsdk pelnetsdk-static capabilityset
-                         capabilityset-static)
+                         capabilityset-static capabilityset-catalog capabilityset-catalog-static)
   configure_file(${CMAKE_CURRENT_LIST_DIR}/pkgconfig/${package}.pc.in
                  ${PROJECT_BINARY_DIR}/pkgconfig/${package}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${package}.pc

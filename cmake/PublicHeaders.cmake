@@ -5,6 +5,7 @@
 
 cmake_policy(VERSION 3.25)
 
+set(CAPABILITYSET_CATALOG_HEADERS Catalog/Catalog.h Catalog/Nature.h)
 set(CAPABILITYSET_PLATFORM_HEADERS
     Platform/CodePage/CodePage.h
     Platform/Keel/CLog.h
@@ -25,7 +26,7 @@ set(CAPABILITYSET_INSTALLED_INTERNALS)
 function(capabilityset_public_headers root result)
   file(GLOB_RECURSE pending RELATIVE ${root} ${root}/Common/*.h)
   list(FILTER pending EXCLUDE REGEX "/private/")
-  list(APPEND pending ${CAPABILITYSET_PLATFORM_HEADERS})
+  list(APPEND pending ${CAPABILITYSET_CATALOG_HEADERS} ${CAPABILITYSET_PLATFORM_HEADERS})
   set(headers)
   while(pending)
     list(POP_FRONT pending header)
@@ -41,6 +42,9 @@ function(capabilityset_public_headers root result)
           list(APPEND pending ${directory}/${include})
         endif()
       endforeach()
+      if(include MATCHES "^Catalog/")
+        list(APPEND pending ${include})
+      endif()
     endforeach()
   endwhile()
   list(SORT headers)

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 
+#include "CapabilitySet/JsonTARN/JsonElements.h"
 #include "CapabilitySet/JsonTARN/JsonLimits.h"
+#include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/RecordTree.h"
 #include "CapabilitySet/private/json/JsonReading.h"
 #include "fuzz/Check.h"
 #include "fuzz/Targets.h"
-#include "support/JsonRecords.h"
-#include "support/ReferenceJson.h"
+#include "support/AllRecords.h"
 
 namespace Fuzz
 {
@@ -16,6 +17,8 @@ namespace
 {
 
 using namespace CapabilitySet;
+using TestSupport::RecordClass;
+using TestSupport::RecordPointer;
 
 /// Bytes that are no UTF-8 are read as they are and written as a substitute.
 bool IsAscii(const std::string& text)
@@ -24,50 +27,30 @@ bool IsAscii(const std::string& text)
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-/// What tells that a text may be meant for a record: its key, or else the first of its members.
-template <class Record>
-const std::string& NameOf()
-{
-    static const std::string name = [] {
-        std::string first = Record::kKey;
-        Record sample;
-        Record::Fields(sample, [&](const char* member, const auto&... /*member and how*/) {
-            if (first.empty()) {
-                first = member;
-            }
-        });
-        return first.empty() ? first : '"' + first + '"';
-    }();
-    return name;
-}
-
 /// Records without members of their own read alike: the text's length chooses one.
-template <class Record>
-bool Concerns(const std::string& text, std::size_t ordinal)
+bool Concerns(const RecordClass& type, const std::string& text, std::size_t ordinal)
 {
     constexpr std::size_t kRecords = 64;
-    const std::string& name = NameOf<Record>();
-    return name.empty() ? text.size() % kRecords == ordinal : text.find(name) != std::string::npos;
+    const std::string& name = type.root.empty() && !type.names.empty() ? type.names[0] : type.root;
+    return name.empty() ? text.size() % kRecords == ordinal
+                        : text.find('"' + name + '"') != std::string::npos;
 }
 
-template <class Record>
-void CheckRoundTrip(const std::string& text)
+void CheckRoundTrip(const RecordClass& type, const std::string& text)
 {
-    const std::string about = std::string("record ") + Record::kKey;
-    Record record;
-    record.Parse(text);
-    Record expected;
-    TestSupport::reference::ReadText(text, expected);
-    Require(Describe({}, record) == Describe({}, expected), "differs from the plain reading",
-            about);
-    const std::string written = record.Make();
+    const RecordPointer record = type.Read(text);
+    const RecordPointer expected = type.make();
+    type.readPlainly(text, *expected);
+    Require(record->Describe() == expected->Describe(), "differs from the plain reading",
+            type.name);
+    const std::string written = record->Make();
     if (written.empty()) {
         return;  // whoever has nothing to switch sends nothing
     }
-    Record again;
-    again.Parse(written);
-    Require(SameFields(record, again) || !IsAscii(text), "reads back what it wrote", about);
-    Require(again.Make() == written, "writes the same again", about);
+    const RecordPointer again = type.Read(written);
+    Require(SameValues(record->Describe(), again->Describe()) || !IsAscii(text),
+            "reads back what it wrote", type.name);
+    Require(again->Make() == written, "writes the same again", type.name);
 }
 
 void CheckStatus(const std::string& text)
@@ -115,11 +98,11 @@ void Json(const std::string& text)
     CheckStatus(text);
     CheckLimits(text);
     std::size_t ordinal = 0;
-    JsonRecords::ForEach([&]<class Record>() {
-        if (Concerns<Record>(text, ordinal++)) {
-            CheckRoundTrip<Record>(text);
+    for (const RecordClass& type : TestSupport::AllRecordTypes()) {
+        if (type.IsJson() && Concerns(type, text, ordinal++)) {
+            CheckRoundTrip(type, text);
         }
-    });
+    }
 }
 
 }  // namespace Fuzz

@@ -5,34 +5,29 @@
 #include <set>
 #include <string>
 
-#include "support/AbilityRecords.h"
-#include "support/JsonRecords.h"
-#include "support/XmlRecords.h"
+#include "support/AllRecords.h"
 
 namespace
 {
 
 using Words = std::set<std::string>;
 
-template <class Records>
-void AddNames(Words& words, const char* before, const char* after)
+/// The names of the fields of all records of a format, and of their roots.
+void AddNames(Words& words, bool isJson)
 {
-    Records::ForEach([&]<class Record>() {
-        Record sample;
-        Record::Fields(sample, [&](const char* name, const auto&... /*member and how*/) {
-            words.insert(std::string(before) + name + after);
-        });
-    });
-}
-
-template <class Records>
-void AddRoots(Words& words)
-{
-    Records::ForEach([&]<class Record>() {
-        if constexpr (requires { Record::kRoot; }) {
-            words.insert(std::string("<") + Record::kRoot + ">");
+    const std::string before = isJson ? "\"" : "<";
+    const std::string after = isJson ? "\":" : ">";
+    for (const TestSupport::RecordClass& type : TestSupport::AllRecordTypes()) {
+        if (type.IsJson() != isJson) {
+            continue;
         }
-    });
+        for (const std::string& name : type.names) {
+            words.insert(before + name + after);
+        }
+        if (!type.root.empty()) {
+            words.insert((isJson ? "{" : "") + before + type.root + after);
+        }
+    }
 }
 
 Words WordsOf(const std::string& target)
@@ -61,17 +56,13 @@ Words WordsOf(const std::string& target)
     Words words;
     if (target == "Xml") {
         words = markup;
-        AddRoots<TestSupport::XmlRecords>(words);
-        AddRoots<TestSupport::AbilityRecords>(words);
-        AddNames<TestSupport::XmlRecords>(words, "<", ">");
+        AddNames(words, false);
     } else if (target == "Elements") {
         words = markup;
         words.insert({"<Min>1</Min>", "<Max>2</Max>", "<Default>", "<Range>1,2</Range>", "1,,2"});
     } else if (target == "Json") {
         words = values;
-        AddNames<CapabilitySet::JsonRecords>(words, "\"", "\":");
-        CapabilitySet::JsonRecords::ForEach(
-            [&]<class Record>() { words.insert(std::string("{\"") + Record::kKey + "\":"); });
+        AddNames(words, true);
     } else if (target == "Transparent" || target == "Refusal") {
         words = {"<ResponseStatus>", "</ResponseStatus>", "<statusCode>", "<subStatusCode>",
                  "deviceBusy",       "notSupport",        "\x1E",         "<errorCode>0x1",

@@ -13,9 +13,8 @@
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/RecordTree.h"
 #include "CapabilitySet/private/xml/XmlDocument.h"
+#include "support/AllRecords.h"
 #include "support/LogCapture.h"
-#include "support/XmlRecords.h"
-#include "support/XmlSamples.h"
 
 namespace
 {
@@ -23,8 +22,11 @@ namespace
 using namespace CapabilitySet;
 using Device::HostileCase;
 using Device::HostileCases;
+using TestSupport::AllRecordTypes;
 using TestSupport::LogCapture;
-using TestSupport::RootOf;
+using TestSupport::RecordClass;
+using TestSupport::RecordKind;
+using TestSupport::RecordPointer;
 
 /// Takes a second and more to make and to read: for one record of each kind only.
 bool IsLarge(const HostileCase& hostile)
@@ -45,51 +47,26 @@ bool IsHarmless(const HostileCase& hostile)
     return harmless.contains(hostile.name);
 }
 
-struct Reading
-{
-    RecordNode record;
-    bool isFlagUp = false;
-};
-
-template <class Record>
-Reading Read(const std::string& text)
-{
-    const Record record(text);
-    bool isFlagUp = false;
-    if constexpr (xml::HasValid<Record> || xml::HasCapable<Record>) {
-        isFlagUp = xml::FlagOf(record);
-    }
-    return {Describe({}, record), isFlagUp};
-}
-
+/// What the record tells of a document, apart from the record itself.
 struct Row
 {
-    std::string root;
-    std::string sample;
-    Reading (*read)(const std::string& text);
+    const RecordClass& type;
     xml::Form form = xml::Form::Plain;
-    bool tellsMismatch = true;
-    bool takesLarge = false;
+    bool logsMismatch = true;
 };
 
-const std::vector<Row>& Rows()
+std::vector<Row> Rows()
 {
-    static const std::vector<Row> all = [] {
-        std::vector<Row> rows;
-        TestSupport::XmlRecords::ForEach([&rows]<class Record>() {
-            if constexpr (requires(const std::string& text) { Record(text); }) {
-                const std::string root = RootOf<Record>();
-                const bool isPtz = root.rfind("PTZ", 0) == 0;
-                const bool isBlankFree = isPtz && !std::is_same_v<Record, CPTZPresetListCfg>;
-                rows.push_back(
-                    {root, TestSupport::Element(root, {{}, TestSupport::AllFields<Record>()}),
-                     &Read<Record>, isBlankFree ? xml::Form::BlankFree : xml::Form::Plain, !isPtz,
-                     std::is_same_v<Record, BasicCapability>});
-            }
-        });
-        return rows;
-    }();
-    return all;
+    std::vector<Row> rows;
+    for (const RecordClass& type : AllRecordTypes()) {
+        if (type.kind == RecordKind::XmlDocument) {
+            const bool isPtz = type.root.starts_with("PTZ");
+            const bool isBlankFree = isPtz && type.name != "CPTZPresetListCfg";
+            rows.push_back({type, isBlankFree ? xml::Form::BlankFree : xml::Form::Plain, !isPtz});
+        }
+    }
+    EXPECT_GT(rows.size(), 20U);
+    return rows;
 }
 
 /// 1: readable as this record, 0: silently none, -1: none, after a line.
@@ -104,10 +81,10 @@ int Verdict(const Row& row, const std::string& text)
         return -1;
     }
     xmlNode* root = xmlDocGetRootElement(document.get());
-    if (xml::NextElementNamed(root, row.root.c_str())) {
+    if (xml::NextElementNamed(root, row.type.root.c_str())) {
         return 1;
     }
-    return row.tellsMismatch ? -1 : 0;
+    return row.logsMismatch ? -1 : 0;
 }
 
 std::size_t DocumentLines(const LogCapture& log)
@@ -127,25 +104,27 @@ void Check(const Row& row, const HostileCase& hostile, const std::string& text)
     }
     const int verdict = Verdict(row, text);
     const LogCapture log;
-    const Reading reading = row.read(text);
+    const RecordPointer record = row.type.Read(text);
     EXPECT_EQ(DocumentLines(log), verdict < 0 ? 1U : 0U);
     if (verdict < 1) {
-        EXPECT_EQ(reading.record, row.read("").record) << "what cannot be read fills nothing";
-        EXPECT_FALSE(reading.isFlagUp);
+        EXPECT_EQ(record->Describe(), row.type.make()->Describe())
+            << "what cannot be read fills nothing";
+        EXPECT_FALSE(row.type.hasFlag && record->IsFlagUp());
     } else if (IsHarmless(hostile)) {
-        EXPECT_EQ(reading.record, row.read(row.sample).record);
+        EXPECT_EQ(record->Describe(), row.type.Read(row.type.sample)->Describe());
     }
 }
 
 TEST(HostileDocumentsTest, FillARecordWholeOrNotAtAllWithOneLine)
 {
+    const std::vector<Row> rows = Rows();
     for (const HostileCase& hostile : HostileCases()) {
-        for (const Row& row : Rows()) {
-            if (IsLarge(hostile) && !row.takesLarge) {
+        for (const Row& row : rows) {
+            if (IsLarge(hostile) && row.type.name != "BasicCapability") {
                 continue;
             }
-            SCOPED_TRACE(std::string(hostile.name) + " " + row.root);
-            Check(row, hostile, MakeHostileXml(hostile, row.root, row.sample));
+            SCOPED_TRACE(std::string(hostile.name) + " " + row.type.root);
+            Check(row, hostile, MakeHostileXml(hostile, row.type.root, row.type.sample));
             if (testing::Test::HasFailure()) {
                 return;
             }
@@ -159,7 +138,7 @@ TEST(HostileDocumentsTest, AnAbilityDocumentKeepsWhateverIsADocument)
         SCOPED_TRACE(hostile.name);
         const std::string text =
             MakeHostileXml(hostile, "PTZAbility", "<PTZAbility><a>1</a></PTZAbility>");
-        const Row row{"PTZAbility", {}, nullptr};
+        const Row row{TestSupport::RecordTypeNamed("PTZAbility")};
         const LogCapture log;
         const PTZAbility read(text);
         EXPECT_EQ(read.Capable(), Verdict(row, text) == 1);

@@ -1,109 +1,39 @@
-// Every record reads every sample, cut at each byte or changed in small ways, as a plain reader
-// does.
+// Every record reads every sample, cut short or changed in small ways, as a plain reader does.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <set>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "CapabilitySet/ChannelAbility.h"
-#include "CapabilitySet/DisplayAbility.h"
-#include "CapabilitySet/SystemAbility.h"
-#include "support/JsonRecords.h"
-#include "support/JsonSamples.h"
+#include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
+#include "support/AllRecords.h"
 #include "support/Mutation.h"
-#include "support/ReferenceJson.h"
-#include "support/ReferenceXml.h"
-#include "support/SameRecord.h"
-#include "support/XmlRecords.h"
-#include "support/XmlSamples.h"
 
 namespace
 {
 
-using namespace CapabilitySet;
 using namespace TestSupport;
 
-/// A few of the records that keep all of a document, which are read alike.
-using Trees = RecordTypes<PTZAbility, CameraPara, VideoPicAbility, DeviceCap, WallAbility>;
-/// Read by hand from JSON, not by a field list alone.
-using JsonElements =
-    RecordTypes<JsonStatus, JsonErrorStatusList, OptJsonElement, MisinfoMinMaxElement>;
-
-constexpr const char* kStatus =
-    R"({"requestURL": "/a", "statusCode": 4, "statusString": "s", "subStatusCode": "x",
-        "errorCode": 5, "errorMsg": "m", "ErrorList": [{"id": 1, "subStatusCode": "y"}, null,
-        {"id": -2.5}], "@opt": ["a", 1, true], "@min": -1, "@max": 90})";
-
-constexpr log::Place kHere{"RecordReadingTest.cpp", "Read", 1};
-
-/// A record that is no document is read as the element of one.
-template <class Record>
-void ReadXml(const std::string& text, Record& record)
+/// Whether the library and the plain reader make different records of a text.
+bool Differs(const RecordClass& type, const std::string& text)
 {
-    if constexpr (requires { record.Parse(text); }) {
-        record.Parse(text);
-    } else {
-        xml::WithRoot(text, RootOf<Record>(), kHere, [&record](xmlNode* root) {
-            record.Parse(xml::TakesFirstChild<Record> ? root->children : root);
-        });
+    const RecordPointer expected = type.make();
+    if (type.readPlainly(text, *expected) == Verdict::Endless) {
+        return !CapabilitySet::HasEmptyItem(text);
     }
+    return !type.Read(text)->IsSame(*expected);
 }
 
-template <class Record>
-bool XmlDiffers(const std::string& text)
+/// Of what is left of a document without its end, which is no document to any reader.
+bool ReadsPart(const RecordClass& type, const std::string& text)
 {
-    Record expected;
-    const auto document = reference::ReadDocument(text, RootOf<Record>(), expected);
-    if (document == reference::Document::Endless) {
-        return !HasEmptyItem(text);
-    }
-    Record record;
-    ReadXml(text, record);
-    return !IsSame(record, expected);
+    return !type.Read(text)->IsSame(*type.make());
 }
-
-/// What is left of a document that lacks its end is none, to any reader.
-template <class Record>
-bool XmlReadsPart(const std::string& text)
-{
-    Record record;
-    ReadXml(text, record);
-    return !IsSame(record, Record());
-}
-
-template <class Record>
-bool JsonReadsPart(const std::string& text)
-{
-    Record record;
-    record.Parse(text);
-    return !IsSame(record, Record());
-}
-
-template <class Record>
-bool JsonDiffers(const std::string& text)
-{
-    Record expected;
-    reference::ReadText(text, expected);
-    Record record;
-    record.Parse(text);
-    return !IsSame(record, expected);
-}
-
-struct Row
-{
-    std::string record;
-    bool (*differs)(const std::string& text);
-    bool (*readsPart)(const std::string& text);
-    bool isJson = false;
-    std::vector<std::string> samples{};
-};
 
 /// The documents of all simulated devices that end so.
 std::vector<std::string> LoadDocuments(const char* extension)
@@ -124,160 +54,133 @@ std::vector<std::string> LoadDocuments(const char* extension)
     return documents;
 }
 
-const std::vector<std::string>& XmlDocuments()
+/// The record's own sample, and documents of devices that fill it. Records that keep whatever a
+/// device says take any document: the first few are enough.
+std::vector<std::string> SamplesOf(const RecordClass& type)
 {
-    static const std::vector<std::string> documents = LoadDocuments(".xml");
-    return documents;
-}
-
-const std::vector<std::string>& JsonDocuments()
-{
-    static const std::vector<std::string> documents = LoadDocuments(".json");
-    return documents;
-}
-
-template <class Record>
-Row XmlRow(const std::string& elements)
-{
-    Row row{testing::internal::GetTypeName<Record>(), &XmlDiffers<Record>, &XmlReadsPart<Record>};
-    row.samples.push_back(Element(RootOf<Record>(), {{}, elements}));
-    for (const std::string& document : XmlDocuments()) {
-        Record record;
-        if (reference::ReadDocument(document, RootOf<Record>(), record) ==
-            reference::Document::Fits) {
-            row.samples.push_back(document);
+    static const std::vector<std::string> xml = LoadDocuments(".xml");
+    static const std::vector<std::string> json = LoadDocuments(".json");
+    constexpr std::size_t kMost = 4;
+    std::vector<std::string> samples{type.sample};
+    for (const std::string& document : type.IsJson() ? json : xml) {
+        const RecordPointer record = type.make();
+        if (samples.size() < kMost && type.readPlainly(document, *record) == Verdict::Fits &&
+            !record->IsSame(*type.make())) {
+            samples.push_back(document);
         }
     }
-    return row;
+    return samples;
 }
 
-template <class Record>
-Row JsonRow(const std::string& sample)
-{
-    constexpr std::size_t kMost = 4;  // records without a list take any document
-    Row row{testing::internal::GetTypeName<Record>(),
-            &JsonDiffers<Record>,
-            &JsonReadsPart<Record>,
-            true,
-            {sample}};
-    for (const std::string& document : JsonDocuments()) {
-        Record record;
-        reference::ReadText(document, record);
-        if (!IsSame(record, Record()) && row.samples.size() < kMost) {
-            row.samples.push_back(document);
-        }
-    }
-    return row;
-}
-
-std::vector<Row> XmlRows()
-{
-    std::vector<Row> rows;
-    XmlRecords::ForEach(
-        [&]<class Record>() { rows.push_back(XmlRow<Record>(AllFields<Record>())); });
-    Trees::ForEach([&]<class Record>() {
-        rows.push_back(XmlRow<Record>("<a xmlns:b='u' b:c='1'> <b:d>x</b:d>y<d/></a>"));
-    });
-    return rows;
-}
-
-std::vector<Row> JsonRows()
-{
-    std::vector<Row> rows;
-    JsonRecords::ForEach(
-        [&]<class Record>() { rows.push_back(JsonRow<Record>(SampleText<Record>())); });
-    JsonElements::ForEach([&]<class Record>() { rows.push_back(JsonRow<Record>(kStatus)); });
-    return rows;
-}
-
-/// Checks texts, and tells of those that are read differently the smallest.
+/// Checks texts, and of those that are read differently shows the smallest.
 class Comparison
 {
 public:
-    explicit Comparison(const Row& row) : row_(row) {}
+    explicit Comparison(const RecordClass& type) : type_(type) {}
 
-    void Check(const std::string& text) { Check(text, row_.differs); }
+    void Check(const std::string& text)
+    {
+        if (!Differs(type_, text)) {
+            return;
+        }
+        Keep(Smallest(text, [this](const std::string& less) { return Differs(type_, less); }));
+    }
 
     /// Of a document without its end.
-    void CheckPart(const std::string& text) { Check(text, row_.readsPart); }
-
-    void Tell(const std::string& what) const
+    void CheckPart(const std::string& text)
     {
-        EXPECT_EQ(worst_, "") << row_.record << " reads this otherwise than the plain reader; "
+        if (ReadsPart(type_, text)) {
+            Keep(text);
+        }
+    }
+
+    void Expect(const std::string& what) const
+    {
+        EXPECT_EQ(worst_, "") << type_.name << " and the plain reader read this differently; "
                               << what;
     }
 
 private:
-    void Check(const std::string& text, bool (*isWrong)(const std::string& text))
+    void Keep(const std::string& text)
     {
-        if (!isWrong(text)) {
-            return;
-        }
-        // A document can be made smaller, what is left of one only by further cuts.
-        const std::string smallest = isWrong == row_.differs ? Smallest(text, row_.differs) : text;
-        if (worst_.empty() || smallest.size() < worst_.size()) {
-            worst_ = smallest;
+        if (worst_.empty() || text.size() < worst_.size()) {
+            worst_ = text;
         }
     }
 
-    const Row& row_;
+    const RecordClass& type_;
     std::string worst_;
 };
 
-/// Each reader's records, so that the two run side by side.
-class RecordReadingTest : public testing::TestWithParam<bool>
+/// Each kind of record, so that they run side by side.
+class RecordReadingTest : public testing::TestWithParam<RecordKind>
 {
-public:
-    static std::vector<Row> Rows() { return GetParam() ? JsonRows() : XmlRows(); }
-};
-
-TEST_P(RecordReadingTest, ASampleCutAtAnyByteIsReadAsAPlainReaderReadsIt)
-{
-    // The time grows with the square of the length: a document beyond this that several records
-    // read is cut everywhere for the first of them, and in so many places for the others.
-    constexpr std::size_t kLong = 1024;
-    std::set<std::string> cutEverywhere;
-    std::size_t texts = 0;
-    for (const Row& row : Rows()) {
-        Comparison comparison(row);
-        for (const std::string& sample : row.samples) {
-            const std::size_t end = sample.find_last_of(row.isJson ? "}]" : ">");
-            const std::size_t step =
-                cutEverywhere.insert(sample).second ? 1 : 1 + sample.size() / kLong;
-            for (std::size_t size = 0; size <= sample.size(); size += step) {
-                const std::string text = sample.substr(0, size);
-                if (size <= end) {
-                    comparison.CheckPart(text);
-                } else {
-                    comparison.Check(text);
+protected:
+    /// Calls `check(type, sample, seed)` for each sample of each record of the kind.
+    template <class Check>
+    static void ForEachSample(Check check)
+    {
+        unsigned seed = 0;
+        for (const RecordClass& type : AllRecordTypes()) {
+            if (type.kind == GetParam()) {
+                for (const std::string& sample : SamplesOf(type)) {
+                    check(type, sample, ++seed);
                 }
-                ++texts;
             }
         }
-        comparison.Tell("a sample cut short");
+        EXPECT_GT(seed, 10U);
     }
+};
+
+TEST_P(RecordReadingTest, ASampleCutShortIsReadAsAPlainReaderReadsIt)
+{
+    // A text of n bytes costs n readings of n bytes; every byte is tried by the deep rounds.
+    const std::size_t cuts = IsDeep() ? 1U << 20U : 48;
+    std::size_t texts = 0;
+    ForEachSample([&](const RecordClass& type, const std::string& sample, unsigned seed) {
+        Comparison comparison(type);
+        const std::size_t end = sample.find_last_of(type.IsJson() ? "}]" : ">");
+        const std::size_t step = 1 + sample.size() / cuts;
+        for (std::size_t size = seed % step; size <= end; size += step) {
+            comparison.CheckPart(sample.substr(0, size));
+            ++texts;
+        }
+        for (std::size_t size = end - std::min<std::size_t>(end, 8); size <= sample.size();
+             ++size) {
+            size <= end ? comparison.CheckPart(sample.substr(0, size))
+                        : comparison.Check(sample.substr(0, size));
+            ++texts;
+        }
+        comparison.Expect("a sample cut short");
+    });
     std::cout << texts << " texts\n";
 }
 
 TEST_P(RecordReadingTest, ASampleChangedInSmallWaysIsReadAsAPlainReaderReadsIt)
 {
-    unsigned seed = 0;
+    const int rounds = IsDeep() ? 1000 : 40;
     std::size_t texts = 0;
-    for (const Row& row : Rows()) {
-        for (const std::string& sample : row.samples) {
-            Comparison comparison(row);
-            Mutation mutation(++seed, row.isJson);
-            for (int round = 0; round < 1000; ++round) {
-                comparison.Check(mutation.Of(sample));
-                ++texts;
-            }
-            comparison.Tell("seed " + std::to_string(seed));
+    ForEachSample([&](const RecordClass& type, const std::string& sample, unsigned seed) {
+        Comparison comparison(type);
+        Mutation mutation(seed, type.IsJson());
+        for (int round = 0; round < rounds; ++round) {
+            comparison.Check(mutation.Of(sample));
+            ++texts;
         }
-    }
-    std::cout << texts << " texts of " << seed << " samples\n";
+        comparison.Expect("seed " + std::to_string(seed));
+    });
+    std::cout << texts << " texts\n";
 }
 
-INSTANTIATE_TEST_SUITE_P(Readers, RecordReadingTest, testing::Bool(),
-                         [](const auto& reader) { return reader.param ? "Json" : "Xml"; });
+std::string NameOf(const testing::TestParamInfo<RecordKind>& kind)
+{
+    constexpr const char* kNames[] = {"XmlDocument", "XmlPart", "XmlTree", "Json"};
+    return kNames[static_cast<int>(kind.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, RecordReadingTest,
+                         testing::Values(RecordKind::XmlDocument, RecordKind::XmlPart,
+                                         RecordKind::XmlTree, RecordKind::Json),
+                         NameOf);
 
 }  // namespace

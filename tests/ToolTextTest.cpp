@@ -14,7 +14,6 @@
 #include "Tool/record/Base64.h"
 #include "Tool/record/Document.h"
 #include "Tool/record/JsonOutput.h"
-#include "Tool/record/RecordNames.h"
 #include "Tool/record/Table.h"
 #include "Tool/record/Values.h"
 #include "Tool/session/Connection.h"
@@ -347,19 +346,6 @@ TEST_F(ToolText, Base64PadsWhatIsLeftOver)
     EXPECT_EQ(ToBase64("fo"), "Zm8=");
     EXPECT_EQ(ToBase64("\xff"), "/w==");
     EXPECT_EQ(ToBase64("foobar"), "Zm9vYmFy");
-}
-
-TEST_F(ToolText, EveryRecordReadsItsOwnEmptyDocumentAndRefusesAForeignOne)
-{
-    std::vector<std::string> names;
-    for (const RecordEntry& each : AllRecords()) {
-        EXPECT_EQ(std::ranges::count(names, each.name), 0) << each.name;
-        names.push_back(each.name);
-        EXPECT_FALSE(each.description.empty()) << each.name;
-        EXPECT_LE(each.name.size() + each.description.size(), 78u) << each.name;
-        EXPECT_NE(each.read("<foreign/>").problem, "") << each.name;
-        EXPECT_NE(each.read("").problem, "") << each.name;
-    }
 }
 
 }  // namespace

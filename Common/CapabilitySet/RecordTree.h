@@ -167,8 +167,8 @@ RecordNode Describe(std::string name, const Record& record)
     }
 }
 
-/// As Describe; a JSON record is followed by what else the device said, and counts as announced when
-/// the device said anything.
+/// As Describe; a JSON record is followed by what else the device said, and counts as announced
+/// when the device said anything.
 template <class Record>
 RecordNode DescribeWhole(std::string name, const Record& record)
 {

@@ -72,6 +72,7 @@ Json::Value ToJson(const std::vector<Untaken>& untaken)
         item["path"] = each.path;
         item["line"] = each.line > 0 ? Json::Value(Json::Int64{each.line}) : Json::Value();
         item["reason"] = each.reason;
+        item["count"] = Json::Value::UInt64{each.count};
         list.append(std::move(item));
     }
     return list;

@@ -19,6 +19,7 @@
 #include "CapabilitySet/JsonTARN/JsonConfig/FireControl.h"
 #include "CapabilitySet/JsonTARN/JsonConfig/HumanFeatureSearch.h"
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
+#include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 
 // What it shares with the library is the field lists. It looks one member up after the other, and
 // leaves to JsonCpp what a value of the wrong kind does: the exception ends the reading.
@@ -233,6 +234,16 @@ inline void ReadText(const std::string& text, CapabilitySet::MisinfoMinMaxElemen
     WithJson(text, [&limits](const Json::Value& root) {
         limits.min = root["@min"].asInt();
         limits.max = root["@max"].asInt();
+    });
+}
+
+inline void ReadText(const std::string& text, CapabilitySet::CVelTarnPTZAutoTracking& tracking)
+{
+    WithJson(text, [&tracking](const Json::Value& root) {
+        const Json::Value& member = root["MoveAutoTracking"];
+        if (!member.isNull()) {
+            tracking.enabled = member["enabled"].asBool();
+        }
     });
 }
 

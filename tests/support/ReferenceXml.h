@@ -23,6 +23,7 @@
 #include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 #include "CapabilitySet/private/ParseToSDK.h"
 #include "CapabilitySet/private/xml/XmlFields.h"
+#include "support/AllRecords.h"
 
 // What it shares with the library is the field lists and what records tell of themselves. It parses
 // with libxml2's own entry points, copies every text, reads numbers through streams and searches
@@ -33,14 +34,6 @@ namespace TestSupport::reference
 
 namespace as = CapabilitySet::as;
 namespace xml = CapabilitySet::xml;
-
-/// What a text is to a record.
-enum class Document
-{
-    None,    ///< empty, malformed, or of another root
-    Fits,    ///< read
-    Endless  ///< a list with an item without children, on which its reader never ends
-};
 
 inline std::string Text(const xmlChar* text)
 {
@@ -434,7 +427,7 @@ inline Tree Parse(const std::string& text, bool isBlankFree)
 
 /// Reads a document whose root has this name into a record.
 template <class Record>
-Document ReadDocument(const std::string& text, const char* rootName, Record& record)
+Verdict ReadDocument(const std::string& text, const char* rootName, Record& record)
 {
     constexpr bool kIsTree = std::derived_from<Record, CapabilitySet::AbilityDocument>;
     constexpr bool kIsPlainList = std::is_same_v<Record, CapabilitySet::CPTZPresetListCfg>;
@@ -442,8 +435,12 @@ Document ReadDocument(const std::string& text, const char* rootName, Record& rec
         !kIsTree && !kIsPlainList && std::string_view(rootName).substr(0, 3) == "PTZ";
     const Tree tree = Parse(text, isBlankFree);
     const xmlNode* root = tree == nullptr ? nullptr : xmlDocGetRootElement(tree.get());
-    if (!Find(root, rootName)) {
-        return Document::None;
+    bool isRecord = Find(root, rootName);
+    if constexpr (requires { Record::kRequestRoot; }) {
+        isRecord = isRecord || Find(root, Record::kRequestRoot);
+    }
+    if (!isRecord) {
+        return Verdict::None;
     }
     if constexpr (kIsTree) {
         CapabilitySet::AbilityElement read;
@@ -454,11 +451,11 @@ Document ReadDocument(const std::string& text, const char* rootName, Record& rec
         }
     } else {
         if (isBlankFree && HasEmptyItem(root->children, record)) {
-            return Document::Endless;
+            return Verdict::Endless;
         }
         ReadFrom(root->children, record);
     }
-    return Document::Fits;
+    return Verdict::Fits;
 }
 
 }  // namespace TestSupport::reference

@@ -11,6 +11,7 @@
 
 #include "CapabilitySet/private/ParseToSDK.h"
 #include "CapabilitySet/private/xml/XmlFields.h"
+#include "support/AllRecords.h"
 
 namespace TestSupport
 {
@@ -106,17 +107,6 @@ Sample SampleOf(const std::vector<Item>& /*member*/, int number, as::Items how)
     return {{}, Element(how.item, SampleOf(Item(), number))};
 }
 
-/// A field of a record, and where its member stands.
-struct FieldLayout
-{
-    std::string name;
-    std::string element;  ///< one that fills the member
-    bool counts;          ///< makes the record count as read
-    std::size_t offset;
-    std::size_t size;
-    std::size_t alignment;
-};
-
 template <class Record>
 std::vector<FieldLayout> LayoutOf(int number)
 {
@@ -126,17 +116,14 @@ std::vector<FieldLayout> LayoutOf(int number)
         const auto offset =
             reinterpret_cast<const char*>(&member) - reinterpret_cast<const char*>(&record);
         constexpr bool kIsMarker = (std::is_same_v<decltype(how), as::Marker> || ...);
-        fields.push_back({name, Element(name, SampleOf(member, number++, how...)), !kIsMarker,
+        // "485SlotNo" is no name that a parsed document can hold.
+        const bool isLegal = *name < '0' || *name > '9';
+        const Sample sample = SampleOf(member, number++, how...);
+        fields.push_back({name, isLegal ? Element(name, sample) : std::string(), !kIsMarker,
                           static_cast<std::size_t>(offset), sizeof member,
                           alignof(decltype(member))});
     });
     return fields;
-}
-
-/// "485SlotNo" is no name that a parsed document can hold.
-inline bool IsLegal(const FieldLayout& field)
-{
-    return field.name.front() != '4';
 }
 
 /// All elements of a record, in its order.
@@ -145,7 +132,7 @@ std::string AllFields()
 {
     std::string elements;
     for (const FieldLayout& field : LayoutOf<Record>(11)) {
-        elements += IsLegal(field) ? field.element : std::string();
+        elements += field.element;
     }
     return elements;
 }
