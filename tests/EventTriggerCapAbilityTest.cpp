@@ -49,13 +49,19 @@ TEST(EventTriggerCapAbilityTest, KeepsAReactionWhoseTextIsNeitherTrueNorFalse)
     }
 }
 
-TEST(EventTriggerCapAbilityTest, NotesThePresenceOfAKindWhateverItsContent)
+TEST(EventTriggerCapAbilityTest, NotesThePresenceOfEachKindWhateverItsContent)
 {
-    const EventTARNAbility kinds(
-        Document("<DiskfullTriggerCap><isSupportIO>false</isSupportIO></DiskfullTriggerCap>"
-                 "<LogExceptionTriggerCap/>"));
-    EXPECT_TRUE(kinds.Capable() && kinds.LogExceptionTriggerCap && kinds.DiskfullTriggerCap);
-    EXPECT_FALSE(kinds.DiskerrorTriggerCap);
+    EventTARNAbility none;
+    EventTARNAbility::Fields(none, [](const std::string& name, bool& /*kind*/, auto... /*how*/) {
+        for (const char* content : {"", "false", "<isSupportIO>false</isSupportIO>"}) {
+            EventTARNAbility kinds(Document(Element(name, content)));
+            EXPECT_TRUE(kinds.Capable()) << name;
+            EventTARNAbility::Fields(
+                kinds, [&](const std::string& other, bool& kind, auto... /*how*/) {
+                    EXPECT_EQ(kind, name == other) << other << " in a document of " << name;
+                });
+        }
+    });
     EXPECT_FALSE(EventTARNAbility(Document("<diskfullTriggerCap/>")).Capable());
 }
 
