@@ -65,14 +65,16 @@ void DropForbidden(std::string& utf8)
     };
     std::erase_if(utf8, isControl);
     constexpr std::string_view kNonCharacters = "\xEF\xBF";
-    for (std::size_t at = 0; (at = utf8.find(kNonCharacters, at)) != std::string::npos;) {
+    std::size_t kept = 0;
+    for (std::size_t at = 0; at < utf8.size();) {
         const char last = at + 2 < utf8.size() ? utf8[at + 2] : '\0';
-        if (last == '\xBE' || last == '\xBF') {
-            utf8.erase(at, 3);
+        if ((last == '\xBE' || last == '\xBF') && utf8.compare(at, 2, kNonCharacters) == 0) {
+            at += 3;
         } else {
-            at += kNonCharacters.size();
+            utf8[kept++] = utf8[at++];
         }
     }
+    utf8.resize(kept);
 }
 
 std::string Dump(xmlDoc* document)
