@@ -84,6 +84,14 @@ struct SDKInterfaceManager::CallBacks
     std::function<int(int, const std::string&)> xmlErrorTrans;
 };
 
+/// Calls a copy of a callback, which may install another one in its place.
+void Call(std::function<void(int)> callBack, int code)
+{
+    if (callBack) {
+        callBack(code);
+    }
+}
+
 /// One request: its structures, and the buffers that grow while the SDK asks for more. In the end
 /// the caller's answer is always cut to the size the SDK reported for the last call.
 class SDKInterfaceManager::Exchange
@@ -263,9 +271,7 @@ InterfaceRet SDKInterfaceManager::Carry(Exchange& exchange, int userID, URLType 
 InterfaceRet SDKInterfaceManager::Failed(unsigned int error)
 {
     const int code = static_cast<int>(error);
-    if (callBacks_ != nullptr && callBacks_->sdkError) {
-        callBacks_->sdkError(code);
-    }
+    Call(callBacks_ == nullptr ? nullptr : callBacks_->sdkError, code);
     return {false, kSdkFailure, code};
 }
 
@@ -277,11 +283,10 @@ InterfaceRet SDKInterfaceManager::Refused(const std::string& statusText)
     }
     int code = -1;
     if (callBacks_ != nullptr && callBacks_->xmlErrorTrans) {
-        code = callBacks_->xmlErrorTrans(status.statusCode, status.subStatusCode);
+        const auto translate = callBacks_->xmlErrorTrans;
+        code = translate(status.statusCode, status.subStatusCode);
     }
-    if (callBacks_ != nullptr && callBacks_->xmlError) {
-        callBacks_->xmlError(code);
-    }
+    Call(callBacks_ == nullptr ? nullptr : callBacks_->xmlError, code);
     return {false, kRefusal, code};
 }
 
