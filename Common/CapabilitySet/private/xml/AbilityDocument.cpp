@@ -1,4 +1,4 @@
-// The record of a family whose elements differ from device to device.
+// Copies the elements of a document, and finds them by path.
 // SPDX-License-Identifier: Apache-2.0
 #include "CapabilitySet/AbilityDocument.h"
 
