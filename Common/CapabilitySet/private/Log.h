@@ -22,9 +22,13 @@ struct Place
 template <class Record>
 inline constexpr Place kParsePlace{};
 
-/// Logs a printf-style line to the client's log.
+/// Logs a printf-style line to the client's log. Characters of devices that could control a
+/// terminal are written as escapes, and lines longer than limits::kLogLineBytes are cut.
 void Error(const Place& place, const char* format, ...) KEEL_PRINTF(2, 3);
 void Info(const Place& place, const char* format, ...) KEEL_PRINTF(2, 3);
+
+/// Logs that a list was cut at limits::kListEntries. True, for use in conditions.
+bool ListIsCut();
 
 }  // namespace CapabilitySet::log
 

@@ -6,7 +6,9 @@
 #include <atomic>
 
 #include "CapabilitySet/BasicCapability.h"
+#include "CapabilitySet/Limits.h"
 #include "CapabilitySet/private/Log.h"
+#include "CapabilitySet/private/ThrowScope.h"
 
 namespace CapabilitySet
 {
@@ -61,6 +63,26 @@ bool Convert(const OptionCodes& table, std::vector<Type>& out, const OptElement<
     return ForEachCode(table, in, [&out](int code) { out.push_back(static_cast<Type>(code)); });
 }
 
+/// Logs an unknown option, unless the document has had limits::kOptionLines of them.
+void LogUnknownOption(const log::Place& place, const std::string& option, const char* table)
+{
+    constinit thread_local struct
+    {
+        unsigned int document = 0;
+        unsigned int lines = 0;
+    } logged;
+    if (!ThrowScope::Active() || logged.document != ThrowScope::Outermost()) {
+        logged = {ThrowScope::Outermost(), 0};
+    }
+    if (++logged.lines <= limits::kOptionLines) {
+        log::Error(place, "[%s] is not exist in '%s'.", option.c_str(), table);
+    } else if (logged.lines == limits::kOptionLines + 1) {
+        log::Error(place,
+                   "The document has more than %u unknown options; the others are not logged.",
+                   limits::kOptionLines);
+    }
+}
+
 std::atomic<int> alarmQueryHandle{-1};
 
 }  // namespace
@@ -73,7 +95,7 @@ const int* CodeOf(const OptionCodes& table, const std::string& option)
         }
     }
     if (std::find(table.uncoded.begin(), table.uncoded.end(), option) == table.uncoded.end()) {
-        log::Error(CAPABILITYSET_HERE, "[%s] is not exist in '%s'.", option.c_str(), table.name);
+        LogUnknownOption(CAPABILITYSET_HERE, option, table.name);
     }
     return nullptr;
 }

@@ -11,15 +11,19 @@ namespace CapabilitySet
 class ThrowScope
 {
 public:
-    ThrowScope() { ++depth_; }
+    ThrowScope() { outermost_ += depth_++ == 0 ? 1U : 0U; }
     ~ThrowScope() { --depth_; }
     ThrowScope(const ThrowScope&) = delete;
     ThrowScope& operator=(const ThrowScope&) = delete;
 
     [[nodiscard]] static bool Active() { return depth_ > 0; }
 
+    /// Counts the outermost scopes of this thread: the same for everything in one document.
+    [[nodiscard]] static unsigned int Outermost() { return outermost_; }
+
 private:
     inline static constinit thread_local int depth_ = 0;
+    inline static constinit thread_local unsigned int outermost_ = 0;
 };
 
 }  // namespace CapabilitySet

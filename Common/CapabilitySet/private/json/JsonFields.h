@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "CapabilitySet/FieldTags.h"
+#include "CapabilitySet/Limits.h"
+#include "CapabilitySet/private/Log.h"
 #include "CapabilitySet/private/NumberText.h"
 #include "CapabilitySet/private/json/JsonReading.h"
 #include "CapabilitySet/private/json/MemberIndex.h"
@@ -128,7 +130,12 @@ void AppendItems(const Json::Value& value, std::vector<Item>& items, ValueOf&& v
     if (value.isArray()) {
         items.reserve(items.size() + std::min(value.size(), kReserved));
     }
+    bool isCut = false;
     ForEachEntry(value, [&](const Json::Value& entry) {
+        if (items.size() >= limits::kListEntries) {
+            isCut = isCut || log::ListIsCut();
+            return;
+        }
         Item& item = items.emplace_back();
         try {
             ReadItem(valueOf(entry), item);

@@ -17,12 +17,12 @@
 namespace CapabilitySet::json
 {
 
-/// Parses a text with the default features of the reader, collecting comments.
-inline bool ParseText(std::string_view text, Json::Value& root)
-{
-    Json::Reader reader;
-    return reader.parse(text.data(), text.data() + text.size(), root, true);
-}
+/// Parses a text with the default features of the reader, collecting comments unless there are very
+/// many. False if it is not JSON.
+bool ParseText(std::string_view text, Json::Value& root);
+
+/// Whether the tree of a text stays within limits::DocumentMemory; false after a log line.
+bool IsWithinLimits(std::string_view text);
 
 /// A tree as indented text with a trailing newline.
 inline std::string StyledText(const Json::Value& value)
@@ -63,6 +63,9 @@ void WithRoot(const std::string& text, Read&& read)
         return;
     }
     try {
+        if (!IsWithinLimits(text)) {
+            return;
+        }
         Json::Value root;
         // When memory runs out, JsonCpp mistakes a decimal number for a malformed one. A second
         // attempt either reads the text or runs out of memory for good.

@@ -12,7 +12,7 @@ namespace CapabilitySet::xml
 bool HoldsAttributeFlood(std::string_view text)
 {
     constexpr std::size_t kSmallestFlood = 64 * 1024;
-    return text.size() >= kSmallestFlood && XmlGuard::HasAttributeFlood(text, kMostAttributes);
+    return text.size() >= kSmallestFlood && XmlGuard::HasAttributeFlood(text, limits::kAttributes);
 }
 
 }  // namespace CapabilitySet::xml

@@ -4,13 +4,12 @@
 
 #include <string_view>
 
+#include "CapabilitySet/Limits.h"
+
 namespace CapabilitySet::xml
 {
 
-/// The most attributes on one element; no device sends more.
-inline constexpr int kMostAttributes = 1000;
-
-/// Whether a UTF-8 document holds a start tag with more than kMostAttributes attributes and
+/// Whether a UTF-8 document holds a start tag with more than limits::kAttributes attributes and
 /// namespace declarations. The parser compares each attribute of an element with all others before
 /// it calls any hook: 200,000 take a minute. Documents under 64 KiB cannot hold enough to matter
 /// and are not checked.

@@ -35,7 +35,7 @@ struct Problem
 
 /// Parses a text up to its first NUL. Reports nothing, and neither changes nor obeys the client's
 /// libxml2 defaults and handlers. Loads nothing from elsewhere, and refuses declared entities and
-/// elements with more than 1,000 attributes. Returns null and fills `problem` if the text is not a
+/// documents beyond a limit of Limits.h. Returns null and fills `problem` if the text is not a
 /// document. Throws std::bad_alloc.
 Document ParseText(const std::string& text, Form form, Problem& problem);
 

@@ -12,15 +12,13 @@
 #include <libxml/xmlmemory.h>
 #include <libxml/xmlstring.h>
 
+#include "CapabilitySet/Limits.h"
 #include "CapabilitySet/private/xml/QuietLibxml.h"
 
 namespace CapabilitySet::xml
 {
 namespace
 {
-
-/// Converters count in int and may triple the size.
-constexpr std::size_t kMostConverted = 256 * 1024 * 1024;
 
 /// The rest of an XML declaration, consumed piece by piece exactly as far as the parser gets.
 class Declaration
@@ -194,11 +192,18 @@ Utf8Text::Utf8Text(const std::string& text, Form form) : text_(UpToNul(text))
         return;
     }
     const Owned<xmlCharEncodingHandler> converter = FindConverter(encoding);
-    if (converter == nullptr || text_.size() > kMostConverted) {
+    if (converter == nullptr || text_.size() > limits::kConvertedBytes) {
         refusal_ = {line, "Unsupported encoding " + encoding + "\n"};
         text_ = "";
     } else if (obeys) {
-        converted_.append(head).append(Converted(text_.substr(behindName), *converter));
+        const std::string_view rest = text_.substr(behindName);
+        const std::string converted = Converted(rest, *converter);
+        if (converted.empty() && !rest.empty()) {
+            refusal_ = {line, "The text cannot be converted from the encoding " + encoding + "\n"};
+            text_ = "";
+            return;
+        }
+        converted_.append(head).append(converted);
         text_ = UpToNul(converted_);
     }
 }

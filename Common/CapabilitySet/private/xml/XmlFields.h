@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "CapabilitySet/FieldTags.h"
+#include "CapabilitySet/Limits.h"
 #include "CapabilitySet/OptionTypes.h"
 #include "CapabilitySet/private/xml/FieldIndex.h"
 #include "CapabilitySet/private/xml/XmlDocument.h"
@@ -137,6 +138,9 @@ template <class Item>
 void AppendItems(xmlNode* first, const char* name, std::vector<Item>& items)
 {
     for (xmlNode* cursor = first; NextElementNamed(cursor, name); cursor = cursor->next) {
+        if (items.size() >= limits::kListEntries && log::ListIsCut()) {
+            return;
+        }
         Item item{};
         ReadValue(cursor, item, as::plain);
         items.push_back(std::move(item));
@@ -147,6 +151,9 @@ template <class Item>
 void AppendItems(xmlNode* first, const char* name, std::vector<std::shared_ptr<Item>>& items)
 {
     for (xmlNode* cursor = first; NextElementNamed(cursor, name); cursor = cursor->next) {
+        if (items.size() >= limits::kListEntries && log::ListIsCut()) {
+            return;
+        }
         auto item = std::make_shared<Item>();
         ReadValue(cursor, *item, as::plain);
         items.push_back(std::move(item));
