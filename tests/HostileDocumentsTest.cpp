@@ -12,6 +12,7 @@
 #include "CapabilitySet/ChannelAbility.h"
 #include "CapabilitySet/JsonTARN/JsonStatus.h"
 #include "CapabilitySet/RecordTree.h"
+#include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 #include "CapabilitySet/private/xml/XmlDocument.h"
 #include "support/AllRecords.h"
 #include "support/LogCapture.h"
