@@ -61,7 +61,4 @@ install(
   PATTERN capset.md EXCLUDE)
 if(TARGET capset)
   install(FILES docs/capset.md DESTINATION ${tool_docs}/docs COMPONENT Tool)
-  if(NOT CAPABILITYSET_DEBIAN_DOCS) # Packaging.cmake installs it compressed
-    install(FILES packaging/capset.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Tool)
-  endif()
 endif()

@@ -49,16 +49,14 @@ set(CPACK_COMPONENT_TOOL_DESCRIPTION
 Asks a device on the network, or a simulated one in its own process, and
 prints its capability records as tables or JSON.")
 
-# The copyright and changelog of each Debian package, and the manual page.
+# The copyright and changelog of each Debian package.
 if(CAPABILITYSET_DEBIAN_DOCS)
   find_program(CAPABILITYSET_GZIP gzip REQUIRED)
-  foreach(file IN ITEMS changelog capset.1)
-    execute_process(
-      COMMAND ${CAPABILITYSET_GZIP} -9nc ${PROJECT_SOURCE_DIR}/packaging/${file}
-      OUTPUT_FILE ${PROJECT_BINARY_DIR}/${file}.gz COMMAND_ERROR_IS_FATAL ANY)
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
-                                           ${PROJECT_SOURCE_DIR}/packaging/${file})
-  endforeach()
+  execute_process(
+    COMMAND ${CAPABILITYSET_GZIP} -9nc ${PROJECT_SOURCE_DIR}/packaging/changelog
+    OUTPUT_FILE ${PROJECT_BINARY_DIR}/changelog.gz COMMAND_ERROR_IS_FATAL ANY)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+                                         ${PROJECT_SOURCE_DIR}/packaging/changelog)
   foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} upper)
     set(doc ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
@@ -67,10 +65,6 @@ if(CAPABILITYSET_DEBIAN_DOCS)
     install(FILES ${PROJECT_BINARY_DIR}/changelog.gz DESTINATION ${doc} COMPONENT ${component}
             RENAME changelog.Debian.gz)
   endforeach()
-  if(TARGET capset)
-    install(FILES ${PROJECT_BINARY_DIR}/capset.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
-            COMPONENT Tool)
-  endif()
 endif()
 
 include(CPack)

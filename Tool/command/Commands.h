@@ -8,7 +8,7 @@ namespace Tool
 {
 
 constexpr const char* kProgramSummary =
-    "Asks a video-security device what it can do, and shows the answer.";
+    "Show what a video-security device can do";
 
 /// Declares every command. `common` is set when the command line is read.
 void DeclareCommands(Command& program, CommonOptions& common);

@@ -18,19 +18,6 @@ namespace
 
 using Kind = Argument::Kind;
 
-/// A name to the left and its description to the right.
-struct Entry
-{
-    std::string name;
-    std::string description;
-};
-
-struct Section
-{
-    std::string heading;
-    std::vector<Entry> entries;
-};
-
 std::string UpperCase(std::string text)
 {
     for (char& c : text) {
@@ -39,47 +26,10 @@ std::string UpperCase(std::string text)
     return text;
 }
 
-Section& SectionOf(std::vector<Section>& sections, const std::string& heading)
+HelpSection& SectionOf(std::vector<HelpSection>& sections, const std::string& heading)
 {
-    const auto found = std::ranges::find(sections, heading, &Section::heading);
-    return found == sections.end() ? sections.emplace_back(Section{heading, {}}) : *found;
-}
-
-std::vector<Section> SectionsOf(const Command& command)
-{
-    std::vector<Section> sections;
-    for (const auto& each : command.Commands()) {
-        SectionOf(sections, "Commands").entries.push_back({each->Name(), each->Summary()});
-    }
-    for (const auto& each : command.Arguments()) {
-        const bool isPositional = each->What() == Kind::Positional;
-        const std::string heading = each->Heading().empty() ? "Options" : each->Heading();
-        SectionOf(sections, isPositional ? "Arguments" : heading)
-            .entries.push_back(
-                {isPositional ? UpperCase(each->Name()) : Written(*each), each->Description()});
-    }
-    std::vector<Entry>& options = SectionOf(sections, "Options").entries;
-    options.push_back({"-h, --help", "print this help"});
-    if (command.FullName() == command.Name()) {
-        options.push_back({"--help-all", "print the help of all commands"});
-        options.push_back({"--version", "print the version"});
-    }
-    return sections;
-}
-
-/// Usage without the options that may be left out.
-std::string Usage(const Command& command)
-{
-    std::string usage = command.FullName();
-    std::string positional;
-    for (const auto& each : command.Arguments()) {
-        if (each->What() == Kind::Positional) {
-            positional += " " + Written(*each);
-        } else if (each->IsRequired()) {
-            usage += " " + Written(*each);
-        }
-    }
-    return usage + " [OPTIONS]" + (command.Commands().empty() ? positional : " COMMAND");
+    const auto found = std::ranges::find(sections, heading, &HelpSection::heading);
+    return found == sections.end() ? sections.emplace_back(HelpSection{heading, {}}) : *found;
 }
 
 std::string Paragraph(const std::string& text, std::size_t width)
@@ -91,10 +41,10 @@ std::string Paragraph(const std::string& text, std::size_t width)
     return out;
 }
 
-std::string Render(const Section& section, std::size_t column, std::size_t width)
+std::string Render(const HelpSection& section, std::size_t column, std::size_t width)
 {
     std::string out = "\n" + section.heading + ":\n";
-    for (const Entry& entry : section.entries) {
+    for (const HelpEntry& entry : section.entries) {
         std::string line = "  " + entry.name;
         if (line.size() + 2 > column) {
             out += line + "\n";
@@ -109,6 +59,42 @@ std::string Render(const Section& section, std::size_t column, std::size_t width
 }
 
 }  // namespace
+
+std::vector<HelpSection> HelpSections(const Command& command)
+{
+    std::vector<HelpSection> sections;
+    for (const auto& each : command.Commands()) {
+        SectionOf(sections, "Commands").entries.push_back({each->Name(), each->Summary()});
+    }
+    for (const auto& each : command.Arguments()) {
+        const bool isPositional = each->What() == Kind::Positional;
+        const std::string heading = each->Heading().empty() ? "Options" : each->Heading();
+        SectionOf(sections, isPositional ? "Arguments" : heading)
+            .entries.push_back(
+                {isPositional ? UpperCase(each->Name()) : Written(*each), each->Description()});
+    }
+    std::vector<HelpEntry>& options = SectionOf(sections, "Options").entries;
+    options.push_back({"-h, --help", "print this help"});
+    if (command.FullName() == command.Name()) {
+        options.push_back({"--help-all", "print the help of all commands"});
+        options.push_back({"--version", "print the version"});
+    }
+    return sections;
+}
+
+std::string Usage(const Command& command)
+{
+    std::string usage = command.FullName();
+    std::string positional;
+    for (const auto& each : command.Arguments()) {
+        if (each->What() == Kind::Positional) {
+            positional += " " + Written(*each);
+        } else if (each->IsRequired()) {
+            usage += " " + Written(*each);
+        }
+    }
+    return usage + " [OPTIONS]" + (command.Commands().empty() ? positional : " COMMAND");
+}
 
 std::string Written(const Argument& argument)
 {
@@ -128,10 +114,10 @@ std::string HelpText(const Command& command)
     constexpr std::size_t kWidest = 100;
     constexpr std::size_t kWidestName = 26;
     const std::size_t width = std::min(TerminalWidth(stdout), kWidest);
-    const std::vector<Section> sections = SectionsOf(command);
+    const std::vector<HelpSection> sections = HelpSections(command);
     std::size_t column = 0;
-    for (const Section& section : sections) {
-        for (const Entry& entry : section.entries) {
+    for (const HelpSection& section : sections) {
+        for (const HelpEntry& entry : section.entries) {
             if (entry.name.size() <= kWidestName) {
                 column = std::max(column, entry.name.size() + 4);
             }
@@ -139,7 +125,7 @@ std::string HelpText(const Command& command)
     }
     column = std::min(column, width / 2);
     std::string text = "Usage: " + Usage(command) + "\n\n" + Paragraph(command.Summary(), width);
-    for (const Section& section : sections) {
+    for (const HelpSection& section : sections) {
         text += Render(section, column, width);
     }
     if (!command.NoteText().empty()) {
