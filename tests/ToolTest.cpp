@@ -217,7 +217,8 @@ INSTANTIATE_TEST_SUITE_P(
         Line{{"search", "faces", "sim:recorder", "--task", "99"}, 2, "", "--download"},
         Line{{"search", "task", "sim:recorder", "12", "pause"}, 0, "paused", ""},
         Line{{"search", "task", "sim:recorder", "12", "resume"}, 1, "", "wrongTaskState"},
-        Line{{"search", "task", "sim:recorder", "x", "delete"}, 2, "", "no number of a task"}));
+        Line{
+            {"search", "task", "sim:recorder", "x", "delete"}, 2, "", "not the number of a task"}));
 
 TEST(Tool, AnAddressWithAPasswordIsRefusedAndNeverRepeated)
 {

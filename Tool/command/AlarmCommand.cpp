@@ -1,4 +1,4 @@
-// capset alarm: what an alarm host is doing, and commands to it.
+// capset alarm: the state of an alarm host, and commands to it.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <memory>
@@ -22,7 +22,7 @@ namespace
 
 using Part = std::function<RecordNode(Talk&, const char* name)>;
 
-/// A part that one of the library's operations reads.
+/// A part that an operation of the library reads.
 template <class Record>
 Part Read(bool (*get)(Record&, unsigned int&, const int))
 {
@@ -33,7 +33,7 @@ Part Read(bool (*get)(Record&, unsigned int&, const int))
     };
 }
 
-/// A part that the library only parses.
+/// A part that the library parses but does not ask for.
 template <class Record>
 Part Fetch(const char* path)
 {
@@ -124,7 +124,7 @@ void AddLogCommand(Command& group, CommonOptions& common)
     AddPageOptions(command, options->page);
 }
 
-/// The library's number for all items that a request's body lists.
+/// Stands for all items in the request's body.
 constexpr int kBatch = -1;
 
 struct ItemOptions
@@ -147,7 +147,8 @@ void AddItems(Command& command, ItemOptions& options, const std::string& noun)
         .Group("Command");
 }
 
-/// Commands to subsystems: `one` is the operation for a single one, `path` that of the batch.
+/// Commands to subsystems: `one` is the operation for a single one, `verb` is part of the batch's
+/// path.
 template <class One>
 Command& AddSubSystemCommand(Command& group, CommonOptions& common, const CommandText& text,
                              const std::string& verb, const Options& options, One one)
@@ -216,7 +217,7 @@ void AddZoneCommand(Command& group, CommonOptions& common, const CommandText& te
     AddItems(command, *options, "zone");
 }
 
-/// Sends a switch's position to one item, or with kBatch to all that the options list.
+/// Switches one item, or with kBatch all items of the options.
 using SwitchSender = std::function<void(Talk& talk, const ItemOptions& options, int id)>;
 
 void AddSwitchCommand(Command& group, CommonOptions& common, const CommandText& text,
@@ -226,7 +227,7 @@ void AddSwitchCommand(Command& group, CommonOptions& common, const CommandText& 
     const std::string noun = text.name;
     Command& command = AddReportCommand(group, common, text, [options, noun, sender](Talk& talk) {
         if (options->on == options->off) {
-            throw Failure("say --on or --off", kUsage);
+            throw Failure("--on or --off is missing", kUsage);
         }
         const auto send = [&](int id) { sender(talk, *options, id); };
         return CommandItems(talk, noun, options->ids, send, [&] { send(kBatch); });
@@ -283,7 +284,7 @@ void AddDetectorCommand(Command& group, CommonOptions& common)
                 });
                 talk.CheckStatus();
             };
-            // The protocol has no batch of them.
+            // The protocol has no request for several detectors.
             return CommandItems(talk, "detector", options->ids, send, {});
         });
     AddItems(command, *options, "detector");
@@ -303,23 +304,21 @@ void AddAlarmCommands(Command& program, CommonOptions& common)
 {
     Command& group = program.Add("alarm", "Alarm hosts: state, arming, zones, outputs");
     group.Example("capset alarm arm sim:alarmhost --subsystem 1 --way away");
-    AddPartsCommand(group, common, {"status", "Tell what the host is doing", "sim:alarmhost zones"},
+    AddPartsCommand(group, common, {"status", "Show what the host is doing", "sim:alarmhost zones"},
                     "AlarmHostStatus", StatusParts());
     AddPartsCommand(group, common,
-                    {"config", "Tell how the host is set up", "sim:alarmhost outputs"},
+                    {"config", "Show how the host is set up", "sim:alarmhost outputs"},
                     "AlarmHostConfiguration", ConfigurationParts());
-    AddReportCommand(
-        group, common,
-        {"zones", "List the zones, how they are set up and what they are doing", "sim:alarmhost"},
-        ListZones);
+    AddReportCommand(group, common,
+                     {"zones", "List the zones with their setup and state", "sim:alarmhost"},
+                     ListZones);
     AddReportCommand(group, common, {"detectors", "List the fire detectors", "sim:alarmhost"},
                      ListDetectors);
     AddLogCommand(group, common);
     AddSubSystemCommands(group, common);
     AddZoneCommand(group, common, {"bypass", "Bypass zones", "sim:alarmhost --zone 3"},
                    &JsonConfigApp::SetDevBypass);
-    AddZoneCommand(group, common,
-                   {"recover", "Take zones back from bypass", "sim:alarmhost --zone 3"},
+    AddZoneCommand(group, common, {"recover", "End the bypass of zones", "sim:alarmhost --zone 3"},
                    &JsonConfigApp::SetDevBypassRecover);
     AddSwitchCommand(group, common, {"output", "Switch outputs", "sim:alarmhost --output 1,2 --on"},
                      SwitchOutput);

@@ -1,4 +1,4 @@
-// Commands to several subsystems, zones or outputs of an alarm host: one by one or as a batch.
+// Commands to several items of an alarm host.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/command/AlarmItems.h"
 
@@ -22,7 +22,7 @@ std::string TextOf(const Json::Value& value)
     return value.isObject() || value.isArray() || value.isNull() ? std::string() : value.asString();
 }
 
-/// "there is no zone 900 (invalidID)": a sentence where the device has one, and its word.
+/// "there is no zone 900 (invalidID)": the device's sentence, if any, and its word.
 std::string Reason(const Json::Value& entry)
 {
     const std::string sentence = TextOf(entry["errorMsg"]);
@@ -44,7 +44,7 @@ RecordNode Row(int id, const std::string& noun, const std::string& error)
             {tree::Integer(noun, id), tree::Flag("done", error.empty()), reason}};
 }
 
-/// A refusal of one item does not keep the others from being commanded.
+/// Commands every item, even if some are refused.
 std::map<int, std::string> CommandEach(const std::vector<int>& ids,
                                        const std::function<void(int id)>& one)
 {

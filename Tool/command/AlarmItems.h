@@ -1,4 +1,4 @@
-// Commands to several subsystems, zones or outputs of an alarm host: one by one or as a batch.
+// Commands to several items of an alarm host: one by one or as a batch.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,12 +12,12 @@
 namespace Tool
 {
 
-/// What a batch's answer says of the items it did not carry out: their numbers, and in words why.
+/// The items that a batch command failed for, from the device's answer: numbers and reasons.
 std::map<int, std::string> ItemErrors(const std::string& answer);
 
-/// Commands the only item with `one`, several with `batch`, which is to leave its answer as the
-/// talk's last one, or one by one where there is no `batch`, and reports how each fared. `noun`
-/// names an item: "subsystem".
+/// Sends a command with `one` if there is one item or no `batch`, otherwise with `batch`, whose
+/// answer must be the talk's last one. Reports the result of each item. `noun` names an item:
+/// "subsystem".
 Report CommandItems(Talk& talk, const std::string& noun, const std::vector<int>& ids,
                     const std::function<void(int id)>& one, const std::function<void()>& batch);
 

@@ -1,4 +1,4 @@
-// What an alarm host lists, set as tables.
+// Lists of an alarm host as tables.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/command/AlarmLists.h"
 
@@ -17,7 +17,7 @@ using namespace CapabilitySet;
 namespace
 {
 
-/// The flags of a row as one text of those that are set: "armed, open".
+/// Replaces the flags of a row with one text that lists those that are set: "armed, open".
 RecordNode WithState(RecordNode row)
 {
     const auto isFlag = [](const RecordNode& each) { return each.kind == RecordNode::Kind::Flag; };
@@ -54,7 +54,7 @@ bool IsSensor(const RecordNode& member)
     return member.kind == RecordNode::Kind::Record && FindMember(member, "status") != nullptr;
 }
 
-/// "Smoke abnormal, silenced": what of a detector is not in order.
+/// What is wrong with a detector: "Smoke abnormal, silenced".
 RecordNode DetectorState(const RecordNode& detector)
 {
     RecordNode state = tree::Text("state", {});
@@ -76,7 +76,7 @@ RecordNode DetectorState(const RecordNode& detector)
     return state;
 }
 
-/// A detector with its sensors, in a wrapper or without, set as a row; anything else as it is.
+/// A detector with its sensors as one row; anything else unchanged. It may be nested in an object.
 RecordNode WithSensors(RecordNode item)
 {
     if (item.children.size() == 1 && item.children.front().kind == RecordNode::Kind::Record) {
@@ -99,7 +99,7 @@ RecordNode WithSensors(RecordNode item)
     return item;
 }
 
-/// The rows of a list by what they are called.
+/// The rows of a list by their ids.
 std::map<std::string, RecordNode> ById(const RecordNode& part)
 {
     std::map<std::string, RecordNode> rows;
@@ -114,7 +114,7 @@ std::map<std::string, RecordNode> ById(const RecordNode& part)
     return rows;
 }
 
-/// A zone for people: that it is enabled goes without saying.
+/// A zone for people, who only care if it is disabled.
 RecordNode ZoneRow(RecordNode row)
 {
     for (RecordNode& member : row.children) {

@@ -1,4 +1,4 @@
-// What an alarm host lists, set as tables.
+// Lists of an alarm host as tables.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -7,17 +7,17 @@
 namespace Tool
 {
 
-/// A host's list stands below "List" or another name, each item wrapped in an object of its own:
-/// for people the rows alone, flags and sensors of each as one text.
+/// The rows of a list for people, with the flags and sensors of each as one text. Hosts nest the
+/// list under "List" or another name, and each item in an object of its own.
 CapabilitySet::RecordNode HostRows(const CapabilitySet::RecordNode& part);
 
-/// The detectors with their numbers, which their record leaves in its root.
+/// The detectors with their numbers, which the record keeps only in its root.
 CapabilitySet::RecordNode ReadDetectors(Talk& talk, const char* name);
 
-/// The detectors alone.
+/// Reports the detectors.
 Report ListDetectors(Talk& talk);
 
-/// The zones: how each is set up and what it is doing.
+/// Reports the zones with their setup and state.
 Report ListZones(Talk& talk);
 
 }  // namespace Tool

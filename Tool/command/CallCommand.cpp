@@ -1,4 +1,4 @@
-// capset call: sends any request line to a device.
+// capset call: sends any request to a device.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <cstring>
@@ -38,7 +38,7 @@ struct Reply
     std::string body;  ///< of a refusal its status document, or whatever came in its place
 };
 
-/// Not filled: a large answer need not be written over with zeros first.
+/// Uninitialised memory: clearing it would only cost time for large answers.
 struct Buffer
 {
     explicit Buffer(unsigned int bytes) : size(bytes), data(new char[bytes]) {}
@@ -50,7 +50,7 @@ struct Buffer
 /// Updates of a device's software can be this large.
 constexpr std::size_t kLargestBody = 1u << 30;
 
-/// The largest answer the SDK takes, and a little more.
+/// A little more than the largest answer that the SDK accepts.
 constexpr unsigned int kLargestAnswer = 1200u << 20;
 
 Reply Send(int userID, std::string line, std::string body, unsigned int timeout)
@@ -81,7 +81,7 @@ Reply Send(int userID, std::string line, std::string body, unsigned int timeout)
             const auto end = std::find(status.begin(), status.end(), '\0');
             return {false, LastFailure(error), std::string(status.begin(), end)};
         }
-        // The SDK keeps the answer that did not fit: nothing is sent twice.
+        // The SDK keeps an answer that did not fit, so nothing is sent twice.
         const unsigned int needed = std::max(output.returnedSize, buffer.size * 2);
         buffer = Buffer(std::min(needed, kLargestAnswer));
     }

@@ -7,8 +7,7 @@
 namespace Tool
 {
 
-constexpr const char* kProgramSummary =
-    "Show what a video-security device can do";
+constexpr const char* kProgramSummary = "Show what a video-security device can do";
 
 /// Declares every command. `common` is set when the command line is read.
 void DeclareCommands(Command& program, CommonOptions& common);

@@ -1,4 +1,4 @@
-// Faults of the device's server as people write them.
+// Faults of the served device on the command line.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/command/FaultArgument.h"
 
@@ -31,7 +31,7 @@ constexpr std::array kTimes{Unit{"", 1}, Unit{"ms", 1}, Unit{"s", 1000}};
 constexpr std::array kSizes{Unit{"", 1}, Unit{"k", 1u << 10}, Unit{"K", 1u << 10},
                             Unit{"M", 1u << 20}};
 
-/// A number and one of the units; large enough for every fault, small enough to calculate with.
+/// Reads a number with a unit. The limit suits every fault and keeps the product in range.
 template <class Units>
 std::optional<std::uint64_t> Measure(std::string_view text, const Units& units)
 {
@@ -130,7 +130,7 @@ const Kind& KindNamed(const std::string& text, std::string_view name)
     Refuse(text, "there is no such fault; there are " + Joined(names));
 }
 
-/// Cuts off what stands behind a mark; nothing when the mark is not there.
+/// Cuts off and returns what follows a mark; nothing if the mark is not there.
 std::optional<std::string_view> CutBehind(std::string_view& text, char mark)
 {
     const std::size_t at = text.find(mark);
@@ -154,7 +154,7 @@ Device::Fault ParseFault(const std::string& text)
             std::from_chars(times->data(), times->data() + times->size(), fault.times);
         if (read.ec != std::errc() || read.ptr != times->data() + times->size() ||
             fault.times == 0) {
-            Refuse(text, "behind the star stands how many requests are struck");
+            Refuse(text, "the star must be followed by the number of requests");
         }
     }
     const auto value = CutBehind(rest, '=');

@@ -1,4 +1,4 @@
-// MAC addresses as people write them.
+// MAC addresses in the forms that people use.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/command/MacAddress.h"
 
@@ -39,8 +39,8 @@ std::vector<std::string> Split(const std::string& text, char separator)
     return groups;
 }
 
-/// Gives bytes that were written with one digit their leading zero. False unless the groups are
-/// bytes, or all of four or six digits but for a last one that may be shorter by whole bytes.
+/// Adds the leading zero of bytes with one digit. False unless the groups are bytes, or all have
+/// four or six digits; then the last may be shorter by whole bytes.
 bool CompleteGroups(std::vector<std::string>& groups, bool oneDigitIsByte)
 {
     const std::size_t width = groups.front().size();
@@ -61,7 +61,7 @@ bool CompleteGroups(std::vector<std::string>& groups, bool oneDigitIsByte)
     return true;
 }
 
-/// Whether an address or the beginning of one has as many digits.
+/// True if an address, or the first bytes of one, can have this many digits.
 bool IsLength(std::size_t digits)
 {
     return (digits >= kPrefixDigits && digits <= 12 && digits % 2 == 0) || digits == 16;

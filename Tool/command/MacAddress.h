@@ -1,4 +1,4 @@
-// MAC addresses as people write them.
+// MAC addresses in the forms that people use.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -9,24 +9,25 @@
 namespace Tool
 {
 
-/// A MAC address, or its beginning of at least the three bytes that tell whose block it is from.
+/// A MAC address, or at least its first three bytes, which belong to a maker.
 class MacAddress
 {
 public:
-    /// Reads an address of six or eight bytes or the first three to five of one, in any case: bytes
-    /// of two digits, or of one or two between ":" or "-"; groups of four or six digits; with ":",
-    /// "-", "." or blanks between them, always the same, or nothing. Blanks around it do not count.
+    /// Reads an address of six or eight bytes, or the first three to five bytes of one, in upper or
+    /// lower case. Groups of two, four or six digits are separated by ":", "-", "." or a blank,
+    /// always the same, or by nothing; between ":" or "-" a byte may have one digit. Blanks around
+    /// the address are ignored.
     static std::optional<MacAddress> Read(std::string_view text);
 
     /// The first three bytes as six lower-case digits.
     [[nodiscard]] std::string Prefix() const;
-    /// All bytes in lower case with colons between.
+    /// All bytes in lower case, separated by colons.
     [[nodiscard]] std::string Text() const;
 
-    /// Whether the address was chosen by whoever runs the network or by the device itself; the
-    /// registry of makers knows nothing of it.
+    /// True if the network's operator or the device itself chose the address. It then belongs to
+    /// no maker.
     [[nodiscard]] bool IsLocallyAdministered() const;
-    /// Whether it is that of a group and not of one device.
+    /// True for the address of a group.
     [[nodiscard]] bool IsMulticast() const;
     [[nodiscard]] bool IsBroadcast() const;
 

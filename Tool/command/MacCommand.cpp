@@ -25,7 +25,7 @@ struct MacOptions
     bool json = false;
 };
 
-/// What was found for one input.
+/// The result for one input.
 struct MacFinding
 {
     std::string input;
@@ -35,7 +35,7 @@ struct MacFinding
 
 constexpr const char* kNoAddress = "no MAC address";
 
-/// The inputs of the command line; "-", or none at all, stands for the lines of the standard input.
+/// The inputs of the command line; "-" or nothing means the lines of the standard input.
 std::vector<std::string> Inputs(const std::vector<std::string>& addresses)
 {
     std::vector<std::string> inputs;
@@ -68,7 +68,7 @@ std::vector<MacFinding> FindAll(const std::vector<std::string>& inputs)
     return findings;
 }
 
-/// What an address's own bits say of it.
+/// What the address's own bits say.
 std::string Remark(const MacAddress& address)
 {
     if (address.IsBroadcast()) {

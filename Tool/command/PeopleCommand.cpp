@@ -1,4 +1,4 @@
-// capset search people and task: searches by human features, which go on in the device.
+// capset search people and task: searches for people, which run as tasks of the device.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <charconv>
@@ -28,7 +28,7 @@ struct PeopleOptions
     std::string download;
 };
 
-/// The device's word for the state of a task stands beside its progress.
+/// The device's word for the state of a task, sent beside its progress.
 std::string StateWord(const Json::Value& root)
 {
     const Json::Value progress = root.isObject() ? root["progress"] : Json::Value();
@@ -46,9 +46,10 @@ TaskState Look(Talk& talk, const std::string& task)
     const int percent = record.progress.value;
     TaskState state{percent, percent >= kWhole, StateWord(record.root)};
     if (state.word == "paused") {
-        state.halt = "\"capset search task " + talk.Device() + " " + task + " resume\" goes on";
+        state.halt =
+            "\"capset search task " + talk.Device() + " " + task + " resume\" continues it";
     } else if (state.word == "cancelled") {
-        state.halt = "begin another";
+        state.halt = "start another one";
     }
     return state;
 }
@@ -99,7 +100,7 @@ Report SearchPeople(Talk& talk, const PeopleOptions& options)
                     [&](const std::string& task) { return Look(talk, task); }, finish});
 }
 
-/// What can be done about a task, in the order of the numbers that stand for it.
+/// What can be done with a task, in the order of the library's numbers.
 constexpr const char* kActions[] = {"pause", "resume", "delete", "cancel"};
 
 Report Manage(Talk& talk, const std::string& task, const std::string& action)
@@ -110,7 +111,7 @@ Report Manage(Talk& talk, const std::string& task, const std::string& action)
     int number = 0;
     const auto [end, error] = std::from_chars(task.data(), task.data() + task.size(), number);
     if (error != std::errc() || end != task.data() + task.size()) {
-        throw Failure("\"" + task + "\" is no number of a task", kUsage);
+        throw Failure("\"" + task + "\" is not the number of a task", kUsage);
     }
     const auto* const chosen = std::ranges::find(kActions, action);
     talk.Do([&](unsigned int& failure) {

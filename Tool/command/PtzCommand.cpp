@@ -1,4 +1,4 @@
-// capset ptz: what a pan-tilt-zoom channel has stored, and its auto-tracking.
+// capset ptz: presets, patrols, patterns and auto-tracking of a pan-tilt-zoom channel.
 // SPDX-License-Identifier: Apache-2.0
 #include <memory>
 #include <optional>
@@ -77,7 +77,7 @@ Report Track(Talk& talk, const TrackOptions& options)
                    true,
                    {tree::Integer("channel", options.channel), tree::Flag("enabled", enabled)}}};
     if (isSetting && enabled != wanted) {
-        report.remark = "The device accepted the setting and did not follow it.";
+        report.remark = "The device accepted the setting but did not follow it.";
         report.code = kFailed;
     }
     return report;

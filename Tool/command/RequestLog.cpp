@@ -1,4 +1,4 @@
-// One line for each request that a served device answered.
+// One line per request to a served device.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/command/RequestLog.h"
 

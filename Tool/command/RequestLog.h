@@ -1,4 +1,4 @@
-// One line for each request that a served device answered.
+// One line per request to a served device.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,13 +11,13 @@
 namespace Tool
 {
 
-/// Writes each line at once, whoever reads. Any thread may use it.
+/// Writes each line immediately, also to a pipe. Any thread may use it.
 class RequestLog
 {
 public:
     explicit RequestLog(const Paint& paint) : paint_(paint) {}
 
-    /// Writes what stands above the lines, before any of them.
+    /// Writes the introduction, before any request.
     void Begin(const std::string& introduction);
     void Write(const Device::ServedRequest& request);
 

@@ -1,4 +1,4 @@
-// capset search: recordings, faces, targets and people that a device holds.
+// capset search: recordings, faces, targets and people on a device.
 // SPDX-License-Identifier: Apache-2.0
 #include <memory>
 
@@ -37,7 +37,7 @@ struct SearchOptions
 };
 using Options = std::shared_ptr<SearchOptions>;
 
-/// A command whose action gets the options; those of time and paging are there already.
+/// A search command, with the options for time and paging.
 Command& AddSearch(Command& group, CommonOptions& common, const CommandText& text,
                    const Options& options, Report (*search)(Talk&, const SearchOptions&))
 {
@@ -89,7 +89,7 @@ Report SearchContent(Talk& talk, const SearchOptions& options)
         });
         return ReadPage(Describe("Recordings", result));
     });
-    // Each is longer than a line, and programs need them rather than people.
+    // These are longer than a line, and mostly for programs.
     for (RecordNode& list : report.shown->children) {
         for (RecordNode& row : list.children) {
             std::erase_if(row.children,

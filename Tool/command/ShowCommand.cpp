@@ -1,4 +1,4 @@
-// capset show and capset records: what a device can do, as the library's records.
+// capset show and capset records: what a device can do.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <memory>
@@ -176,7 +176,7 @@ private:
     std::size_t printed_ = 0;
 };
 
-/// The names of the records that are asked with an option.
+/// The names of the records that an option applies to.
 std::string UsersOf(const std::string& option)
 {
     std::vector<std::string> names;

@@ -1,4 +1,4 @@
-// capset device: the simulated devices, listed and served to any client.
+// capset device: lists the simulated devices and serves one of them.
 // SPDX-License-Identifier: Apache-2.0
 #include <cerrno>
 #include <csignal>
@@ -170,12 +170,12 @@ std::string Introduction(const Device::DeviceModel& model, const Device::DeviceS
            grid.Render(2, TerminalWidth(stdout), paint) + "\n";
 }
 
-/// What became of the faults that were asked for.
+/// How many requests each fault changed.
 std::string FaultReport(const Device::DeviceServer& server, const ServeOptions& options,
                         const Paint& paint)
 {
     const std::vector<std::uint64_t> counts = server.FaultCounts();
-    Grid grid({"fault", "requests struck"});
+    Grid grid({"fault", "requests changed"});
     for (std::size_t i = 0; i < counts.size(); ++i) {
         grid.Add({{Harmless(options.faults[i])}, {std::to_string(counts[i])}});
     }
@@ -189,7 +189,7 @@ int Serve(const ServeOptions& options, const CommonOptions& common)
     RequestLog log(common.PaintFor(stdout));
     serverOptions.log = [&log](const Device::ServedRequest& request) { log.Write(request); };
 
-    // Blocked before there are threads, so that only the wait below sees them.
+    // Blocked before threads are started, so that only sigwait below receives them.
     sigset_t ends{};
     sigemptyset(&ends);
     sigaddset(&ends, SIGINT);

@@ -1,4 +1,4 @@
-// capset switch: what a managed switch is, does and is set to.
+// capset switch: state and settings of managed switches.
 // SPDX-License-Identifier: Apache-2.0
 #include <array>
 #include <charconv>
@@ -43,7 +43,7 @@ void AddReadCommand(Command& group, CommonOptions& common, const CommandText& te
     });
 }
 
-/// Reads a setting, changes what the assignments name, sends it back and reads it again.
+/// Reads a setting, changes it, sends it back and reads it again.
 template <class Record>
 Report Change(Talk& talk, Getter<Record> get, Setter<Record> set,
               const std::vector<Assignment>& assignments)
@@ -56,13 +56,13 @@ Report Change(Talk& talk, Getter<Record> get, Setter<Record> set,
     talk.Do([&](unsigned int& /*error*/) { return set(record, talk.UserID()); });
     const Record kept = Read(talk, get);
     Report report{Describe(Record::kElement, kept)};
-    // What the device measures by itself may have changed meanwhile; what was set may not.
+    // Measured values may have changed meanwhile; only those that were set are compared.
     Record again = kept;
     for (const Assignment& each : assignments) {
         Assign(again, each);
     }
     if (!SameFields(again, kept)) {
-        report.remark = "The device accepted the setting and holds other values.";
+        report.remark = "The device accepted the setting but reports other values.";
         report.code = kFailed;
     }
     return report;
@@ -111,7 +111,7 @@ void AddSetCommand(Command& group, CommonOptions& common)
     const auto options = std::make_shared<SetOptions>();
     Command& command =
         AddReportCommand(group, common,
-                         {"set", "Change settings: they are read, changed, sent and read back",
+                         {"set", "Change a setting: read, change, send, and read it back",
                           "sim:switch rates 3.uplinkRate=10240"},
                          [options](Talk& talk) {
                              std::vector<Assignment> assignments;
@@ -130,7 +130,7 @@ void AddSetCommand(Command& group, CommonOptions& common)
         .Required();
 }
 
-/// Counters of bytes as people read them, "2.6 TB", so that a port fits in one row.
+/// Rounds byte counters ("2.6 TB"), so that a port fits in one row.
 void RoundBytes(RecordNode& row)
 {
     for (RecordNode& member : row.children) {
@@ -177,7 +177,7 @@ void AddSwitchCommands(Command& program, CommonOptions& common)
 {
     Command& group = program.Add("switch", "Managed switches: ports, rates, wireless");
     group.Example("capset switch ports sim:switch");
-    AddReadCommand(group, common, {"info", "Tell what the switch is", "sim:switch"},
+    AddReadCommand(group, common, {"info", "Show what the switch is", "sim:switch"},
                    &ParamInterface::GetSwitchesBasicInfo);
     AddReadCommand(group, common, {"ports", "List the ports", "sim:switch"},
                    &ParamInterface::GetPortInfo);
@@ -188,15 +188,18 @@ void AddSwitchCommands(Command& program, CommonOptions& common)
         AddReportCommand(group, common, {"state", "List what the switches are doing", "sim:switch"},
                          [options](Talk& talk) { return ReadWorkStates(talk, *options); }),
         *options);
-    AddReadCommand(group, common, {"wireless", "Tell the wireless link's settings", "sim:switch"},
+    AddReadCommand(group, common,
+                   {"wireless", "Show the settings of the wireless link", "sim:switch"},
                    &ParamInterface::GetWireless);
-    AddReadCommand(group, common, {"region", "Tell the wireless bridge's region", "sim:switch"},
+    AddReadCommand(group, common,
+                   {"region", "Show the region of the wireless bridge", "sim:switch"},
                    &ParamInterface::GetBridgeRegion);
-    AddReadCommand(group, common, {"discovery", "Tell how the switch is found", "sim:switch"},
+    AddReadCommand(group, common,
+                   {"discovery", "Show how the switch can be discovered", "sim:switch"},
                    &ParamInterface::GetDiscoveryMode);
     AddReadCommand(group, common, {"apps", "List the applications", "sim:switch"},
                    &ParamInterface::GetApps);
-    AddReadCommand(group, common, {"status", "Tell time, temperatures and fans", "sim:switch"},
+    AddReadCommand(group, common, {"status", "Show time, temperatures and fans", "sim:switch"},
                    &ParamInterface::GetDeviceStatus);
     AddSetCommand(group, common);
 }

@@ -1,4 +1,4 @@
-// Records and failures as JSON for programs.
+// Records as JSON for programs.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/record/JsonOutput.h"
 
@@ -82,7 +82,7 @@ Json::Value ItemsToJson(const RecordNode& node)
     return value;
 }
 
-/// Elements of one name become an array where the first of them stood.
+/// Elements of the same name become an array in place of the first.
 Json::Value MembersToJson(const RecordNode& node)
 {
     Json::Value value(Json::objectValue);

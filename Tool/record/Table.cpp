@@ -33,7 +33,7 @@ bool AreAllInOneLine(Items items)
                                [](const RecordNode& each) { return InOneLine(each).has_value(); });
 }
 
-/// How many items from the first on bear its name.
+/// The number of items at the beginning that have the same name.
 std::size_t SameNamed(Items items)
 {
     const auto other = std::ranges::find_if(
@@ -98,7 +98,7 @@ private:
             const RecordNode& member = members.front();
             std::size_t taken = 1;
             if (IsAttribute(member)) {
-                // The line of the element itself shows them.
+                // Shown on the element's own line.
             } else if (!member.announced ||
                        (member.kind == Kind::List && member.children.empty())) {
                 silent.push_back(Harmless(member.name));
@@ -133,7 +133,7 @@ private:
         }
     }
 
-    /// Items of one name: joined when they are short, as a grid when they are alike, else one
+    /// Items of the same name: joined if they are short, a grid if they are alike, otherwise a
     /// section each.
     void Repeated(const std::string& name, Items items, std::size_t indent)
     {
@@ -234,7 +234,7 @@ private:
         }
     }
 
-    /// A blank line between an outermost section and members of the record itself.
+    /// Adds a blank line between an outermost section and the record's own members.
     void LeaveSection(std::size_t indent)
     {
         if (isInSection_ && indent == kIndent) {

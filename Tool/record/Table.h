@@ -12,10 +12,10 @@
 namespace Tool
 {
 
-/// The record with its name and where it comes from in the title, each nested record as an indented
-/// section, names to the left, values in one column. Members that are not announced are folded into
-/// one closing line of their section. Lines take at most `width` columns as long as names leave
-/// room for values.
+/// The record as a table: its name and source as the title, names to the left, values in one
+/// column, nested records as indented sections. Members that were not announced are listed in one
+/// line at the end of their section. Lines are at most `width` columns wide if names leave room for
+/// values.
 std::string RenderRecord(const CapabilitySet::RecordNode& record, std::string_view source,
                          std::size_t width, const Paint& paint);
 

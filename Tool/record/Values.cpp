@@ -116,7 +116,7 @@ Cell TextCell(const std::string& text)
     return {Harmless(text), Style::Plain, digits};
 }
 
-/// The options of an element: a text with commas, or a list.
+/// The options of an element, which are a text with commas or a list.
 std::string OptionsOf(const RecordNode& element)
 {
     const RecordNode* const options = Child(element, "@opt");
@@ -129,7 +129,7 @@ std::string OptionsOf(const RecordNode& element)
     return text;
 }
 
-/// Limits that a record holds whether or not the device gave them: zeros then.
+/// Limits that the device did not give, which the record keeps as zeros.
 bool AreFilledIn(const RecordNode& element)
 {
     return std::ranges::all_of(element.children, [](const RecordNode& each) {
@@ -137,7 +137,7 @@ bool AreFilledIn(const RecordNode& element)
     });
 }
 
-/// An element that holds attributes and text, and no elements.
+/// An element with attributes and text but without elements.
 Cell ElementCell(const RecordNode& element)
 {
     std::string text = element.text.empty() ? std::string() : TextCell(element.text).text;
@@ -160,7 +160,7 @@ Cell ElementCell(const RecordNode& element)
     return text.empty() ? Cell{"(empty)", Style::Faint} : Cell{text};
 }
 
-/// Bounds and a list of the same setting.
+/// The bounds of a setting beside a list of its values.
 bool IsBoundsOrList(const RecordNode& node)
 {
     return node.children.size() == 2 && node.children[0].kind == Kind::Range &&
@@ -194,7 +194,7 @@ std::string PlainAttributes(const RecordNode& element)
 {
     std::string text;
     for (const RecordNode& child : element.children) {
-        // What namespaces a document declares tells a person nothing about the device.
+        // Namespaces say nothing about the device.
         if (IsAttribute(child) && !SaysLimits(child) && !child.name.starts_with("@xmlns")) {
             Append(text, Harmless(child.name.substr(1)) + " " + Harmless(child.text), ", ");
         }

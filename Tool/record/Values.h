@@ -12,15 +12,15 @@
 namespace Tool
 {
 
-/// The member as one text: "yes", "1..8 (default 4)", "a, b, c". Nothing when it has members of its
-/// own that need lines of their own.
+/// The member as one text: "yes", "1..8 (default 4)", "a, b, c". Nothing if it has members that
+/// need lines of their own.
 std::optional<Cell> InOneLine(const CapabilitySet::RecordNode& node);
 
-/// Attributes of an element that say no limits, options or namespaces: "version 2.0". Empty when
-/// there are none.
+/// The attributes of an element except limits, options and namespaces: "version 2.0". May be
+/// empty.
 std::string PlainAttributes(const CapabilitySet::RecordNode& element);
 
-/// Whether the node stands for an attribute of an element.
+/// True if the node is an attribute of an element.
 bool IsAttribute(const CapabilitySet::RecordNode& node);
 
 }  // namespace Tool

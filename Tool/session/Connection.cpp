@@ -1,4 +1,4 @@
-// Reaching a device: its address, the user's password, the session.
+// Reaching a device: address, password, session.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/session/Connection.h"
 
@@ -52,7 +52,7 @@ void CheckPort(std::string_view port)
     const auto result = std::from_chars(port.data(), port.data() + port.size(), number);
     if (result.ec != std::errc() || result.ptr != port.data() + port.size() || number == 0 ||
         number > 65535) {
-        Refuse("\"" + std::string(port) + "\" is no port: ports are numbers from 1 to 65535");
+        Refuse("\"" + std::string(port) + "\" is not a port: ports are numbers from 1 to 65535");
     }
 }
 
@@ -63,12 +63,12 @@ void CheckHost(std::string_view host)
     if (host.starts_with('[')) {
         const std::size_t end = host.find(']');
         if (end == std::string_view::npos || end == 1) {
-            Refuse("an IPv6 address stands in brackets: https://[::1]:8443");
+            Refuse("write an IPv6 address in brackets: https://[::1]:8443");
         }
         rest = host.substr(end + 1);
     } else {
         if (std::ranges::count(host, ':') > 1) {
-            Refuse("an IPv6 address stands in brackets: https://[" + std::string(host) + "]");
+            Refuse("write an IPv6 address in brackets: https://[" + std::string(host) + "]");
         }
         rest = host.substr(std::min(host.find(':'), host.size()));
         host.remove_suffix(rest.size());
@@ -78,7 +78,7 @@ void CheckHost(std::string_view host)
     }
     if (!rest.empty()) {
         if (rest.front() != ':') {
-            Refuse("behind the brackets stands a port or nothing: https://[::1]:8443");
+            Refuse("only a port may follow the brackets: https://[::1]:8443");
         }
         CheckPort(rest.substr(1));
     }
@@ -102,8 +102,8 @@ Address ParseNetworkAddress(std::string_view scheme, std::string_view rest)
     const std::string_view path = rest.substr(host.size());
     if (!path.empty() && path != "/") {
         Refuse(
-            "the address of a device ends behind host and port; requests of your own go "
-            "through \"capset call\"");
+            "the address of a device ends after host and port; to send a request of your own, "
+            "use \"capset call\"");
     }
     CheckHost(host);
     address.address = std::string(scheme) + std::string(host);

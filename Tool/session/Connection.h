@@ -1,4 +1,4 @@
-// Reaching a device: its address, the user's password, the session.
+// Reaching a device: address, password, session.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -8,18 +8,18 @@
 namespace Tool
 {
 
-/// A device as people write it, taken apart.
+/// The parts of a device's address.
 struct Address
 {
     std::string address;  ///< as the SDK takes it: no user, no trailing slash
     std::string user;     ///< empty: none was named
 };
 
-/// Takes "sim:dome", "http://host", "https://user@[::1]:8443" apart. Throws a usage failure for
-/// anything else, and for a password in the address, which is never repeated.
+/// Splits "sim:dome", "http://host" or "https://user@[::1]:8443". Throws a usage failure for
+/// anything else, and for an address with a password, without repeating it.
 Address ParseAddress(const std::string& text);
 
-/// How to reach a device; the fields are the options of the same names.
+/// How to reach a device, as given by the options of the same names.
 struct ConnectionOptions
 {
     std::string device;
@@ -30,11 +30,11 @@ struct ConnectionOptions
     std::chrono::duration<double> connectTimeout{0};  ///< 0: the SDK's default
 };
 
-/// A device that is logged in as long as the object lives.
+/// A login, as long as the object lives.
 class Session
 {
 public:
-    /// Throws a failure that says why the device cannot be logged in.
+    /// Throws a failure if the login fails.
     explicit Session(const ConnectionOptions& options);
     ~Session();
     Session(const Session&) = delete;

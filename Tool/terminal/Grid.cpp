@@ -1,4 +1,4 @@
-// Cells in columns under a head.
+// Tables of columns.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/terminal/Grid.h"
 
@@ -16,7 +16,7 @@ namespace
 constexpr std::size_t kGap = 2;
 constexpr std::size_t kLeastLastColumn = 16;
 
-/// One row over as many lines as its last cell needs.
+/// One row, of as many lines as its last cell needs.
 std::string RenderRow(const std::vector<Cell>& row, const std::vector<std::size_t>& widths,
                       const std::vector<bool>& numeric, std::size_t indent, const Paint& paint)
 {
@@ -103,7 +103,7 @@ bool Grid::IsNumeric(std::size_t column) const
 
 bool Grid::Fit(std::size_t width)
 {
-    // Narrower than that a text is no pleasure to read.
+    // Narrower texts are hard to read.
     constexpr std::size_t kReadable = 24;
     const auto sum = [](const std::vector<std::size_t>& widths) {
         return std::accumulate(widths.begin(), widths.end(), std::size_t{0}) +

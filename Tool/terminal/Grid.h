@@ -1,4 +1,4 @@
-// Cells in columns under a head.
+// Tables of columns.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -19,8 +19,8 @@ struct Cell
     bool isNumber = false;
 };
 
-/// Rows of as many cells as there are columns. The last column takes what is left of the width and
-/// wraps; columns of numbers are set to the right.
+/// A table in which each row has one cell per column. The last column takes the rest of the width
+/// and wraps; columns of numbers are aligned to the right.
 class Grid
 {
 public:

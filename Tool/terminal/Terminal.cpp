@@ -1,4 +1,4 @@
-// Where output goes.
+// Output to terminals, files and pipes.
 // SPDX-License-Identifier: Apache-2.0
 #include "Tool/terminal/Terminal.h"
 

@@ -1,4 +1,4 @@
-// Where output goes: terminals with a width and perhaps colours, or files and pipes.
+// Output to terminals, files and pipes.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,7 +10,7 @@
 namespace Tool
 {
 
-/// How a piece of text is set.
+/// How a piece of text looks.
 enum class Style
 {
     Plain,
@@ -22,7 +22,7 @@ enum class Style
     Bad,
 };
 
-/// Sets texts in colours, or leaves them as they are.
+/// Colours texts, or leaves them as they are.
 class Paint
 {
 public:
@@ -34,7 +34,7 @@ private:
     bool colours_;
 };
 
-/// What "--color" says.
+/// The values of --color.
 enum class ColourChoice
 {
     Auto,
@@ -42,23 +42,23 @@ enum class ColourChoice
     Never,
 };
 
-/// Whether output on that stream is coloured: under Auto on a terminal that knows colours, unless
+/// True if output on the stream is coloured: with Auto on a terminal that has colours, unless
 /// NO_COLOR is set.
 bool WantsColours(ColourChoice choice, std::FILE* stream);
 
 bool IsTerminal(std::FILE* stream);
 
-/// Columns of the terminal behind a stream, 80 where there is none.
+/// Columns of the stream's terminal, or 80 if it is not one.
 std::size_t TerminalWidth(std::FILE* stream);
 
-/// Writes to stdout. False once it can no longer be written to; nothing more is written then.
+/// Writes to stdout. False after an error; nothing more is written then.
 bool Print(std::string_view text);
 
-/// Ends the output. False, after a message unless the reader merely went away, when something that
-/// was printed did not arrive.
+/// Flushes stdout. False if anything could not be written; except for a pipe without a reader, it
+/// then writes a message.
 bool FinishOutput();
 
-/// Writes "capset: <message>" to stderr, control characters made visible.
+/// Writes "capset: <message>" to stderr, with control characters escaped.
 void Complain(std::string_view message);
 
 }  // namespace Tool
