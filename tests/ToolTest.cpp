@@ -1,6 +1,9 @@
 // The command-line tool as people and scripts run it: exit codes, outputs, devices that misbehave.
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+#include <array>
 #include <atomic>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -15,6 +18,10 @@
 #include <json/reader.h>
 #include <json/value.h>
 #include <json/writer.h>
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include "Device/hostile/HostileDocuments.h"
 #include "Device/http/DeviceServer.h"
@@ -363,6 +370,33 @@ TEST(Tool, FaultsOfTheDeviceEndWithTheirOwnSentence)
     }
 }
 
+TEST(Tool, AnAddressThatNeverAnswersIsGivenUpAfterTheConnectTimeout)
+{
+    using namespace std::chrono_literals;
+    // Nobody accepts the connections of this listener. Once its queue is full, others wait.
+    const int listener = socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    auto* const raw = reinterpret_cast<sockaddr*>(&address);
+    socklen_t size = sizeof address;
+    ASSERT_EQ(bind(listener, raw, size), 0);
+    ASSERT_EQ(listen(listener, 0) + getsockname(listener, raw, &size), 0);
+    std::array<int, 4> queued{};
+    for (int& each : queued) {
+        each = socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0);
+        connect(each, raw, size);
+    }
+    const auto begin = std::chrono::steady_clock::now();
+    const ToolResult result =
+        RunTool({"show", "http://127.0.0.1:" + std::to_string(ntohs(address.sin_port)),
+                 "--connect-timeout", "300ms", "--timeout", "1m"});
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 30s);
+    EXPECT_THAT(result.err, HasSubstr("error 7"));
+    std::ranges::for_each(queued, close);
+    close(listener);
+}
+
 TEST(Tool, ADeviceThatGoesAwayIsNotAskedAgainAndNothingIsLeftOutSilently)
 {
     const Served device({{.kind = Device::FaultKind::Unauthorized, .pathPrefix = "/TARN/System"}});
@@ -578,6 +612,10 @@ TEST(Tool, OverTlsCommandsChangeTheDeviceAndDownloadsComeWhole)
     EXPECT_EQ(armed.exitCode, 0) << armed.err;
     EXPECT_THAT(RunTool(on(host, {"alarm", "status", "subsystems"}), password).out,
                 testing::ContainsRegex("1  Entrance hall .*stay"));
+    // Detectors are commanded one by one: one that is missing does not keep the next from it.
+    RunTool(on(host, {"alarm", "silence", "--detector", "99,1"}), password);
+    EXPECT_THAT(RunTool(on(host, {"alarm", "detectors"}), password).out,
+                testing::ContainsRegex("1  Hall smoke .*silenced"));
 
     const Served recorder({}, true, "recorder");
     const TemporaryFolder folder;

@@ -18,6 +18,7 @@
 #include "Tool/record/Values.h"
 #include "Tool/session/Connection.h"
 #include "Tool/session/Paging.h"
+#include "Tool/session/Refusal.h"
 #include "Tool/session/SearchTime.h"
 #include "Tool/terminal/Grid.h"
 #include "Tool/terminal/Progress.h"
@@ -264,6 +265,17 @@ TEST_F(ToolText, StatusDocumentsAreReadInBothForms)
               (Members{{"statusCode", "4"}, {"errorMsg", "no"}}));
     EXPECT_TRUE(ReadStatus("<html>").empty());
     EXPECT_TRUE(ReadStatus("[1]").empty());
+}
+
+TEST_F(ToolText, TheIdOfATaskIsQuotedForTheShell)
+{
+    const std::pair<const char*, std::string> rows[] = {{"12", "12"},
+                                                        {"a-B_c", "a-B_c"},
+                                                        {"faces 100", "'faces 100'"},
+                                                        {"$(id)'s", R"('$(id)'\''s')"}};
+    for (const auto& [task, word] : rows) {
+        EXPECT_THAT(TaskHint(task), testing::EndsWith(" --task " + word));
+    }
 }
 
 TEST_F(ToolText, ALineOfProgressTellsWhatMattersInAnyWidth)
