@@ -102,8 +102,8 @@ std::string RenderSummary(std::span<const Finding> findings, const std::string& 
 
 std::string RenderRecordList(const Paint& paint)
 {
-    Grid asked({"record", "what it tells"});
-    Grid parsed({"record that only \"capset parse\" reads", "what it tells"});
+    Grid asked({"record", "contents"});
+    Grid parsed({"record that only \"capset parse\" reads", "contents"});
     for (const RecordEntry& each : AllRecords()) {
         (each.ask ? asked : parsed).Add({{each.name}, {each.description}});
     }
