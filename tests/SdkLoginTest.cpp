@@ -33,11 +33,12 @@ std::atomic<bool> resolverMayEnd{false};
 
 }  // namespace
 
-/// A resolver that does not answer for one host.
-int getaddrinfo(const char* node, const char* service, const addrinfo* hints, addrinfo** result)
+/// A resolver that does not answer for one host, exported so that libcurl calls it.
+[[gnu::visibility("default")]] int getaddrinfo(const char* node, const char* service,
+                                               const addrinfo* hints, addrinfo** result)
 {
     if (node != nullptr && Holds(kSilentAddress, node)) {
-        while (!resolverMayEnd) {
+        for (int i = 0; i < 2'000 && !resolverMayEnd; ++i) {
             std::this_thread::sleep_for(20ms);
         }
         return EAI_FAIL;
