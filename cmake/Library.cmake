@@ -25,6 +25,7 @@ function(capabilityset_library target)
                          PRIVATE $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fno-gnu-unique>)
   target_link_libraries(${target}Objects PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE}
                                                                      capabilityset_options)
+  capabilityset_precompile(${target}Objects)
   foreach(kind IN ITEMS STATIC SHARED)
     set(library ${target})
     set(suffix "")
