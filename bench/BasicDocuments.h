@@ -1,4 +1,4 @@
-// Basic capability documents of several shapes, made from the record's own field list.
+// Basic capability documents of several shapes, generated from the record's field list.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,10 +11,10 @@
 namespace Bench
 {
 
-/// What of the record's elements a document holds, and what it holds beside them.
+/// Which of the record's elements a document contains, and what else.
 struct Shape
 {
-    int keptOfFive = 5;       ///< so many of every five elements
+    int keptOfFive = 5;       ///< how many of every five elements
     int unknownElements = 0;  ///< elements the record does not know, spread over the document
 };
 
@@ -59,7 +59,7 @@ private:
 
     void Leaf(const std::string& name, const std::string& rest)
     {
-        // An element name that begins with a digit makes no document.
+        // Element names must not begin with a digit.
         if (name.front() >= '0' && name.front() <= '9') {
             return;
         }

@@ -1,4 +1,4 @@
-// One row of a table: the same work done plainly and by the library.
+// Compares two ways of doing the same work: plainly and with the library.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,9 +11,9 @@
 namespace Bench
 {
 
-/// One side of a comparison. Under callgrind it runs `rounds` times and leaves a dump of its own,
-/// named "<work>|<side>|<rounds>"; otherwise Google Benchmark times it. `side` returns something,
-/// which is consumed; `warmUp` runs before, outside what is measured.
+/// One side of a comparison. Under callgrind it runs `rounds` times and writes a dump named
+/// "<work>|<side>|<rounds>"; otherwise Google Benchmark times it. The result of `side` is consumed;
+/// `warmUp` runs first and is not measured.
 template <class Side, class WarmUp>
 void AddSide(const std::string& work, const std::string& name, int rounds, Side side, WarmUp warmUp)
 {
@@ -33,7 +33,7 @@ void AddSide(const std::string& work, const std::string& name, int rounds, Side 
     }
 }
 
-/// The same, warmed up by a call of its own.
+/// The same, warmed up by one call of `side`.
 template <class Side>
 void AddSide(const std::string& work, const std::string& name, int rounds, Side side)
 {
@@ -48,7 +48,7 @@ void Compare(const std::string& work, int rounds, Baseline baseline, Ours ours)
     AddSide(work, "ours", rounds, std::move(ours));
 }
 
-/// The whole of a program's main.
+/// The body of a program's main.
 inline int Run(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);

@@ -1,4 +1,4 @@
-// A simulated device served over HTTP by a process of its own, so that a client is measured alone.
+// A simulated device served over HTTP by a separate process, so that only the client is measured.
 // SPDX-License-Identifier: Apache-2.0
 #include "DeviceProcess.h"
 
@@ -16,7 +16,7 @@ namespace Bench
 namespace
 {
 
-/// The whole life of the child: tells where it serves, and serves until the parent lets go.
+/// Runs in the child: reports its address and serves until the parent closes the lifeline.
 int Serve(const std::string& profile, Device::ServerOptions options, int tellTo, int lifeline)
 {
     std::string error;

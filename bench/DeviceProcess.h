@@ -1,4 +1,4 @@
-// A simulated device served over HTTP by a process of its own, so that a client is measured alone.
+// A simulated device served over HTTP by a separate process, so that only the client is measured.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,11 +13,11 @@
 namespace Bench
 {
 
-/// Lives as long as the object. Made before the program starts threads, since it is a fork.
+/// Lives as long as the object. Create it before any thread: it forks.
 class DeviceProcess
 {
 public:
-    /// Serves a profile on the loopback; null when it cannot be served.
+    /// Serves a profile on the loopback; null if that fails.
     static std::unique_ptr<DeviceProcess> Start(const std::string& profile,
                                                 Device::ServerOptions options);
     ~DeviceProcess();
@@ -43,7 +43,7 @@ private:
     std::string certificateFile_;
 };
 
-/// Bytes of memory that a process holds now; 0 when it cannot be told.
+/// Resident memory of a process in bytes; 0 if unknown.
 std::size_t ResidentBytes(pid_t process);
 
 }  // namespace Bench

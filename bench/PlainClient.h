@@ -1,4 +1,4 @@
-// A client of bare libcurl: what fetching a document costs without the library.
+// A bare libcurl client: the cost of fetching a document without the library.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace Bench
 {
 
-/// Fetches documents over one connection, kept as long as it lives, with digest authentication.
+/// Fetches documents over one kept connection, with digest authentication.
 class PlainClient
 {
 public:
@@ -34,7 +34,7 @@ public:
         }
     }
 
-    /// The document at a path, empty when there was none; a post sends an empty body.
+    /// The document at a path, empty if there is none; a post sends an empty body.
     const std::string& Fetch(const char* path, bool post = false)
     {
         CURL* const curl = handle_.get();

@@ -1,4 +1,4 @@
-// A device SDK without a device: answers come from a script.
+// A device SDK that answers from a script.
 // SPDX-License-Identifier: Apache-2.0
 #include "ScriptedSdk.h"
 

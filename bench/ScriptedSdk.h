@@ -1,4 +1,4 @@
-// A device SDK without a device: answers come from a script.
+// A device SDK that answers from a script.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -7,7 +7,7 @@
 namespace Bench
 {
 
-/// What the SDK's calls answer, each time they are called.
+/// The answer to every call.
 struct Script
 {
     std::string_view answer;            ///< copied into the buffer
@@ -15,7 +15,7 @@ struct Script
     unsigned int writtenOnRefusal = 0;  ///< bytes scribbled into a buffer that is too small
 };
 
-/// The script of the process; set it between calls.
+/// The process's script; set it between calls.
 extern Script script;
 
 }  // namespace Bench

@@ -1,5 +1,5 @@
-// Exchanges with a device over HTTP, beside a client that keeps neither answers nor connections.
-// SPDX-License-Identifier: Apache-2.0
+// Exchanges with a device over HTTP, compared with a client that keeps neither answers nor
+// connections. SPDX-License-Identifier: Apache-2.0
 #include <cstdint>
 #include <cstdio>
 #include <functional>
@@ -27,14 +27,14 @@ constexpr std::uint64_t kStep = 16384;
 constexpr std::uint64_t kGrowths = 20;
 constexpr int kQueries = 100;
 
-/// What one side needed.
+/// The cost of one side.
 struct Need
 {
     double exchanges = 0;
     double connections = 0;
 };
 
-/// A device on the loopback, and a session with it.
+/// A device on the loopback and a session with it.
 struct Site
 {
     std::shared_ptr<Device::DeviceModel> model;
@@ -73,7 +73,7 @@ struct Site
         return now;
     }
 
-    /// Exchanges of `queries` operations, and the connections of the session up to their end.
+    /// Exchanges of `queries` operations, and connections of the session so far.
     [[nodiscard]] bool Ask(int queries, Need& need) const
     {
         const Statistics before = Counters();
@@ -92,7 +92,7 @@ struct Site
 };
 
 /// One query whose answer fits the buffer after twenty growths. The plain client is already
-/// authorised, and asks again for each.
+/// authorised and asks again for each growth.
 bool AskLargeAnswer(Site& site, Need& plain, Need& ours)
 {
     Device::Fault padding;
@@ -114,7 +114,7 @@ bool AskLargeAnswer(Site& site, Need& plain, Need& ours)
     return size == (kGrowths + 1) * kStep && answered && site.server->SetFaults({}, site.error);
 }
 
-/// A hundred queries. The plain client begins each with a new connection.
+/// A hundred queries. The plain client opens a connection for each.
 bool AskOften(Site& site, Need& plain, Need& ours)
 {
     for (int i = 0; i < kQueries; ++i) {

@@ -1,4 +1,4 @@
-// Receive buffers, alone and in whole operations, beside a buffer allocated and cleared each time.
+// Receive buffers, alone and in operations, compared with a buffer allocated and cleared each time.
 // SPDX-License-Identifier: Apache-2.0
 #include <sys/resource.h>
 
@@ -51,7 +51,7 @@ double PageFaults()
     return static_cast<double>(usage.ru_minflt);
 }
 
-/// CPU time and page faults of one call, over `times` calls.
+/// CPU time and page faults per call, over `times` calls.
 template <class Side>
 Cost CostOf(int times, const Side& side)
 {
@@ -71,7 +71,7 @@ double Median(std::vector<double> values)
     return *middle;
 }
 
-/// Alternates the two sides, `times` calls each, and gives the medians of all rounds.
+/// Alternates the two sides, `times` calls each, and reports the medians of all rounds.
 template <class Baseline, class Ours>
 void ComparePaired(const char* work, int rounds, int times, Baseline baseline, Ours ours)
 {
@@ -99,7 +99,7 @@ void ComparePaired(const char* work, int rounds, int times, Baseline baseline, O
     benchmark::RegisterBenchmark(work, run)->Iterations(rounds)->Unit(benchmark::kMillisecond);
 }
 
-/// What a callee does that finds its buffer too small.
+/// What a callee does if its buffer is too small.
 void WriteLittle(char* buffer)
 {
     std::memset(buffer, 'x', 64);
@@ -107,7 +107,7 @@ void WriteLittle(char* buffer)
     benchmark::ClobberMemory();
 }
 
-/// A buffer that is allocated and cleared for each attempt.
+/// A buffer allocated and cleared for each attempt.
 std::unique_ptr<char[]> ClearedBuffer(unsigned int size)
 {
     std::unique_ptr<char[]> buffer(new char[size]);
@@ -161,7 +161,7 @@ bool PlainDeviceCapability(DeviceCap& out, unsigned int& err, int userID)
     return false;
 }
 
-/// GetBasicCapability with the plain buffer, as far as a first attempt that succeeds takes it.
+/// GetBasicCapability with the plain buffer, when the first attempt succeeds.
 bool PlainBasicCapability(BasicCapability& out, unsigned int& err, int userID)
 {
     out = BasicCapability();
@@ -176,21 +176,21 @@ bool PlainBasicCapability(BasicCapability& out, unsigned int& err, int userID)
     return true;
 }
 
-/// A JSON query that no buffer is large enough for.
+/// A JSON query whose answer fits no buffer.
 bool ExhaustQuery(unsigned int& err)
 {
     CapabilitySet::FiberConvertCap out;
     return CapabilitySet::JsonCapApp::getFiberConvertCapability(out, err, 1);
 }
 
-/// A data package that no buffer is large enough for.
+/// A data package that fits no buffer.
 bool ExhaustPackage(unsigned int& err)
 {
     tagNET_ORB_XML_CONFIG_OUTPUT out{};
     return CapabilitySet::JsonConfigApp::GetHFPDDataPackage(out, "1", err, 1);
 }
 
-/// Either as a side of a comparison: as many attempts, of another size.
+/// Either as a side of a comparison: the same number of attempts with another size.
 auto Exhaustion(bool (*ask)(unsigned int&))
 {
     return [ask] {
@@ -200,7 +200,7 @@ auto Exhaustion(bool (*ask)(unsigned int&))
     };
 }
 
-/// An operation as a side of a comparison, with a script of its own.
+/// An operation with its script, as a side of a comparison.
 template <class Record>
 auto Operation(bool (*query)(Record&, unsigned int&, int), const Bench::Script& script)
 {

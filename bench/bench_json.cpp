@@ -1,4 +1,4 @@
-// Reading JSON answers into records beside JsonCpp's bare parse of the same text.
+// Reading JSON answers into records, compared with JsonCpp's bare parse of the same text.
 // SPDX-License-Identifier: Apache-2.0
 #include <string>
 #include <vector>
@@ -64,7 +64,7 @@ std::string ListAnswer(int entries)
     return root.toStyledString();
 }
 
-/// What a host answers to AlarmHostZoneConfig's question, beside members that no record lists.
+/// An alarm host's answer to the AlarmHostZoneConfig query, with members that no record lists.
 std::string ZonesAnswer(int entries)
 {
     Json::Value root;
@@ -81,7 +81,7 @@ std::string ZonesAnswer(int entries)
     return root.toStyledString();
 }
 
-/// What a recorder answers to a search for captured faces.
+/// A recorder's answer to a search for captured faces.
 std::string CapturesAnswer(int entries)
 {
     Json::Value root;

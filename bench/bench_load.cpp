@@ -1,4 +1,4 @@
-// Many clients at one device over HTTP, and the library's share of what a query costs.
+// Many clients of one device over HTTP, and the library's share of a query's cost.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <atomic>
@@ -41,17 +41,17 @@ constexpr int kSessions = 8;
 constexpr std::uint64_t kWarmUp = 10'000;
 constexpr double kMebibyte = 1024.0 * 1024.0;
 constexpr double kMostGrowth = 1.05;  // of memory after the warm-up
-// The allocator keeps a heap for each thread, and what these hold unused settles later.
+// The allocator keeps a heap per thread, whose unused part settles later.
 constexpr double kMostProcessGrowth = 1.15;
 constexpr double kMostShare = 1.15;
 
-/// One operation, and the request that it sends.
+/// One operation and the request that it sends.
 struct Query
 {
     const char* name;
     const char* path;
     bool post;
-    bool (*ask)(int userID);  ///< false too when the record was not filled
+    bool (*ask)(int userID);  ///< false also if the record was not filled
 };
 
 constexpr Query kQueries[] = {
@@ -107,7 +107,7 @@ private:
     int userID_ = -1;
 };
 
-/// What both processes hold while no operation runs, and how much of it came after the warm-up.
+/// Memory of both processes while no operation runs, and its growth since the warm-up.
 class Memory
 {
 public:
@@ -140,9 +140,9 @@ public:
         return static_cast<double>(served_) / kMebibyte;
     }
 
-    // Each beside what it was after the warm-up.
-    double heapGrowth = 0;    ///< what the client has allocated and not freed
-    double clientGrowth = 0;  ///< all of the client's process
+    // Relative to the value after the warm-up.
+    double heapGrowth = 0;    ///< the client's live allocations
+    double clientGrowth = 0;  ///< the client's process
     double deviceGrowth = 0;
 
 private:
@@ -166,7 +166,7 @@ struct Load
     unsigned threads;
 };
 
-/// Runs the queries in turn from all threads, one for each entry; how many failed.
+/// Runs the queries in turn on all threads, one per entry; returns the number of failures.
 std::uint64_t RunQueries(const std::vector<std::unique_ptr<Session>>& sessions, unsigned threads,
                          std::vector<std::uint32_t>& microseconds)
 {
@@ -193,7 +193,7 @@ std::uint64_t RunQueries(const std::vector<std::unique_ptr<Session>>& sessions, 
     return failed;
 }
 
-/// Prints a row; true when no query failed and memory stayed flat.
+/// Prints a row; true if no query failed and memory stayed flat.
 bool RunLoad(const char* name, const Load& load, bool tls)
 {
     Device::ServerOptions options;
@@ -209,7 +209,7 @@ bool RunLoad(const char* name, const Load& load, bool tls)
     }
     std::vector<std::uint32_t> warmUp(kWarmUp);
     std::uint64_t failed = RunQueries(sessions, load.threads, warmUp);
-    // Written once before memory is looked at, so that the pages are there.
+    // Touch the pages before memory is measured.
     std::vector<std::uint32_t> microseconds(load.requests, 1);
     Memory memory(device->Pid());
     const Clock::time_point start = Clock::now();
@@ -248,7 +248,7 @@ double MedianOf(std::vector<double> values)
     return *middle;
 }
 
-/// What any client does with a document; false when it is none.
+/// What any client does with a document; false if it is not one.
 bool ParsePlainly(const std::string& document)
 {
     if (!document.starts_with('<')) {
@@ -260,7 +260,7 @@ bool ParsePlainly(const std::string& document)
     return parsed != nullptr;
 }
 
-/// How the same documents are fetched: by libcurl alone, by libcurl and a plain parser, by us.
+/// Ways to fetch the same documents: libcurl alone, libcurl and a plain parser, the library.
 struct Times
 {
     std::vector<double> fetched;
@@ -275,7 +275,7 @@ struct Times
     }
 };
 
-/// One table's part: a wire, and how long the device thinks before it answers.
+/// Part of a table: a wire and the delay of the device's answers.
 struct Road
 {
     const char* name;
@@ -285,7 +285,7 @@ struct Road
     int queries;  ///< of each kind in a round
 };
 
-/// The three ways in turn; true when none of them failed.
+/// Runs the three ways in turn; true if none failed.
 bool Measure(const Road& road, const Query& query, PlainClient& client, int userID, Times& times)
 {
     const auto fetch = [&]() -> const std::string& { return client.Fetch(query.path, query.post); };
@@ -301,9 +301,9 @@ bool Measure(const Road& road, const Query& query, PlainClient& client, int user
     return true;
 }
 
-/// One row for each query; true when the goals are met. On a loopback that answers at once the
-/// parse weighs as much as the exchange: there the library is held to what a client pays that
-/// parses. Beside a device that takes its time it is held to the fetch alone.
+/// Prints one row per query; true if the goals are met. On a loopback, parsing costs as much as the
+/// exchange, so the library is compared with a client that fetches and parses. With a device that
+/// takes its time, it is compared with the fetch alone.
 bool RunShare(const Road& road)
 {
     Device::ServerOptions options;

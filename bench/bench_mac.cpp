@@ -1,4 +1,4 @@
-// The MAC lookup beside JsonCpp's bare parses of its table's texts, and beside a plain map.
+// The MAC lookup, compared with JsonCpp's bare parses of its table's texts and with a plain map.
 // SPDX-License-Identifier: Apache-2.0
 #include <map>
 #include <memory>
@@ -48,7 +48,7 @@ std::map<std::string, std::string> PlainMap()
     return companies;
 }
 
-/// The side of a comparison that can be run once in a process, and not in advance.
+/// A side of a comparison that can run only once per process.
 template <class Side>
 void AddOnlyOnce(const std::string& work, const std::string& name, Side side)
 {
@@ -72,7 +72,7 @@ int main(int argc, char** argv)
     Bench::Compare("MAC table: later object", 10, BareParses,
                    [] { return std::make_unique<CMacCompanyHelper>(); });
 
-    // Made by the first calls, when the first object was measured.
+    // Created by the first calls, when the first object was measured.
     Bench::Compare(
         "MAC lookup, info level off", 1000,
         [] {

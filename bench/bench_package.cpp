@@ -1,5 +1,5 @@
-// Downloading data packages over HTTP: memory at its peak, and exchanges, beside a client that
-// appends what arrives to a text. Device and clients each have a process of their own.
+// Downloading data packages over HTTP: peak memory and exchanges, compared with a client that
+// appends what arrives to a string. The device and each client run in separate processes.
 // SPDX-License-Identifier: Apache-2.0
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -21,14 +21,14 @@ namespace
 using Bench::DeviceProcess;
 using Bench::PlainClient;
 
-/// What a client did, as its process tells it.
+/// A client's own report.
 struct Told
 {
-    bool whole;        ///< it got the package, and every byte is the device's
+    bool whole;        ///< the package arrived, and every byte is right
     double exchanges;  ///< for the package
 };
 
-/// A process that runs `body` and writes what it returns to a pipe.
+/// A process that runs `body` and writes the result to a pipe.
 class Child
 {
 public:
@@ -61,7 +61,7 @@ public:
         return process_ > 0 && read(pipe_[0], &result, sizeof result) == sizeof result;
     }
 
-    /// Waits for its end; what it held of memory at most, in MiB.
+    /// Waits for its end; returns its peak memory in MiB.
     double Wait()
     {
         rusage usage{};
@@ -109,7 +109,7 @@ Told Download(const DeviceProcess& device, const std::string& task)
             static_cast<double>(exchanges)};
 }
 
-/// Runs a client; false when it did not get the package.
+/// Runs a client; false if it did not get the package.
 bool Measure(Told (*client)(const DeviceProcess&, const std::string&), const DeviceProcess& device,
              const std::string& task, double& memory, double& exchanges)
 {

@@ -1,4 +1,4 @@
-// Making texts and log lines, beside the plain way of each.
+// Formatting texts and log lines, compared with the plain way.
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdarg>
 #include <cstdio>
@@ -18,7 +18,7 @@ namespace
 
 constexpr char kLine[] = "%s failed, [%d]-[%d].";
 
-/// Measures, then prints: what FormatString is compared with.
+/// Measures, then prints: the baseline of FormatString.
 std::string TwoPasses(const char* format, ...) KEEL_PRINTF(1, 2);
 
 std::string TwoPasses(const char* format, ...)
@@ -35,7 +35,7 @@ std::string TwoPasses(const char* format, ...)
     return text;
 }
 
-/// Makes the line whether or not anyone reads it.
+/// Formats the line even if its level is off.
 bool FormatFirst()
 {
     const std::string line = TwoPasses(kLine, "NET_ORB_STDXMLConfig", 50, 7);
@@ -59,7 +59,7 @@ int main(int argc, char** argv)
         "FormatString", kRounds, [] { return TwoPasses(kLine, "NET_ORB_STDXMLConfig", 50, 7); },
         [] { return Keel::StringUtil::FormatString(kLine, "NET_ORB_STDXMLConfig", 50, 7); });
 
-    // A client that reads its log, but not lines of this level.
+    // A client that logs, but not at this level.
     log4cxx::BasicConfigurator::configure();
     log4cxx::Logger::getRootLogger()->setLevel(log4cxx::Level::getFatal());
     Bench::Compare("a log line whose level is off", kRounds, FormatFirst, LevelFirst);

@@ -1,4 +1,4 @@
-// Reading a capability record beside libxml2's bare parse of the same document.
+// Reading a capability record, compared with libxml2's bare parse of the same document.
 // SPDX-License-Identifier: Apache-2.0
 #include <memory>
 #include <string>
@@ -19,7 +19,7 @@ Tree Parsed(const std::string& text)
     return {xmlParseDoc(reinterpret_cast<const xmlChar*>(text.c_str())), &xmlFreeDoc};
 }
 
-/// Parses and frees; the result says that there was a document.
+/// Parses and frees; true if there was a document.
 bool BareParse(const std::string& text)
 {
     return Parsed(text) != nullptr;
@@ -32,7 +32,7 @@ bool ReadTree(const xmlDoc* document)
     return record.valid;
 }
 
-/// A document whose hardware record stands between elements that nobody knows.
+/// A document whose hardware record is surrounded by unknown elements.
 std::string ManySiblings(std::size_t bytes)
 {
     std::string text = "<BasicCapability><HardwareCapability><HardwareVersion>1</HardwareVersion>";
@@ -59,7 +59,7 @@ void AddDocument(const std::string& shape, const std::string& text)
     Bench::Compare("read the tree: " + shape + " document", kRounds, bare, read);
 }
 
-/// The large trees, made when the first of the two rows runs.
+/// The large trees, created when the first of the two rows runs.
 struct Siblings
 {
     const std::string text = ManySiblings(20'000'000);
@@ -75,7 +75,7 @@ const Siblings& LargeTrees()
 
 void AddManySiblings()
 {
-    // Long enough not to need a warm-up; the trees must stand before.
+    // Long enough not to need a warm-up, but the trees must exist before.
     const auto makeTrees = [] { return LargeTrees().text.size(); };
     const auto parse = [] { return BareParse(LargeTrees().text); };
     const auto readFew = [] { return ReadTree(LargeTrees().few.get()); };

@@ -1,4 +1,4 @@
-// A first query: log a device in, ask it what it can do, print a few answers, log out.
+// A first query: log in to a device, ask what it can do, print a few answers, log out.
 // SPDX-License-Identifier: Apache-2.0
 #include <iostream>
 

@@ -1,4 +1,4 @@
-// How a fuzz target tells that a property does not hold.
+// How a fuzz target reports a violated property.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -8,7 +8,7 @@
 namespace Fuzz
 {
 
-/// Throws std::logic_error with the property's sentence, and what it was about, unless it holds.
+/// Throws std::logic_error with the property and what it is about, unless it holds.
 inline void Require(bool holds, const char* property, const std::string& about = {})
 {
     if (!holds) {

@@ -1,4 +1,4 @@
-// One fuzzed text as several: scripts whose parts may be anything.
+// Splits one fuzzed text into several.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -10,10 +10,11 @@
 namespace Fuzz
 {
 
-/// Parts the chunks of a fuzzed text; in no document, so that mutations rarely make one by chance.
+/// Separates the chunks of a fuzzed text; occurs in no document, so that mutations rarely create
+/// one.
 inline constexpr char kSeparator = '\x1E';
 
-/// The text's chunks, at least one and at most `most`; the last one takes what is left.
+/// The text's chunks, at least one and at most `most`; the last one takes the rest.
 inline std::vector<std::string_view> SplitChunks(std::string_view text, std::size_t most)
 {
     std::vector<std::string_view> chunks;
@@ -26,7 +27,7 @@ inline std::vector<std::string_view> SplitChunks(std::string_view text, std::siz
     return chunks;
 }
 
-/// Takes the text's first byte as a number; 0 when there is none.
+/// Removes the text's first byte and returns it as a number; 0 if there is none.
 inline unsigned TakeByte(std::string_view& text)
 {
     if (text.empty()) {

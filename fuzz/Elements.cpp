@@ -1,4 +1,4 @@
-// Any bytes as an XML document: each of its elements as every shared element type.
+// Fuzzes the shared element types with XML documents.
 // SPDX-License-Identifier: Apache-2.0
 
 #include "CapabilitySet/RecordTree.h"
@@ -22,7 +22,7 @@ using TestSupport::reference::NumberOf;
 using TestSupport::reference::OptionsOf;
 using TestSupport::reference::PiecesOf;
 
-/// The next text that a child of this name holds; empty when there is no such child.
+/// The text of the next child of this name; empty if there is none.
 std::string NextText(const xmlNode*& cursor, const char* name)
 {
     if (!Find(cursor, name)) {
@@ -44,7 +44,7 @@ MinMaxPropElement PlainBounds(const xmlNode* element)
     return range;
 }
 
-/// As a range of children, zeros being none.
+/// As a range of children, where zero means absent.
 MinMaxElement PlainAttributes(const xmlNode* element)
 {
     const MinMaxPropElement bounds = PlainBounds(element);
@@ -130,7 +130,8 @@ void CheckTypes(xmlNode* element)
     }
 }
 
-/// One way of reading a text or an option list, from a value of each sign.
+/// Checks one way of reading a text or an option list, starting from a positive and a negative
+/// value.
 template <class Value, class How>
 void CheckKind(xmlNode* element, How how, const Value& expected, const char* property)
 {

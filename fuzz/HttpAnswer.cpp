@@ -1,4 +1,4 @@
-// Any bytes as what a device sends over its connections.
+// Fuzzes the SDK with what a device sends over its connections.
 // SPDX-License-Identifier: Apache-2.0
 #include <array>
 #include <memory>
@@ -20,7 +20,7 @@ namespace
 constexpr const char* kPassword = "never in the clear";
 constexpr const char* kPasswordAsBasic = "dXNlcjpuZXZlciBpbiB0aGUgY2xlYXI=";
 
-/// A device whose every connection, a pair of sockets of this process, sends one chunk and ends.
+/// A device in this process: each connection is a socket pair that sends one chunk and closes.
 class Device
 {
 public:
@@ -42,7 +42,7 @@ public:
         }
         if (sockets_.size() < chunks_.size()) {
             const std::string_view chunk = chunks_[sockets_.size()];
-            // What finds no room is a connection that breaks.
+            // What does not fit becomes a broken connection.
             static_cast<void>(
                 send(pair[1], chunk.data(), chunk.size(), MSG_DONTWAIT | MSG_NOSIGNAL));
         }
@@ -72,7 +72,7 @@ private:
     std::vector<int> sockets_;
 };
 
-/// A login to the device, over as this ends.
+/// A login to the device, logged out by the destructor.
 class Login
 {
 public:
@@ -96,7 +96,7 @@ private:
     int userID_ = -1;
 };
 
-/// One call with buffers of exactly these sizes, so that a byte beyond them is a fault.
+/// One call with buffers of exactly these sizes, so that the sanitizer sees a byte beyond them.
 struct Call
 {
     Call(int userID, const char* line, const char* body, unsigned size, unsigned statusSize)
@@ -147,7 +147,7 @@ void CheckCall(const Call& call)
             "what does not fit tells its size");
 }
 
-/// The same request with room enough is served from memory.
+/// The same request with a large enough buffer is served from memory.
 void CheckRepeat(const Call& first, int userID, const char* line, const char* body,
                  const Device& device)
 {

@@ -1,4 +1,4 @@
-// Under a fuzzer no allocation is made to fail: the sanitizer's own functions stay in place.
+// Fuzzers make no allocation fail: the sanitizer's functions stay in place.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/AllocationFaults.h"
 

@@ -1,4 +1,4 @@
-// Any bytes as a number.
+// Fuzzes the reading of numbers.
 // SPDX-License-Identifier: Apache-2.0
 #include <cmath>
 #include <locale>

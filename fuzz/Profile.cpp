@@ -1,4 +1,4 @@
-// Reads arbitrary bytes as the files of a simulated device's profile.
+// Fuzzes the files of a simulated device's profile.
 // SPDX-License-Identifier: Apache-2.0
 #include "Device/manifest/Profile.h"
 
@@ -16,7 +16,7 @@ namespace
 
 using Device::DeviceModel;
 
-/// The manifest, and one document of each kind for all files it names.
+/// The manifest, and one document of each kind for all files that it names.
 Device::ProfileFiles FilesOf(const std::vector<std::string_view>& chunks)
 {
     return [&chunks](const std::string& name, std::string&) -> std::optional<std::string> {
@@ -36,7 +36,7 @@ std::string Replaced(std::string text, std::string_view what, const std::string&
     return text;
 }
 
-/// Asks for an answer of the profile, about its first channel.
+/// Requests an answer of the profile for its first channel.
 void CheckAnswer(DeviceModel& device, const Device::Profile& profile, const Device::Answer& answer,
                  const std::string& body)
 {

@@ -1,4 +1,4 @@
-// Any bytes as the body of a refusal.
+// Fuzzes the body of a refusal.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 
@@ -24,7 +24,7 @@ bool AreSame(const std::optional<StatusDocument>& a, const std::optional<StatusD
                    a->deviceCode == b->deviceCode));
 }
 
-/// A body is the same in whatever pieces it arrives; its text chooses the pieces.
+/// The pieces in which a body arrives do not matter; its text chooses them.
 void CheckPieces(const std::string& text)
 {
     const std::size_t limit = text.size() - (text.size() % 3 == 0 ? text.size() / 2 : 0);
@@ -75,7 +75,7 @@ void Refusal(const std::string& text)
     Require(AreSame(document, PelNet::ReadStatusDocument(text)), "a refusal reads alike each time");
     Require(!document || text.size() <= PelNet::limits::kStatusDocument,
             "a status document is short");
-    // Neither form of document allows blanks before a declaration.
+    // No document may have blanks before a declaration.
     if (document && text[0] == '{' && text.size() + 3 <= PelNet::limits::kStatusDocument) {
         Require(AreSame(document, PelNet::ReadStatusDocument(" \r\n" + text)),
                 "blanks before a document are nothing");

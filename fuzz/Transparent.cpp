@@ -1,4 +1,4 @@
-// Any bytes as the script of a device that the transparent manager asks.
+// Fuzzes the transparent manager with a device's script.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <memory>
@@ -26,7 +26,7 @@ using TestSupport::SdkStep;
 constexpr unsigned kErrors[] = {0, 43, 1001, 1000, 7};
 constexpr std::size_t kMostSteps = 6;
 
-/// What the three call-backs were told.
+/// What the three callbacks received.
 struct Told
 {
     std::vector<int> sdkErrors;
@@ -56,8 +56,8 @@ void InstallCallBacks()
     told = {};
 }
 
-/// Error, size and texts of one call. A device that wants more room gets it: what it can lie about
-/// for nothing is the size of what it sent.
+/// Error, size and texts of one call. A device that asks for a larger buffer gets it; the size of
+/// what it sent may be false.
 SdkStep StepOf(std::string_view chunk)
 {
     SdkStep step;
@@ -74,7 +74,7 @@ SdkStep StepOf(std::string_view chunk)
     return step;
 }
 
-/// The two members of a refusal that call-backs see, found with the plain cursor.
+/// The two members of a refusal that callbacks see, found with the plain cursor.
 std::pair<int, std::string> PlainStatus(const std::string& text)
 {
     namespace xml = CapabilitySet::xml;
@@ -113,7 +113,7 @@ const SdkStep& LastStep()
     return sdk.steps[std::min(sdk.calls.size(), sdk.steps.size()) - 1];
 }
 
-/// The status as the device wrote it over the calls, cut to the size that it reported last.
+/// The status that the device wrote over all calls, cut to the size that it reported last.
 std::string SentStatus()
 {
     const ScriptedSdk& sdk = ScriptedSdk::Instance();

@@ -16,6 +16,7 @@
 
 #include "Device/Limits.h"
 #include "Device/hostile/HostileDocuments.h"
+#include "support/TemporaryFolder.h"
 
 using Device::DeviceModel;
 using Device::Response;
@@ -28,14 +29,6 @@ namespace
 class ProfileFolder : public testing::Test
 {
 protected:
-    ProfileFolder()
-    {
-        std::string pattern = (std::filesystem::temp_directory_path() / "profileXXXXXX").string();
-        EXPECT_NE(mkdtemp(pattern.data()), nullptr);
-        folder_ = pattern;
-    }
-    ~ProfileFolder() override { std::filesystem::remove_all(folder_); }
-
     void Write(const std::string& name, const std::string& text) const
     {
         std::ofstream(folder_ / name, std::ios::binary) << text;
@@ -84,7 +77,8 @@ protected:
         return model ? model : throw std::runtime_error(error);
     }
 
-    std::filesystem::path folder_;
+    const TestSupport::TemporaryFolder temporary_;
+    const std::filesystem::path folder_ = temporary_.Path();
 };
 
 struct Exchange

@@ -1,4 +1,4 @@
-// Every fault of the table on every road it can take, with what comes out and that it struck.
+// Every fault of the table on every kind of operation: its result, and that it occurred.
 // SPDX-License-Identifier: Apache-2.0
 #include <fstream>
 #include <string>
@@ -35,7 +35,7 @@ ScriptedSdk& Start(const Steps& steps)
     return sdk;
 }
 
-/// One try of a row on a subject.
+/// Tries one row on one subject.
 class Try
 {
 public:
@@ -54,7 +54,7 @@ public:
         comes_ = comes;
     }
 
-    /// Runs it; how often its fault struck.
+    /// Runs it; returns how often the fault occurred.
     unsigned Run(const std::string& request)
     {
         ScriptedSdk& sdk = Start(steps_);
@@ -75,7 +75,7 @@ public:
         if (expected == UINT_MAX) {
             EXPECT_GE(struck, 1U);
         } else {
-            EXPECT_EQ(struck, expected) << "how often the fault struck";
+            EXPECT_EQ(struck, expected) << "occurrences of the fault";
         }
         return struck;
     }
@@ -87,7 +87,7 @@ public:
     }
 
 private:
-    /// A buffer that never grows enough ends in 43, or in the number that makes none grow.
+    /// A buffer that never gets large enough gives 43, or the number that does not make it grow.
     [[nodiscard]] Comes TooSmall() const
     {
         const bool isForEver = steps_.size() == 1;
@@ -182,7 +182,7 @@ private:
         }
     }
 
-    /// What a raw road hands over of the last call's buffer.
+    /// What a raw operation returns of the last call's buffer.
     [[nodiscard]] std::string Delivered(const SdkCall& call) const
     {
         const SdkStep& step = steps_.back();
@@ -199,7 +199,7 @@ private:
             if (call.kind == SdkCall::Channel) {
                 continue;
             }
-            ASSERT_NE(comes_, Comes::NoChannel) << "nothing is to be sent";
+            ASSERT_NE(comes_, Comes::NoChannel) << "nothing may be sent";
             ASSERT_TRUE(call.isZeroed && call.isWellFilled) << "of " << call.size;
             ASSERT_EQ(RequestOf(call), request);
             if (!subject_.Is(kManager)) {
@@ -224,7 +224,7 @@ private:
 class FaultTest : public testing::TestWithParam<FaultRow>
 {
 protected:
-    /// Hands `use` each script of the row on each subject, with the request of the subject.
+    /// Calls `use` with each script of the row on each subject.
     template <class Use>
     static void ForEachTry(const std::vector<Subject>& subjects, Use use)
     {
@@ -254,10 +254,10 @@ TEST_P(FaultTest, StrikesAndComesOutAsItShould)
     std::size_t total = 0;
     ForEachTry(row.everyOperation ? AllOperations() : FamilyModels(),
                [&total](const auto& run) { total += run(); });
-    EXPECT_GT(total, 0U) << "a fault that never happened proves nothing";
+    EXPECT_GT(total, 0U) << "a fault that never occurred proves nothing";
 }
 
-/// Bytes of the process's address space.
+/// Size of the process's address space in bytes.
 std::size_t MappedBytes()
 {
     std::size_t pages = 0;
@@ -268,12 +268,12 @@ std::size_t MappedBytes()
 TEST_P(FaultTest, LeavesNoMemoryBehind)
 {
     ForEachTry(FamilyModels(), [](const auto& run) {
-        run();  // what is made once is made now
+        run();  // creates what is created once
         const long blocks = LiveBlocks();
         const std::size_t mapped = MappedBytes();
         run();
         EXPECT_EQ(LiveBlocks(), blocks);
-        // A sanitizer, which counts for itself, keeps what is freed.
+        // Sanitizers keep freed memory and count it themselves.
         EXPECT_TRUE(blocks == 0 || MappedBytes() < mapped + (8U << 20U));
     });
 }

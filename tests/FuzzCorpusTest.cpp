@@ -1,4 +1,4 @@
-// The properties of the library and the simulated device that are fuzzed.
+// Replays seeds and finds of the library's and the simulated device's fuzz targets.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/FuzzCorpus.h"
 

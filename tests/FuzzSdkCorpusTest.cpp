@@ -1,4 +1,4 @@
-// The properties of the bundled SDK that are fuzzed.
+// Replays seeds and finds of the SDK's fuzz targets.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/FuzzCorpus.h"
 

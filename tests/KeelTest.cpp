@@ -28,6 +28,7 @@
 #include "Keel/StringUtil.h"
 #include "Keel/TimeUtil.h"
 #include "Vsk/OutputDebug.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {
@@ -64,17 +65,12 @@ protected:
 
     KeelLogTest()
     {
-        const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-        folder_ = std::filesystem::temp_directory_path() /
-                  ("keel-" + name + "-" + std::to_string(getpid()));
-        std::filesystem::create_directories(folder_);
         std::ofstream(folder_ / "log4cxx.properties")
             << "log4j.rootLogger=DEBUG, A\n"
                "log4j.appender.A=org.apache.log4j.ConsoleAppender\n"
                "log4j.appender.A.layout=org.apache.log4j.PatternLayout\n"
                "log4j.appender.A.layout.ConversionPattern=file %m%n\n";
     }
-    ~KeelLogTest() override { std::filesystem::remove_all(folder_); }
 
     std::string OutputOf(const std::function<void()>& work)
     {
@@ -123,7 +119,8 @@ protected:
         "DEBUG|Vsk|trace 7 of Vsk|?|-1\n";
 
 private:
-    std::filesystem::path folder_;
+    const TestSupport::TemporaryFolder temporary_;
+    const std::filesystem::path folder_ = temporary_.Path();
 };
 
 TEST_F(KeelLogTest, IsSilentUntilTheClientConfiguresLogging)

@@ -6,7 +6,6 @@
 #include <fstream>
 #include <memory>
 #include <set>
-#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -240,22 +239,6 @@ TEST(MacCompanyHelperTest, ALookupSurvivesFailingMemory)
         const TestSupport::AllocationFault fault(TestSupport::AllocationFault::New, ordinal, true);
         EXPECT_EQ(helper.getCompanyNameByMAc(std::move(known)), "nokia");
         EXPECT_EQ(helper.getCompanyNameByMAc(std::move(argument)), "");
-    }
-}
-
-TEST(MacCompanyHelperTest, ObjectsAreMadeAndUsedOnManyThreadsAtOnce)
-{
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 8; ++i) {
-        threads.emplace_back([i] {
-            CMacCompanyHelper helper;
-            EXPECT_EQ(helper.getCompanyNameByMAc("fcd733"), "tp-link");
-            EXPECT_EQ(helper.getCompanyNameByMAc(std::to_string(i)), "");
-            EXPECT_THAT(Added(helper), UnorderedElementsAre(Pair(std::to_string(i), "")));
-        });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
     }
 }
 

@@ -1,4 +1,4 @@
-// Data packages on their way through the library: whole, in one exchange, or not at all.
+// Data packages arrive whole and in one exchange, or not at all.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <chrono>
@@ -35,7 +35,7 @@ struct Fetched
     bool success = false;
     unsigned error = 0;
     std::string bytes;
-    bool isUntouched = false;  ///< the caller's structure is as it was
+    bool isUntouched = false;  ///< the caller's structure is unchanged
 };
 
 template <class Call>
@@ -56,7 +56,7 @@ Fetched Fetch(Call call)
     return fetched;
 }
 
-/// Of a task (GET), or of the search of that name (POST).
+/// Downloads the package of a task (GET) or of the search of that name (POST).
 Fetched FetchTask(int user, const std::string& task)
 {
     return Fetch([&](auto& out, unsigned& error) {
@@ -92,7 +92,7 @@ TEST_P(PackageTest, ArrivesWholeInOneExchangeWhateverItsSize)
         EXPECT_TRUE(fetched.success && Device::IsWholePackage(fetched.bytes)) << c.name;
         EXPECT_EQ(TestSupport::Statistics().exchanges - before, 1U) << c.name;
     }
-    for (const char* task : {"13", "pkg-2G"}) {  // not done; larger than any buffer
+    for (const char* task : {"13", "pkg-2G"}) {  // unfinished; larger than any buffer
         const Fetched refused = FetchTask(recorder, task);
         EXPECT_TRUE(!refused.success && refused.isUntouched && refused.error != 0) << task;
     }

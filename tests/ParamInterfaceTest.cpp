@@ -5,7 +5,6 @@
 #include <functional>
 #include <iostream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -259,27 +258,6 @@ TEST(ParamInterfaceTest, EndsAsError23WhenMemoryRunsOutAnywhere)
         });
     });
     std::cout << points << " allocations\n";
-}
-
-TEST(ParamInterfaceTest, ServesManyThreadsAtOnce)
-{
-    const LogCapture log;
-    ScriptedSdk& sdk = ScriptedSdk::Fresh();
-    sdk.keepsCalls = false;
-    sdk.steps = {Answer(Rows()[0].answer)};
-    std::vector<std::thread> threads;
-    for (std::size_t thread = 0; thread < 4; ++thread) {
-        threads.emplace_back([thread] {
-            for (std::size_t i = 0; i < 4 * Rows().size(); ++i) {
-                const Row& row = Rows()[(i + 3 * thread) % Rows().size()];
-                const bool isRead = row.answer.empty() || &row == &Rows()[0];
-                EXPECT_EQ(row.run(6).result, isRead ? kDone : kNoRecord) << row.name;
-            }
-        });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
 }
 
 }  // namespace

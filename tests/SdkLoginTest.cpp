@@ -6,15 +6,14 @@
 #include <dlfcn.h>
 #include <netdb.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
-#include <filesystem>
 #include <fstream>
 #include <thread>
 
 #include "support/SdkHttp.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {
@@ -239,10 +238,9 @@ TEST_F(SdkLogin, SilentResolverIsNotWaitedForBeyondEitherTimeout)
 TEST_F(SdkLogin, CertificatesAreChecked)
 {
     const TestSupport::TestCertificate certificate;
-    const auto file = std::filesystem::temp_directory_path() /
-                      ("sdkHttpTest" + std::to_string(getpid()) + ".pem");
-    std::ofstream(file) << certificate.Pem();
-    const std::string fileName = file.string();
+    const TestSupport::TemporaryFolder folder;
+    const std::string fileName = folder.File("certificate.pem");
+    std::ofstream(fileName) << certificate.Pem();
     const ScriptedServer server(
         [](const std::string& request, int) {
             return Reply{Holds(request, "Authorization: Basic") ? HttpAnswer(200, "1")
@@ -260,10 +258,9 @@ TEST_F(SdkLogin, CertificatesAreChecked)
     EXPECT_EQ(NET_ORB_GetLastError(), NET_ORB_CERTIFICATE_ERROR) << "of another host";
     info_.certificateFile = "/no/such/file.pem";
     EXPECT_EQ(LoginError(server), NET_ORB_PARAMETER_ERROR);
-    std::ofstream(file) << "no certificate";
+    std::ofstream(fileName) << "no certificate";
     info_.certificateFile = fileName.c_str();
     EXPECT_EQ(LoginError(server), NET_ORB_CERTIFICATE_ERROR) << NET_ORB_GetLastErrorDetail();
-    std::filesystem::remove(file);
 
     info_.certificateFile = nullptr;
     info_.trustAnyCertificate = 1;

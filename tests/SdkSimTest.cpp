@@ -16,6 +16,7 @@
 
 #include "PelNetSDK/Session.h"
 #include "support/SdkCalls.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {
@@ -31,14 +32,12 @@ using TestSupport::Statistics;
 const std::string kLarge = "<Large>" + std::string(10'000 - 15, 'x') + "</Large>";
 const std::string kTime = "<Time><zone>UTC</zone></Time>";
 
-/// A profile folder of its own, removed with the test.
+/// Has its own profile folder.
 class SdkSim : public testing::Test
 {
 protected:
     SdkSim()
     {
-        std::string pattern = (std::filesystem::temp_directory_path() / "sdkSimXXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
         Write("large.xml", kLarge);
         Write("time.xml", kTime);
         Write("manifest.json", R"({"name": "small", "description": "what the tests ask for",
@@ -54,14 +53,14 @@ protected:
         address_ = "sim:" + folder_.string();
         info_.address = address_.c_str();
     }
-    ~SdkSim() override { std::filesystem::remove_all(folder_); }
 
     void Write(const std::string& name, const std::string& text) const
     {
         std::ofstream(folder_ / name) << text;
     }
 
-    std::filesystem::path folder_;
+    const TestSupport::TemporaryFolder temporary_;
+    const std::filesystem::path folder_ = temporary_.Path();
     std::string address_;
     tagNET_ORB_LOGIN_INFO info_{};
 };

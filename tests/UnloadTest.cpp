@@ -16,6 +16,7 @@
 
 #include "CapabilitySet/BasicCapability.h"
 #include "support/SdkCalls.h"
+#include "support/TemporaryFolder.h"
 
 namespace
 {
@@ -23,7 +24,7 @@ namespace
 using CapabilitySet::BasicCapability;
 namespace fs = std::filesystem;
 
-/// A copy of the library in a folder of its own; loaded as long as it lives.
+/// A loaded copy of the library.
 class Copy
 {
 public:
@@ -33,7 +34,7 @@ public:
             fs::copy_file(LIBRARY, file_);
         }
         handle_ = dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL);
-        // The exported query, by its name in the library.
+        // The exported query by its mangled name.
         ask_ = reinterpret_cast<Query*>(
             handle_ == nullptr
                 ? nullptr
@@ -45,7 +46,7 @@ public:
     Copy(const Copy&) = delete;
     Copy& operator=(const Copy&) = delete;
 
-    /// USB sockets of the device; -1 when it did not answer.
+    /// USB sockets of the device; -1 if it does not answer.
     [[nodiscard]] int UsbSockets(int userID) const
     {
         BasicCapability record;
@@ -60,7 +61,7 @@ private:
     Query* ask_ = nullptr;
 };
 
-/// Lines of a file of /proc/self that name the folder, or all.
+/// Number of lines that contain `part` in a file of /proc/self.
 std::size_t Lines(const char* file, const std::string& part)
 {
     std::ifstream lines(std::string("/proc/self/") + file);
@@ -77,7 +78,7 @@ std::size_t EntriesOf(const char* folder)
         std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
 }
 
-/// Loads both copies, asks each from threads that end, and unloads them.
+/// Loads both copies, uses each on threads that end, and unloads them.
 void UseBoth(const fs::path& folder, int userID)
 {
     const Copy first(folder, "first.so");
@@ -98,10 +99,8 @@ void UseBoth(const fs::path& folder, int userID)
 
 TEST(UnloadTest, TwoCopiesLeaveNeitherCodeNorThreadsNorFilesNorMemory)
 {
-    std::string name = (fs::temp_directory_path() / "capabilityset-XXXXXX").string();
-    ASSERT_NE(mkdtemp(name.data()), nullptr);
-    const std::unique_ptr<const std::string, void (*)(const std::string*)> remover(
-        &name, [](const std::string* folder) { fs::remove_all(*folder); });
+    const TestSupport::TemporaryFolder folder;
+    const std::string& name = folder.Path();
     tagNET_ORB_LOGIN_INFO info{};
     info.address = "sim:recorder";
     const TestSupport::LoggedIn session(info);
@@ -112,7 +111,7 @@ TEST(UnloadTest, TwoCopiesLeaveNeitherCodeNorThreadsNorFilesNorMemory)
     for (int round = 0; round < 40; ++round) {
         UseBoth(name, session.UserID());
         EXPECT_EQ(Lines("maps", name), 0U) << "still mapped after round " << round;
-        // The first rounds fill what the process keeps: its loggers, its stacks.
+        // The first rounds create what the process keeps: loggers, stacks.
         if (round == 10) {
             files = EntriesOf("/proc/self/fd");
             threads = EntriesOf("/proc/self/task");
@@ -121,8 +120,8 @@ TEST(UnloadTest, TwoCopiesLeaveNeitherCodeNorThreadsNorFilesNorMemory)
     }
     EXPECT_EQ(EntriesOf("/proc/self/fd"), files);
     EXPECT_EQ(EntriesOf("/proc/self/task"), threads);
-    // What threads leave in the heap's own caches varies by some kilobytes.
-    EXPECT_LE(mallinfo2().uordblks, memory + 32768) << "bytes of the heap";
+    // What threads leave in the heap's caches varies by a few kilobytes.
+    EXPECT_LE(mallinfo2().uordblks, memory + 32768) << "bytes on the heap";
 }
 
 }  // namespace

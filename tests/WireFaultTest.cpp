@@ -1,5 +1,5 @@
-// Faults on the way from a served device to the library: what comes out of each family's
-// operations, that the fault struck, and that the next request is answered.
+// Network faults between a served device and the library: the result of each family's operations,
+// that the fault occurred, and that the next request succeeds.
 // SPDX-License-Identifier: Apache-2.0
 #include <chrono>
 #include <memory>
@@ -94,17 +94,17 @@ struct Row
 {
     const char* name;
     Fault fault;
-    unsigned error = 0;          ///< of those that fail
-    unsigned fails = kAllRoads;  ///< the others do not notice
+    unsigned error = 0;          ///< of the families that fail
+    unsigned fails = kAllRoads;  ///< the others succeed
     std::uint64_t least = 1;     ///< strikes
     std::uint64_t most = 1;
     unsigned families = kAllRoads;
-    bool hasPage = false;  ///< a refusal's text, which the manager takes for one of the device
+    bool hasPage = false;  ///< the refusal has a text, which the manager takes for the device's
 };
 
 constexpr unsigned kShortTimeout = 1000;  // milliseconds
 
-// A package waits two minutes for its answer: it takes no part in what ends by time.
+// A package waits two minutes for its answer, so it is left out where the time-out ends a request.
 const unsigned kInTime = kAllRoads & ~kPackage;
 
 const Row kRows[] = {
@@ -129,7 +129,7 @@ const Row kRows[] = {
      kInTime},
     {"Truncate", {.kind = FaultKind::Truncate, .bytes = 30}, NET_ORB_NETWORK_RECV_ERROR},
     {"TruncateAtOnce", {.kind = FaultKind::Truncate}, NET_ORB_NETWORK_RECV_ERROR},
-    // On a kept connection a question is asked again, once; nothing else is.
+    // On a kept connection a GET is repeated once; nothing else is.
     {"Reset", {.kind = FaultKind::Reset}, NET_ORB_NETWORK_RECV_ERROR, kAllRoads, 1, 2},
     {"ResetOnce",
      {.kind = FaultKind::Reset, .times = 1},

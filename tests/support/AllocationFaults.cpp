@@ -14,7 +14,7 @@
 #include <malloc.h>
 #include <unistd.h>
 
-/// Called while a sanitizer still sets itself up, before it can check anything.
+/// Called while a sanitizer initialises, before it can check anything.
 #define UNCHECKED __attribute__((no_sanitize("address", "undefined", "thread")))
 
 namespace TestSupport
@@ -47,7 +47,7 @@ char* XmlDuplicate(const char* text)
     return AllocationFault::Strikes(AllocationFault::Xml) ? nullptr : strdup(text);
 }
 
-/// As malloc and its kin tell that there is no memory.
+/// Reports a lack of memory as malloc does.
 UNCHECKED void* NoMemory()
 {
     errno = ENOMEM;
@@ -63,7 +63,7 @@ void CountBlock(long change)
     liveBlocksOfThread += change;
 }
 
-/// Stands at the end of each block, behind bytes that nobody may write.
+/// At the end of each block, after bytes that nobody may write.
 struct Seal
 {
     std::size_t size;
@@ -71,7 +71,7 @@ struct Seal
 };
 constexpr std::size_t kSealed = sizeof(Seal) + 8;
 constexpr unsigned char kUntold = 0xA5;
-/// What the beginning of a block holds before it is written and after it was freed.
+/// Fills the beginning of a block before it is written and after it is freed.
 constexpr int kJunk = 0xE5;
 constexpr std::size_t kMostJunk = 64 * 1024;
 
@@ -93,7 +93,7 @@ void* Junk(void* block, std::size_t size)
     return block;
 }
 
-/// Takes a block that was asked for with kSealed bytes more.
+/// Seals a block that was allocated with kSealed extra bytes.
 void* Sealed(void* block, std::size_t size)
 {
     if (block == nullptr) {
@@ -107,8 +107,8 @@ void* Sealed(void* block, std::size_t size)
     return block;
 }
 
-/// Ends the program when something was written behind the block; gives its size, 0 for one that
-/// another function than those below has allocated, since it bears no seal.
+/// Ends the program if something was written beyond the block. Returns its size, or 0 if it has no
+/// seal because none of the functions below allocated it.
 std::size_t BreakSeal(void* block)
 {
     Seal seal{};
@@ -191,7 +191,7 @@ void HookXmlAllocations()
 // NOLINTBEGIN(readability-identifier-naming,bugprone-reserved-identifier): the C library's names
 extern "C"
 {
-    // A sanitizer's own, where there is one, so that it goes on seeing every block.
+    // The sanitizer's, if there is one, so that it still sees every block.
     __attribute__((weak)) void* __interceptor_malloc(std::size_t size);
     __attribute__((weak)) void* __interceptor_calloc(std::size_t count, std::size_t size);
     __attribute__((weak)) void* __interceptor_realloc(void* block, std::size_t size);

@@ -10,8 +10,8 @@
 namespace TestSupport
 {
 
-/// While one lives, the calling thread's allocation of this ordinal, counted from 1, fails, and
-/// every later one too when `andLater`.
+/// During its lifetime, the calling thread's allocation of this ordinal, counted from 1, fails, and
+/// with `andLater` every later one too.
 class AllocationFault
 {
 public:
@@ -19,22 +19,22 @@ public:
     {
         New,
         Xml,
-        Curl,  ///< of a test that hands libcurl allocators which ask Strikes
-        Any    ///< whatever asks for memory: these two, JsonCpp's texts, the logger's pools
+        Curl,  ///< libcurl's, if the test gives it allocators that call Strikes
+        Any    ///< all, including JsonCpp's texts and the logger's pools
     };
     AllocationFault(Of which, std::size_t ordinal, bool andLater = false);
     ~AllocationFault();
     AllocationFault(const AllocationFault&) = delete;
     AllocationFault& operator=(const AllocationFault&) = delete;
 
-    /// Whether an allocation was made to fail.
+    /// Whether an allocation has failed.
     [[nodiscard]] static bool Struck();
 
-    /// Whether the allocation that the caller is about to make fails.
+    /// Whether the caller's next allocation must fail.
     static bool Strikes(Of which);
 };
 
-/// Allocations succeed, uncounted, while one lives: for what is not under test.
+/// During its lifetime allocations succeed and are not counted: for code that is not under test.
 class NoAllocationFaults
 {
 public:
@@ -47,23 +47,23 @@ private:
     bool before_;
 };
 
-/// Blocks of memory that are allocated and not freed: all, or the calling thread's less those that
-/// it has freed for others. Without a sanitizer, writing behind the end of one ends the program
+/// Blocks of memory that are allocated and not freed: all, or the calling thread's minus those that
+/// it freed for others. Without a sanitizer, a write beyond the end of a block ends the program
 /// when the block is freed.
 long LiveBlocks();
 long LiveBlocksOfThread();
 
-/// Hooks libxml2's allocations; before anything else is done with it.
+/// Hooks libxml2's allocations; call it before any other use of libxml2.
 void HookXmlAllocations();
 
-/// Makes each allocation of `act` fail in turn, alone and with all that follow, and hands what
-/// `act` gives to `check`, with whether an allocation failed; `check` also runs `act` or its like,
-/// so that what is kept is there again. Gives the number of allocations.
+/// Makes each allocation of `act` fail in turn, alone and with all later ones, and passes the
+/// result of `act` to `check`, with whether an allocation failed. `check` also runs `act` or
+/// something similar, so that what is cached exists again. Returns the number of allocations.
 template <class Act, class Check>
 std::size_t FailEachAllocation(Act act, Check check)
 {
     std::size_t points = 0;
-    act();  // what is made once for the process is made now
+    act();  // creates what is created once per process
     for (const bool andLater : {false, true}) {
         bool struck = true;
         for (std::size_t ordinal = 1; struck && !testing::Test::HasFailure(); ++ordinal) {

@@ -1,4 +1,4 @@
-// Faults of the client around the library: its settings, call-backs, appenders and threads.
+// Faults of the client around the library: settings, callbacks, appenders and threads.
 // SPDX-License-Identifier: Apache-2.0
 #include <locale>
 #include <sstream>
@@ -27,7 +27,7 @@ std::unique_ptr<Condition> Make()
     return std::make_unique<Kind>();
 }
 
-/// Counts the calls during which it is in force.
+/// Counts the calls during which it is in effect.
 struct CountingCondition : Condition
 {
     CountingCondition()
@@ -39,7 +39,7 @@ struct CountingCondition : Condition
     virtual bool IsInForce() { return true; }
 };
 
-/// Defaults and handlers of libxml2 that the client chose for documents of its own.
+/// libxml2 defaults and handlers that the client set for its own documents.
 struct LibxmlSettings : CountingCondition
 {
     LibxmlSettings()
@@ -82,7 +82,7 @@ struct LibxmlSettings : CountingCondition
     int handled = 0;
 };
 
-/// Any look outside, while the client's settings allow it or not.
+/// Fails if a document's file or address is accessed.
 template <class Settings>
 struct Watched : Settings
 {
@@ -90,7 +90,7 @@ struct Watched : Settings
     ~Watched() override { EXPECT_EQ(OutsideWatch::Instance().Seen(), ""); }
 };
 
-/// A global locale with decimal commas and points between thousands.
+/// A global locale with decimal commas and points as thousands separators.
 struct GroupingLocale : CountingCondition
 {
     struct Punctuation : std::numpunct<char>
@@ -141,7 +141,7 @@ struct BrokenLog : Condition
     std::shared_ptr<ThrowingAppender> appender = std::make_shared<ThrowingAppender>();
 };
 
-/// Another thread fails in another way after each call, before the caller asks for the error.
+/// After each call, before the caller reads the error, another thread fails differently.
 struct FailureElsewhere : Condition
 {
     FailureElsewhere()
@@ -186,7 +186,7 @@ FaultRow CallBackRow(const char* name, const SdkStep& step)
             .around = Make<ThrowingCallBack<kWhich>>};
 }
 
-/// Whether an answer holds 1.5 or the like, which JsonCpp itself refuses under such a locale.
+/// Whether an answer contains a decimal number, which JsonCpp rejects under such a locale.
 bool HoldsDecimals(const std::string& text)
 {
     for (std::size_t at = 1; at + 1 < text.size(); ++at) {
@@ -202,7 +202,7 @@ std::vector<Steps> PlaySound(const Subject& subject)
     return {Steps{Sound(subject)}};
 }
 
-/// Twice: what a library keeps for its next document was made anew after the first.
+/// Twice: what is kept for the next document was created again after the first.
 std::vector<Steps> PlayBroken(const Subject& subject)
 {
     SdkStep broken = Sound(subject);
@@ -215,7 +215,7 @@ std::vector<Steps> PlayFailure(const Subject&)
     return {Steps{{.error = 7}}};
 }
 
-/// Documents that name a file and an address of our own.
+/// Documents that refer to a watched file and address.
 FaultRow OutsideRow(const char* name, Comes comes, std::vector<std::string> types,
                     std::unique_ptr<Condition> (*around)())
 {
@@ -297,7 +297,7 @@ std::vector<FaultRow> ClientFaults()
         OutsideRow("ExternalEntity", Comes::Unread, kEntities, Make<Watched<CountingCondition>>),
         OutsideRow("ExternalEntityUnderTheClientsSettings", Comes::Unread, kEntities,
                    Make<Watched<LibxmlSettings>>),
-        // A document type that stands elsewhere is no reason to refuse what it names.
+        // A document with an external subset is not refused.
         OutsideRow("ExternalSubset", Comes::Survives, kSubsets, Make<Watched<CountingCondition>>),
         OutsideRow("ExternalSubsetUnderTheClientsSettings", Comes::Survives, kSubsets,
                    Make<Watched<LibxmlSettings>>),

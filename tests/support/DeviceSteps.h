@@ -1,4 +1,4 @@
-// Simulated devices under test: requests handed to a model, and logins for the library to ask.
+// Simulated devices under test: requests to a model, and logins for the library.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -24,7 +24,7 @@ inline std::shared_ptr<Device::DeviceModel> LoadDevice(const std::string& profil
     return model ? model : throw std::runtime_error(error);
 }
 
-/// The path below /TARN/ as a target that asks for JSON.
+/// The request target of a path below /TARN/, asking for JSON.
 inline std::string Target(const std::string& path)
 {
     return "/TARN/" + path + (path.find('?') == std::string::npos ? "?" : "&") + "format=json";
@@ -64,7 +64,7 @@ enum class Road
     Http  ///< over the loopback, with a password
 };
 
-/// A device of a profile and a login to it, for the library to ask.
+/// A device of a profile and a login to it.
 class Asked
 {
 public:
@@ -84,7 +84,7 @@ public:
     Asked& operator=(const Asked&) = delete;
     operator int() const { return login_->UserID(); }
 
-    /// For another login to it; in this process each login has a device of its own.
+    /// For another login to it; in process each login has its own device.
     [[nodiscard]] const tagNET_ORB_LOGIN_INFO& Info() const { return info_; }
 
     void SetFaults(std::vector<Device::Fault> faults)
@@ -95,7 +95,7 @@ public:
         }
     }
     [[nodiscard]] std::vector<std::uint64_t> FaultCounts() const { return server_->FaultCounts(); }
-    /// Ends the serving; what was asked of it until then, the login's questions too.
+    /// Stops serving; returns the requests so far, including those of the login.
     std::vector<Device::ServedRequest> EndServing()
     {
         server_->Stop();
@@ -124,7 +124,7 @@ private:
     std::unique_ptr<LoggedIn> login_;
 };
 
-/// Tests of what a client meets whichever way it reaches a device.
+/// Tests that apply however a client reaches a device.
 class OnEveryRoad : public testing::TestWithParam<Road>
 {
 protected:

@@ -1,4 +1,4 @@
-// Faults of answers: what comes is no document, or not what it seems.
+// Faults of answers: not a document, or not what it seems.
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 #include <cctype>
@@ -22,7 +22,7 @@ SdkStep Answer(std::string text)
     return {.answer = std::move(text), .returnedSize = size, .needsRoom = true, .isFault = true};
 }
 
-/// Spoiled documents that are none of the record in either form.
+/// Spoiled documents that neither the XML nor the JSON reader accepts.
 constexpr std::string_view kUnread[] = {"malformed",
                                         "truncated1",
                                         "truncated10",
@@ -53,7 +53,7 @@ constexpr std::string_view kUnread[] = {"malformed",
                                         "htmlPage",
                                         "otherForm"};
 
-/// Those that are none in XML, while a JSON reader makes something of them.
+/// Those that only the JSON reader accepts.
 constexpr std::string_view kUnreadXml[] = {"undeclaredGbk", "brokenUtf8", "manyAttributes"};
 
 template <class Names>
@@ -83,7 +83,7 @@ FaultRow SpoiledRow(const Device::HostileCase& hostile)
                                           ? MakeHostileJson(hostile, subject.root, subject.sound)
                                           : MakeHostileXml(hostile, subject.root, subject.sound))}};
                  }};
-    // For every operation but where that would take minutes, or needs more than a small document.
+    // Every operation, unless that takes minutes or needs more than a small document.
     const std::set<std::string_view> large{"oversized",      "nestedMillion",  "longText",
                                            "manyAttributes", "flatEntityBomb", "unknownElements"};
     row.everyOperation =
@@ -91,7 +91,7 @@ FaultRow SpoiledRow(const Device::HostileCase& hostile)
     return row;
 }
 
-/// Each value of a JSON tree replaced by values of every other kind, one at a time.
+/// Replaces each value of a JSON tree by values of every other kind, one at a time.
 void OfOtherKinds(Json::Value& root, Json::Value& value, std::vector<Steps>& scripts)
 {
     const Json::Value before = value;

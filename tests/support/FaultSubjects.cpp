@@ -159,7 +159,7 @@ bool IsSameRecord(const Record& a, const Record& b)
     return SameFields(a, b);
 }
 
-/// An operation whose record is compared with what the document, `content` in its root, holds.
+/// An operation whose record is compared with `content`, the document without its root.
 template <class Record, class Query>
 Subject Filled(const char* name, const std::string& content, Query query)
 {

@@ -1,4 +1,4 @@
-// The operations that faults are tried on, whatever road to the device they take.
+// The operations that faults are tried on.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -14,13 +14,13 @@
 namespace TestSupport
 {
 
-/// What the caller's record or text holds after a call.
+/// The content of the caller's record or text after a call.
 enum class Held
 {
-    Defaults,  ///< or what the caller had there, where a failure leaves it alone
+    Defaults,  ///< or the caller's own content, where a failure leaves it unchanged
     Whole,     ///< all of the sound answer
     Other,
-    Unknown  ///< the answer is not read, or appended to what was there
+    Unknown  ///< the answer is not read, or is appended
 };
 
 struct Given
@@ -28,7 +28,7 @@ struct Given
     bool success = false;
     unsigned err = 0;
     Held held = Held::Unknown;
-    std::string bytes{};  ///< of a raw road
+    std::string bytes{};  ///< for raw operations
 };
 
 struct Subject
@@ -36,7 +36,7 @@ struct Subject
     std::string name;
     Family family = kTransparent;
     Policy policy{16384, 16384, 16384000, false, false};
-    std::string sound;   ///< an answer that is read whole
+    std::string sound;   ///< an answer that is read completely
     std::string root{};  ///< its root element, or the only member of its object
     std::function<Given()> ask{};
     bool needsFlag = false;
@@ -57,10 +57,10 @@ struct Subject
 /// Every operation over the SDK.
 std::vector<Subject> AllOperations();
 
-/// One or two of every family, with documents that fill their records.
+/// One or two of each family, with documents that fill their records.
 std::vector<Subject> FamilyModels();
 
-/// What the manager of transparent requests told of its last request.
+/// What the transparent manager reported about its last request.
 struct ManagerReport
 {
     int type = 0;
@@ -79,7 +79,7 @@ enum class CallBack
     XmlError,
     XmlErrorTrans
 };
-/// The call-back of the manager that throws, and how often it did.
+/// Which of the manager's callbacks throws, and how often it did.
 extern CallBack throwingCallBack;
 extern unsigned callBacksThrown;
 

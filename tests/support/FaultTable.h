@@ -1,4 +1,4 @@
-// The faults of an SDK, of devices behind it and of the client around it, as rows of one table.
+// Faults of an SDK, of devices and of the surrounding client, as rows of one table.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -16,20 +16,20 @@
 namespace TestSupport
 {
 
-/// What becomes of an operation.
+/// The expected result of an operation.
 enum class Comes
 {
     Sound,     ///< as if nothing had happened
-    Unread,    ///< an answer that is no document: defaults, and 23 where the record's flag counts
+    Unread,    ///< not a document: defaults, and 23 where the record's flag is checked
     Part,      ///< success, with some of the answer
     Survives,  ///< success with anything, or 23 with defaults
-    Fails,     ///< the row's error, and defaults
-    TooSmall,  ///< 43 when the row's error makes the buffer grow, else that error; defaults
-    Told,      ///< a refusal of the device, told to the manager's call-backs
+    Fails,     ///< the row's error and defaults
+    TooSmall,  ///< 43 if the row's error makes the buffer grow, else that error; defaults
+    Told,      ///< a refusal, reported to the manager's callbacks
     NoChannel  ///< nothing is sent
 };
 
-/// Something around the calls, in force as long as it lives; it counts its own strikes.
+/// A condition that holds during its lifetime; it counts how often it took effect.
 struct Condition
 {
     Condition() = default;
@@ -44,7 +44,7 @@ struct Condition
 
 using Steps = std::vector<SdkStep>;
 
-/// Strikes whose number is nobody's business, but at least one.
+/// For faults that occur at least once.
 inline unsigned SomeStrikes(const Subject& /*subject*/)
 {
     return UINT_MAX;
@@ -57,15 +57,15 @@ struct FaultRow
     Comes xml = Comes::Sound;
     Comes json = Comes::Sound;
     Comes raw = Comes::Sound;
-    /// The scripts to be tried, one after the other; their faults are marked.
+    /// The scripts to try, one after the other; their faults are marked.
     std::function<std::vector<Steps>(const Subject&)> play;
-    /// How often each script's faults strike; none: once.
+    /// How often each script's faults occur; empty: once.
     std::function<unsigned(const Subject&)> strikes{};
     unsigned error = 0;
-    bool everyOperation = false;  ///< not the models of the families alone
+    bool everyOperation = false;  ///< try every operation, not only one or two per family
     std::function<void(ScriptedSdk&)> prepare{};
     std::function<std::unique_ptr<Condition>()> around{};
-    std::optional<std::pair<int, int>> lastError{};  ///< in place of that of the error
+    std::optional<std::pair<int, int>> lastError{};  ///< if it is not the error's
     std::function<void(const Subject&, const LogCapture&)> check{};
 };
 
@@ -83,7 +83,7 @@ inline SdkStep Sound(const Subject& subject)
 }
 
 std::vector<FaultRow> SdkFaults();       ///< error numbers, sizes, statuses, channels
-std::vector<FaultRow> DocumentFaults();  ///< answers that are none, or not what they seem
+std::vector<FaultRow> DocumentFaults();  ///< answers that are not what they seem
 std::vector<FaultRow> ClientFaults();    ///< what the client around the library does
 
 }  // namespace TestSupport

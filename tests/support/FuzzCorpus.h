@@ -1,4 +1,4 @@
-// Runs the targets of the fuzzers over what is kept for them, and over small changes of it.
+// Runs the fuzz targets over seeds and finds, and over small changes of them.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -24,7 +24,7 @@ struct FuzzTarget
     void (*run)(const std::string& text);
 };
 
-/// A program with targets instantiates this suite as "Targets".
+/// A program instantiates this suite with its targets as "Targets".
 class FuzzCorpusTest : public testing::TestWithParam<FuzzTarget>
 {
 protected:

@@ -1,4 +1,4 @@
-// The operations of the protocol's JSON flavour, from their tables.
+// The JSON operations, collected from their tables.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/JsonOperations.h"
 

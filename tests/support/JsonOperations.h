@@ -1,4 +1,4 @@
-// The operations of the protocol's JSON flavour as rows of tables.
+// The JSON operations as rows of tables.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -13,7 +13,7 @@
 namespace TestSupport
 {
 
-/// What became of an operation whose record was in use before.
+/// The result of an operation whose record was used before.
 struct JsonAnswered
 {
     bool result = false;
@@ -65,16 +65,16 @@ JsonAnswered AskJsonInto(const char* before, Query query)
 JsonOperationRow JsonRow(const char* name, std::function<JsonAnswered(const char*)> ask,
                          std::string request, const char* answer, const std::string& body = {});
 
-/// A row of an operation: its record, its arguments in brackets, its request, an answer, its body.
+/// A row: record, arguments in parentheses, request, answer, body.
 #define JSON_ROW(App, operation, Record, arguments, ...)                                   \
     TestSupport::JsonRow(#App "::" #operation, ASK_JSON(Record, App::operation arguments), \
                          __VA_ARGS__)
 
-/// The same of one that takes nothing but the user.
+/// The same for an operation that takes only the user.
 #define JSON_QUERY_ROW(App, operation, Record, ...) \
     JSON_ROW(App, operation, Record, (out, err, kUser), __VA_ARGS__)
 
-// One table a file.
+// One table per file.
 std::vector<JsonOperationRow> JsonCapabilityRows();
 std::vector<JsonOperationRow> AlarmHostRows();
 std::vector<JsonOperationRow> JsonConfigRows();

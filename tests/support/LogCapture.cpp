@@ -1,4 +1,4 @@
-// Collects what is logged while it lives.
+// Collects log lines during its lifetime.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/LogCapture.h"
 

@@ -1,4 +1,4 @@
-// Collects what is logged while it lives.
+// Collects log lines during its lifetime.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -19,7 +19,7 @@ struct LogLine
     int line = 0;
 };
 
-/// Takes the place of log4cxx's configuration: everything goes here, and nowhere else.
+/// Replaces log4cxx's configuration: all lines come here and go nowhere else.
 class LogCapture
 {
 public:

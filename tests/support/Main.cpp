@@ -1,4 +1,4 @@
-// The main function of tests that parse XML, in several threads or with failing allocations.
+// The main function of tests that parse XML on several threads or with failing allocations.
 // SPDX-License-Identifier: Apache-2.0
 #include <gtest/gtest.h>
 #include <libxml/parser.h>

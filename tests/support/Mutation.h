@@ -1,4 +1,4 @@
-// Small changes of XML and JSON documents, of bytes and of what the bytes stand for.
+// Small changes to XML and JSON documents, to bytes and to structure.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -14,21 +14,21 @@
 namespace TestSupport
 {
 
-/// Part of a document: from its first byte to behind its last.
+/// Part of a document: its first byte and the one after its last.
 struct Span
 {
     std::size_t begin;
     std::size_t end;
 };
 
-/// An XML element, or a member or entry in JSON, and where its name stands.
+/// An XML element, or a JSON member or entry, and the position of its name.
 struct Piece
 {
     Span whole;
     std::vector<Span> names{};
 };
 
-/// Well-formed or not: what looks like elements.
+/// Whatever looks like an element, well-formed or not.
 inline std::vector<Piece> XmlPieces(const std::string& text)
 {
     std::vector<Piece> pieces;
@@ -95,7 +95,7 @@ inline std::vector<Piece> JsonPieces(const std::string& text)
     return pieces;
 }
 
-/// Changes documents; two of one seed make the same changes.
+/// Changes documents; the same seed makes the same changes.
 class Mutation
 {
 public:
@@ -167,7 +167,7 @@ private:
         text.replace(begin, end - begin, kExtremes[Below(std::size(kExtremes))]);
     }
 
-    /// Duplicates a piece, or makes two change places or names.
+    /// Duplicates a piece, or swaps the places or names of two.
     void ChangePieces(std::string& text)
     {
         const std::vector<Piece> pieces = isJson_ ? JsonPieces(text) : XmlPieces(text);
@@ -205,7 +205,7 @@ private:
     bool isJson_;
 };
 
-/// The smallest text for which `holds` that leaving out stretches of `text` leads to.
+/// Shortens `text` as far as possible by leaving out stretches while `holds` stays true.
 template <class Holds>
 std::string Smallest(std::string text, Holds holds)
 {

@@ -1,11 +1,11 @@
-// The families of operations, by the way they ask a device and what they do with its answer.
+// Families of operations, by how they ask a device and what they do with its answer.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 namespace TestSupport
 {
 
-/// Families can be put together.
+/// Flags that can be combined.
 enum Family : unsigned
 {
     kDeviceAbility = 1,
@@ -17,7 +17,7 @@ enum Family : unsigned
     kManager = 64,
     kXmlRoads = kDeviceAbility | kStandardAbility | kTransparent,
     kJsonRoads = kJson | kAlarmHost,
-    kRawRoads = kPackage | kManager,  ///< the answer is handed over, not read
+    kRawRoads = kPackage | kManager,  ///< the answer is returned unread
     kAllRoads = kXmlRoads | kJsonRoads | kRawRoads
 };
 

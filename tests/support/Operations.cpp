@@ -50,7 +50,7 @@ Answered AskInto(Query query)
     return answered;
 }
 
-/// Made ahead: an argument is its caller's memory, not the operation's.
+/// Created in advance: an argument's memory is the caller's, not the operation's.
 const std::vector<int> kTwoChannels{4, 2};
 
 constexpr Policy kDevice{8192, 8192, 81920};
@@ -62,7 +62,7 @@ std::string Bytes(unsigned channel)
     return {reinterpret_cast<const char*>(&channel), sizeof channel};
 }
 
-/// The row of a query in a file, with its arguments; its record is read from any element.
+/// The row of a query in a file, with its arguments; any element fills its record.
 #define ROW(file_, Record, query, arguments, kind_, code_, request_, policy_, tag)                 \
     OperationRow                                                                                   \
     {                                                                                              \
@@ -82,7 +82,7 @@ std::string Bytes(unsigned channel)
 #define TRANSPARENT_ROW(file, Record, query, arguments, line) \
     ROW(file, Record, query, arguments, Transparent, 0, line, kTransparent, "[kelvar]")
 
-/// A row that differs from its like.
+/// A row that differs from the others.
 template <class Change>
 OperationRow But(OperationRow row, Change change)
 {

@@ -18,7 +18,7 @@ namespace TestSupport
 
 inline constexpr int kUser = 5;
 
-/// What became of a query whose record was in use before.
+/// The result of a query whose record was used before.
 struct Answered
 {
     bool result = false;
@@ -55,7 +55,7 @@ struct OperationRow
 
 std::span<const OperationRow> Operations();
 
-/// Module and code of the last error that an operation finds.
+/// Module and code of the last error.
 inline constexpr std::pair kUntouched{1, 2};
 
 inline std::pair<int, int> LastError()
@@ -64,7 +64,7 @@ inline std::pair<int, int> LastError()
     return {last.module, last.code};
 }
 
-/// Runs a check on every operation, each with a fresh SDK that answers `steps`.
+/// Runs a check on every operation, each with a new SDK that answers `steps`.
 template <class Rows, class Check>
 void ForEachRow(const Rows& rows, const std::vector<SdkStep>& steps, Check check)
 {

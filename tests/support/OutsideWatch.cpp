@@ -1,4 +1,4 @@
-// Watches a file of its own with inotify, and a socket of its own by listening.
+// Watches a file with inotify and a port by listening.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/OutsideWatch.h"
 
@@ -34,7 +34,7 @@ OutsideWatch& OutsideWatch::Instance()
 }
 
 OutsideWatch::OutsideWatch()
-    : file_(testing::TempDir() + "outside" + std::to_string(getpid())),
+    : file_(folder_.File("outside")),
       notify_(inotify_init1(IN_NONBLOCK)),
       listener_(socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0))
 {
@@ -52,7 +52,6 @@ OutsideWatch::~OutsideWatch()
 {
     close(notify_);
     close(listener_);
-    unlink(file_.c_str());
 }
 
 std::string OutsideWatch::Address() const

@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "support/TemporaryFolder.h"
+
 namespace TestSupport
 {
 
@@ -26,6 +28,7 @@ public:
 private:
     OutsideWatch();
 
+    TemporaryFolder folder_;
     std::string file_;
     int notify_ = -1;
     int listener_ = -1;

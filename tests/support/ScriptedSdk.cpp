@@ -1,4 +1,4 @@
-// An SDK that answers from a script and notes every call.
+// An SDK that answers from a script and records every call.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ScriptedSdk.h"
 
@@ -24,7 +24,7 @@ bool AllZero(const Bytes* bytes, std::size_t size)
     return size == 0 || (begin[0] == 0 && std::memcmp(begin, begin + 1, size - 1) == 0);
 }
 
-/// Of a large buffer only the ends are looked at: reading a mapping costs its pages.
+/// Checks only the ends of a large buffer: reading a mapping allocates its pages.
 bool LooksZeroed(const char* buffer, std::size_t size)
 {
     constexpr std::size_t kEnd = 64 * 1024;
@@ -44,7 +44,7 @@ void Write(void* buffer, unsigned size, const std::string& text)
     }
 }
 
-/// Where a call takes its answer from, and where it goes.
+/// The source and the destination of a call's answer.
 struct Buffers
 {
     void* answer;
@@ -54,7 +54,7 @@ struct Buffers
     unsigned statusSize = 0;
 };
 
-/// Whether all that the step says went to the caller, so that a fault of it has struck.
+/// Whether the whole step reached the caller, so that its fault has occurred.
 bool Reaches(const SdkStep& step, const Buffers& to)
 {
     return (step.error != 0 || step.answer.size() <= to.size) &&
@@ -74,7 +74,7 @@ void Write(const SdkStep& step, const Buffers& to)
     }
 }
 
-/// What answers the call.
+/// The step that answers the call.
 const SdkStep& StepFor(ScriptedSdk& sdk, const SdkCall& call, unsigned size, SdkStep& made)
 {
     made = {};
@@ -91,7 +91,7 @@ const SdkStep& StepFor(ScriptedSdk& sdk, const SdkCall& call, unsigned size, Sdk
     return made;
 }
 
-/// Notes the call and plays the next step into the buffers.
+/// Records the call and writes the next step into the buffers.
 int Play(SdkCall call, const Buffers& to)
 {
     ScriptedSdk& sdk = ScriptedSdk::Instance();

@@ -1,4 +1,4 @@
-// An SDK that answers from a script and notes every call: linked in place of the bundled one.
+// An SDK that answers from a script and records every call; linked instead of the bundled one.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -37,36 +37,37 @@ struct SdkCall
     bool isWellFilled = true;  ///< the structures' size fields, and everything unused zero
 };
 
-/// What a call answers: an error, or a text.
+/// The answer to a call: an error or a text.
 struct SdkStep
 {
     unsigned error = 0;
     std::string answer{};
     std::string status{};       ///< goes to the status buffer, if there is one
     bool fills = false;         ///< fills the buffer to its last byte, without a NUL
-    unsigned returnedSize = 0;  ///< what the SDK says of the answer's size
-    bool needsRoom = false;     ///< answers 43 and its size, without a step, until the answer fits
-    bool isFault = false;       ///< counted in `struck` when it reached the caller
+    unsigned returnedSize = 0;  ///< the size that the SDK reports
+    bool needsRoom =
+        false;  ///< returns 43 and its size, without taking a step, until the answer fits
+    bool isFault = false;  ///< counted in `struck` once it has reached the caller
 };
 
 /// The script. Set it before calls are made; calls may come from many threads.
 struct ScriptedSdk
 {
-    std::vector<SdkStep> steps;             ///< one a call; the last one answers all further calls
+    std::vector<SdkStep> steps;  ///< one per call; the last one answers all further calls
     std::map<unsigned, std::string> texts;  ///< answers by ability code, before any step
-    std::map<int, unsigned> userErrors;     ///< these users' calls fail so, before any step
-    std::function<void()> onCall;           ///< runs at the end of each call that took a step
-    std::optional<int> modelCode;           ///< none: the outputs of the model code are left alone
+    std::map<int, unsigned> userErrors;  ///< calls of these users fail with this, before any step
+    std::function<void()> onCall;        ///< runs at the end of each call that took a step
+    std::optional<int> modelCode;        ///< none: leaves the outputs of the model code unchanged
     int deviceCode = 7;
     int channelStep = 32;        ///< added by the channel conversion
     unsigned channelError = 0;   ///< the conversion fails with this
     std::vector<SdkCall> calls;  ///< kept only while `keepsCalls`
     bool keepsCalls = true;
-    bool countsModelCodes = false;  ///< a question for the model code counts as a fault
+    bool countsModelCodes = false;  ///< a query for the model code counts as a fault
     unsigned struck = 0;            ///< faults so far, of steps and of the channel conversion
 
     static ScriptedSdk& Instance();
-    /// Back to an SDK without a script.
+    /// Resets the script.
     static ScriptedSdk& Fresh();
 };
 

@@ -25,14 +25,14 @@ namespace
 using std::chrono::milliseconds;
 constexpr milliseconds kTick{20};
 
-/// Whether a byte can be read within a tick.
+/// Whether a byte arrives within a tick.
 bool Readable(int socket)
 {
     pollfd entry{socket, POLLIN, 0};
     return poll(&entry, 1, static_cast<int>(kTick.count())) > 0;
 }
 
-/// Bytes of the request at the beginning of the text, 0 when it is not complete yet.
+/// Length of the request at the beginning of the text; 0 if it is incomplete.
 std::size_t RequestSize(const std::string& text)
 {
     const std::size_t end = text.find("\r\n\r\n");
@@ -57,7 +57,7 @@ std::string HttpAnswer(int status, const std::string& body, const std::string& h
            "\r\n" + body;
 }
 
-/// A socket, plain or with TLS over it.
+/// A socket, plain or with TLS.
 class ScriptedServer::Channel
 {
 public:
@@ -100,7 +100,7 @@ public:
         }
         return true;
     }
-    /// Closing will send a reset in place of an orderly end.
+    /// Closing will send a reset instead of an orderly end.
     void ResetOnClose() const
     {
         const linger now{1, 0};
@@ -132,7 +132,7 @@ ScriptedServer::ScriptedServer(Script script, const TestCertificate* certificate
       certificate_(certificate),
       listener_(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
 {
-    // SSL_write knows no MSG_NOSIGNAL, and clients that hang up are the point of some tests.
+    // SSL_write has no MSG_NOSIGNAL, and some tests are about clients that hang up.
     std::signal(SIGPIPE, SIG_IGN);
     sockaddr_in address{};
     address.sin_family = AF_INET;
@@ -235,7 +235,7 @@ void ScriptedServer::Send(Channel& channel, const Reply& reply) const
     }
 }
 
-/// False when the server stops meanwhile.
+/// False if the server stops meanwhile.
 bool ScriptedServer::Wait(milliseconds time) const
 {
     const auto end = std::chrono::steady_clock::now() + time;

@@ -1,4 +1,4 @@
-// A loopback server that answers with exactly the bytes a test tells it to.
+// A loopback server that sends exactly the bytes that a test specifies.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -25,23 +25,23 @@ struct Reply
         Reset
     };
 
-    std::string bytes;                   ///< sent as they are
+    std::string bytes;                   ///< sent unchanged
     Then then = Then::KeepOpen;          ///< afterwards
     std::chrono::milliseconds delay{0};  ///< before the first byte
     std::size_t drip = 0;                ///< bytes sent every 20 ms; 0: all at once
 };
 
-/// "HTTP/1.1 <status>" with a length, more header lines (each ended by "\r\n") and a body.
+/// "HTTP/1.1 <status>" with a length, further header lines (each ending in "\r\n") and a body.
 std::string HttpAnswer(int status, const std::string& body = "", const std::string& headers = "");
 
 class ScriptedServer
 {
 public:
-    /// Called for each request (its raw text, head and body) and its number from 0, from the
-    /// threads of the connections.
+    /// Called with each request (raw text, head and body) and its number from 0, on the
+    /// connection's thread.
     using Script = std::function<Reply(const std::string& request, int number)>;
 
-    /// Listens on a free port of 127.0.0.1; over TLS when there is a certificate.
+    /// Listens on a free port of 127.0.0.1, with TLS if there is a certificate.
     explicit ScriptedServer(Script script, const TestCertificate* certificate = nullptr);
     ~ScriptedServer();
     ScriptedServer(const ScriptedServer&) = delete;

@@ -1,4 +1,4 @@
-// Calls of the SDK's C interface in the form that tests want.
+// Wraps calls of the SDK's C interface for tests.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace TestSupport
 {
 
-/// What a request gave back.
+/// The result of a request.
 struct Outcome
 {
     bool success = false;
@@ -99,7 +99,7 @@ inline tagNET_ORB_STATISTICS Statistics()
     return statistics;
 }
 
-/// Logged in as long as it lives.
+/// Logged in during its lifetime.
 class LoggedIn
 {
 public:

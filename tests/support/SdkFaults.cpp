@@ -17,7 +17,7 @@ using testing::IsEmpty;
 
 constexpr unsigned kManagerNeeds = 3000;
 
-/// Too small `times` times, then sound.
+/// Too small `times` times, then a sound answer.
 auto TooSmall(unsigned error, unsigned times)
 {
     return [=](const Subject& subject) {
@@ -42,13 +42,13 @@ auto TooSmall(unsigned error, unsigned times)
 
 unsigned AttemptsOf(const Subject& subject)
 {
-    // The manager grows to the size it is told, and gives up when that was not enough.
+    // The manager grows to the reported size and gives up if that was not enough.
     return subject.Is(kManager)
                ? 2
                : (subject.policy.limit - subject.policy.start) / subject.policy.step + 1;
 }
 
-/// Where the number makes the buffer grow.
+/// For operations whose buffer grows on this number.
 auto WhereItGrows(unsigned error, unsigned times)
 {
     return [=](const Subject& subject) {
@@ -62,7 +62,7 @@ auto Play(SdkStep step)
     return [step](const Subject&) { return std::vector<Steps>{Steps{step}}; };
 }
 
-/// Sound answers with something about them.
+/// Sound answers with one change.
 template <class Change>
 auto Changed(Change change)
 {
@@ -118,7 +118,7 @@ const char* FailedCall(const Subject& subject)
                                           : "NET_ORB_STDXMLConfig";
 }
 
-/// The lines of a failure with a known model code, and their place.
+/// Checks the log lines of a failure with a known model code, and their source location.
 void CheckFailureLines(const Subject& subject, const LogCapture& log)
 {
     if (!subject.setsLastError) {
@@ -272,7 +272,7 @@ void AddSizes(std::vector<FaultRow>& rows)
                     .play = ReturnedSize([](unsigned) { return UINT_MAX; })});
 }
 
-/// A status text beside an answer, or beside an error.
+/// A status text with an answer or an error.
 FaultRow StatusRow(const char* name, SdkStep step, Comes comes,
                    std::function<void(const Subject&, const LogCapture&)> check)
 {

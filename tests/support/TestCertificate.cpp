@@ -1,4 +1,4 @@
-// Making a key and a self-signed certificate with OpenSSL.
+// Creates a key and a self-signed certificate with OpenSSL.
 // SPDX-License-Identifier: Apache-2.0
 #include "support/TestCertificate.h"
 

@@ -1,4 +1,4 @@
-// A self-signed certificate for 127.0.0.1, made on the spot.
+// Creates a self-signed certificate for 127.0.0.1.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -15,9 +15,9 @@ class TestCertificate
 public:
     TestCertificate();
 
-    /// For servers that show the certificate; owned here.
+    /// For servers that present the certificate; owned by this object.
     [[nodiscard]] SSL_CTX* Context() const { return context_.get(); }
-    /// The certificate in PEM, for clients that shall trust it.
+    /// The certificate in PEM, for clients that trust it.
     [[nodiscard]] const std::string& Pem() const { return pem_; }
 
 private:

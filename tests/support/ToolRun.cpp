@@ -65,24 +65,6 @@ std::vector<std::string> WithTool(std::vector<std::string> arguments)
 
 }  // namespace
 
-TemporaryFolder::TemporaryFolder()
-    : path_((std::filesystem::temp_directory_path() / "capset-XXXXXX").string())
-{
-    if (mkdtemp(path_.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
-    }
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-    std::filesystem::remove_all(path_);
-}
-
-bool TemporaryFolder::IsEmpty() const
-{
-    return std::filesystem::is_empty(path_);
-}
-
 ToolProcess::ToolProcess(const std::vector<std::string>& arguments, const Environment& environment,
                          const std::string& input)
 {

@@ -8,24 +8,10 @@
 
 #include <sys/types.h>
 
+#include "support/TemporaryFolder.h"
+
 namespace TestSupport
 {
-
-/// A folder of its own, removed with everything in it.
-class TemporaryFolder
-{
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] std::string File(const std::string& name) const { return path_ + "/" + name; }
-    [[nodiscard]] bool IsEmpty() const;
-
-private:
-    std::string path_;
-};
 
 struct ToolResult
 {

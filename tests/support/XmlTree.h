@@ -1,4 +1,4 @@
-// A small document and its nodes, for tests of what reads from nodes.
+// A small document and its nodes, for tests of node readers.
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
@@ -12,7 +12,7 @@
 namespace TestSupport
 {
 
-/// Parsed with the parser's own defaults, not with the library's context.
+/// Parsed with libxml2's defaults, not with the library's context.
 class XmlTree
 {
 public:
