@@ -6,6 +6,7 @@
 #include <dlfcn.h>
 #include <netdb.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
