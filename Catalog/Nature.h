@@ -1,5 +1,5 @@
-// What a record's members are by nature: what identifies a device, a person or a place, what
-// changes from one answer to the next, and all else. SPDX-License-Identifier: Apache-2.0
+// Which members of a record are identities, which are volatile, and which are neither.
+// SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// Exchanges with a device over HTTP, compared with a client that keeps neither answers nor
-// connections. SPDX-License-Identifier: Apache-2.0
+// Exchanges with a device over HTTP, compared with a client that keeps no answers or connections.
+// SPDX-License-Identifier: Apache-2.0
 #include <cstdint>
 #include <cstdio>
 #include <functional>

@@ -12,6 +12,7 @@
 
 #include "CapabilitySet/XMLConfig/PTZPresetCfg.h"
 #include "support/AllRecords.h"
+#include "support/Deep.h"
 #include "support/Mutation.h"
 
 namespace

@@ -1,5 +1,5 @@
-// Field lists: which types have one, and the tags that say how a field is read if its type does
-// not. SPDX-License-Identifier: Apache-2.0
+// Field lists: which types have one, and the tags that say how a field is read.
+// SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 namespace CapabilitySet

@@ -3,7 +3,6 @@
 #include "support/AllRecords.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <stdexcept>
 
 namespace TestSupport
@@ -36,11 +35,6 @@ const RecordClass& RecordTypeNamed(const std::string& name)
         throw std::invalid_argument("no record type is named " + name);
     }
     return *found;
-}
-
-bool IsDeep()
-{
-    return std::getenv("CAPABILITYSET_DEEP") != nullptr;  // NOLINT(concurrency-mt-unsafe)
 }
 
 }  // namespace TestSupport

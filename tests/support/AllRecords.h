@@ -101,7 +101,4 @@ std::span<const RecordClass> AllRecordTypes();
 /// The type of that name; throws when there is none.
 const RecordClass& RecordTypeNamed(const std::string& name);
 
-/// Whether the longer rounds were asked for: CAPABILITYSET_DEEP is set.
-bool IsDeep();
-
 }  // namespace TestSupport

@@ -1,5 +1,5 @@
-// Defines the members of JsonRecord and JsonPart; a source file instantiates them for its own
-// records. SPDX-License-Identifier: Apache-2.0
+// Defines the members of JsonRecord and JsonPart; a source instantiates them for its records.
+// SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 #include "CapabilitySet/JsonRecord.h"
