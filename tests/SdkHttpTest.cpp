@@ -226,7 +226,8 @@ TEST_F(SdkHttp, AnswersBeyondTheirLimitAreNeitherReadNorAskedForTwice)
     const std::string head = "HTTP/1.1 200 OK\r\n";
     std::string size;
     const ScriptedServer server(AfterLogin([&](const std::string& request, int) {
-        return Holds(request, "Ability/") ? Reply{head + "\r\n" + std::string(200'000, 'x')}
+        return Holds(request, "deviceAbility/") ? Reply{head + "\r\n" + std::string(1'100'000, 'x')}
+               : Holds(request, "stdAbility/")  ? Reply{head + "Content-Length: 17000000\r\n\r\nx"}
                : Holds(request, "refused")
                    ? Reply{"HTTP/1.1 500 E\r\n\r\n" + std::string(100'000, 'x')}
                    : Reply{head + "Content-Length: " + size + "\r\n\r\nx"};

@@ -10,8 +10,10 @@ namespace PelNet::limits
 // Answers, in bytes, by what was asked. An answer beyond its limit is not read to its end and not
 // kept. A caller that passes a larger buffer gets as much as fits.
 
-/// The library's largest buffer for an ability.
-inline constexpr std::size_t kAbility = 163'840;
+/// The library's largest buffer for a device ability.
+inline constexpr std::size_t kDeviceAbility = 1'024'000;
+/// The library's largest buffer for a standard ability.
+inline constexpr std::size_t kStandardAbility = 16'384'000;
 /// The library's largest buffer for any other document.
 inline constexpr std::size_t kDocument = 16'384'000;
 /// The library's largest buffer for a data package.

@@ -64,7 +64,7 @@ int AskStandardAbility(int userID, unsigned code, tagNET_ORB_STD_ABILITY& abilit
     return Ask(userID, RequestKind::Ability, {{"GET", std::move(target)}, {}, 0},
                {.buffer = ability.outBuffer,
                 .size = ability.outSize,
-                .limit = limits::kAbility,
+                .limit = limits::kStandardAbility,
                 .status = ability.statusBuffer,
                 .statusSize = ability.statusSize,
                 .returned = &ability.returnedSize});
@@ -119,7 +119,7 @@ extern "C" int NET_ORB_GetDeviceAbility(int userID, unsigned int abilityType, ch
             View(inBuffer, inLength),
             0};
         return Ask(userID, RequestKind::Ability, request,
-                   {.buffer = outBuffer, .size = outLength, .limit = limits::kAbility});
+                   {.buffer = outBuffer, .size = outLength, .limit = limits::kDeviceAbility});
     });
 }
 
