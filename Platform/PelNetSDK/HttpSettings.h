@@ -22,8 +22,8 @@ struct HttpSettings
     std::string certificateFile;  ///< PEM file of trusted certificates, empty: the system's
     bool trustAnyCertificate = false;
     bool allowBasic = false;
-    std::chrono::milliseconds connectTimeout{5000};
-    std::chrono::milliseconds receiveTimeout{15000};
+    std::chrono::milliseconds connectTimeout{NET_ORB_DEFAULT_CONNECT_TIMEOUT};
+    std::chrono::milliseconds receiveTimeout{NET_ORB_DEFAULT_RECEIVE_TIMEOUT};
     /// Opens a socket that is already connected, -1 on failure; empty: TCP to `base`.
     std::function<int()> openSocket;
 };

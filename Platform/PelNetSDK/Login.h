@@ -4,6 +4,9 @@
 
 #include "PelNetSDK/ErrorNumbers.h"
 
+#define NET_ORB_DEFAULT_CONNECT_TIMEOUT 5000u  /* milliseconds */
+#define NET_ORB_DEFAULT_RECEIVE_TIMEOUT 15000u /* milliseconds */
+
 #ifdef __cplusplus
 extern "C"
 {
@@ -19,8 +22,8 @@ extern "C"
         const char* userName;        /* null: none; a simulated device then needs no password */
         const char* password;        /* null: none; copied, and wiped at logout */
         const char* certificateFile; /* PEM file of trusted certificates; null: the system's */
-        unsigned int connectTimeout; /* milliseconds, 0: 5,000 */
-        unsigned int receiveTimeout; /* milliseconds for a whole answer, 0: 15,000 */
+        unsigned int connectTimeout; /* milliseconds, 0: the default */
+        unsigned int receiveTimeout; /* milliseconds for a whole answer, 0: the default */
         unsigned char trustAnyCertificate; /* 1: do not check certificates */
         /* 0: HTTP Basic only if the device offers no digest and its certificate was checked; 1:
          * also without TLS or a checked certificate, where others can read the password. */

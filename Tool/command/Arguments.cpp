@@ -58,12 +58,12 @@ void AddConnectionOptions(Command& command, ConnectionOptions& options)
     command.Flag("--insecure", options.insecure, "trust any certificate").Group(kGroup);
     command
         .Option("--timeout", options.timeout, "TIME",
-                "longest time for a whole answer, 15s by default")
+                "longest time for a whole answer, {} by default")
         .Between(0.001, kLongest)
         .Group(kGroup);
     command
         .Option("--connect-timeout", options.connectTimeout, "TIME",
-                "longest time for reaching the device, 5s by default")
+                "longest time for reaching the device, {} by default")
         .Between(0.001, kLongest)
         .Group(kGroup);
 }
@@ -83,7 +83,7 @@ void AddOutputOptions(Command& command, RecordOutput& output)
 void AddPageOptions(Command& command, PageOptions& options)
 {
     constexpr int kLargestPage = 100'000;
-    command.Option("--max", options.pageSize, "N", "results to ask for at once, 50 by default")
+    command.Option("--max", options.pageSize, "N", "results to ask for at once, {} by default")
         .Between(1, kLargestPage)
         .Group("Search");
     AddLimitOption(command, options);
@@ -117,7 +117,7 @@ void AddTaskOptions(Command& command, TaskOptions& options)
         .Group("Task");
     command
         .Option("--wait", options.wait, "TIME",
-                "give up after this long without progress, 120s by default; 0: start the task, "
+                "give up after this long without progress, {} by default; 0: start the task, "
                 "print its ID and do not wait")
         .Between(0, 1e9)
         .Group("Task");

@@ -27,7 +27,7 @@ struct TrackOptions
 
 void AddChannelOption(Command& command, int& channel)
 {
-    command.Option("--channel", channel, "N", "channel, 1 by default").Group("Selectors");
+    command.Option("--channel", channel, "N", "channel, {} by default").Group("Selectors");
 }
 
 template <class List>

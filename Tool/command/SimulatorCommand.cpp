@@ -217,7 +217,7 @@ void AddServeOptions(Command& command, ServeOptions& options)
     command.Positional("profile", options.profile, "name of a profile, or a profile's folder")
         .Required();
     command.Option("--address", options.address, "ADDRESS",
-                   "numeric address to listen on, 127.0.0.1 by default");
+                   "numeric address to listen on, {} by default");
     command.Option("--port", options.port, "N", "port to listen on, any free one by default")
         .Between(0, 65535);
     command.Flag("--tls", options.tls, "HTTPS, with a self-signed certificate unless --cert");

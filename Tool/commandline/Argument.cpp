@@ -187,6 +187,21 @@ std::string Argument::Read(const std::vector<std::string>& words) const
     return {};
 }
 
+std::string TextOf(const std::string& value)
+{
+    return value;
+}
+
+std::string TextOf(int value)
+{
+    return std::to_string(value);
+}
+
+std::string TextOf(Seconds value)
+{
+    return Plain(value.count()) + "s";
+}
+
 Argument::Reader ReaderOf(std::string& value)
 {
     return [&value](const std::string& text) {

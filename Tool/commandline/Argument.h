@@ -89,6 +89,11 @@ Argument::Reader ReaderOf(Seconds& value);
 Argument::Reader ReaderOf(std::vector<std::string>& values);
 Argument::Reader ReaderOf(std::vector<int>& values);
 
+// Values as descriptions show them.
+std::string TextOf(const std::string& value);
+std::string TextOf(int value);
+std::string TextOf(Seconds value);
+
 template <class Value>
 Argument::Reader ReaderOf(std::optional<Value>& value)
 {

@@ -37,10 +37,16 @@ public:
     {
         return Keep<Value>({Argument::Kind::Positional, name, {}, description, ReaderOf(value)});
     }
+    /// "{}" in the description stands for the default, the value at this moment.
     template <class Value>
     Argument& Option(const std::string& name, Value& value, const std::string& placeholder,
-                     const std::string& description)
+                     std::string description)
     {
+        if (const std::size_t at = description.find("{}"); at != std::string::npos) {
+            if constexpr (requires { TextOf(value); }) {
+                description.replace(at, 2, TextOf(value));
+            }
+        }
         return Keep<Value>(
             {Argument::Kind::Option, name, placeholder, description, ReaderOf(value)});
     }

@@ -5,6 +5,8 @@
 #include <chrono>
 #include <string>
 
+#include "PelNetSDK/Login.h"
+
 namespace Tool
 {
 
@@ -26,8 +28,10 @@ struct ConnectionOptions
     std::string user;
     std::string ca;
     bool insecure = false;
-    std::chrono::duration<double> timeout{0};         ///< 0: the SDK's default
-    std::chrono::duration<double> connectTimeout{0};  ///< 0: the SDK's default
+    std::chrono::duration<double> timeout =
+        std::chrono::milliseconds(NET_ORB_DEFAULT_RECEIVE_TIMEOUT);
+    std::chrono::duration<double> connectTimeout =
+        std::chrono::milliseconds(NET_ORB_DEFAULT_CONNECT_TIMEOUT);
 };
 
 /// A login, as long as the object lives.
