@@ -54,7 +54,7 @@ endif()
 # docs/errors.md has a row for every error number that a header defines.
 file(READ ${SOURCE}/docs/errors.md errors)
 file(STRINGS ${SOURCE}/Platform/PelNetSDK/PelNetSDK.h named REGEX "^#define NET_ORB_[A-Z_]+ [0-9]+u")
-file(STRINGS ${SOURCE}/Platform/PelNetSDK/Login.h more REGEX "^#define NET_ORB_[A-Z_]+ [0-9]+u")
+file(STRINGS ${SOURCE}/Platform/PelNetSDK/ErrorNumbers.h more REGEX "^#define NET_ORB_[A-Z_]+ [0-9]+u")
 foreach(line IN LISTS named more)
   string(REGEX MATCH "(NET_ORB_[A-Z_]+) ([0-9]+)u" line "${line}")
   string(FIND "${errors}" "| ${CMAKE_MATCH_2} | `${CMAKE_MATCH_1}` |" place)
