@@ -34,6 +34,7 @@ std::atomic<bool> resolverMayEnd{false};
 }  // namespace
 
 /// A resolver that does not answer for one host, exported so that libcurl calls it.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): netdb.h's are reserved
 [[gnu::visibility("default")]] int getaddrinfo(const char* node, const char* service,
                                                const addrinfo* hints, addrinfo** result)
 {
@@ -86,7 +87,8 @@ TEST_F(SdkLogin, WrongPasswordIsTriedOnce)
 {
     UsePassword();
     const std::string stale = "WWW-Authenticate: Digest realm=\"d\", nonce=\"n\", stale=true\r\n";
-    for (const auto& [challenge, tries] : {std::pair(kDigest, 1U), {stale, 2U}}) {
+    const std::vector<std::pair<std::string, unsigned>> cases = {{kDigest, 1}, {stale, 2}};
+    for (const auto& [challenge, tries] : cases) {
         const ScriptedServer server(
             [&](const auto&, int) { return Reply{HttpAnswer(401, "<html/>", challenge)}; });
         EXPECT_EQ(LoginError(server), NET_ORB_PASSWORD_ERROR) << challenge;
@@ -96,8 +98,9 @@ TEST_F(SdkLogin, WrongPasswordIsTriedOnce)
     }
     // The password changes during the session.
     std::atomic<bool> changed{false};
+    const ScriptedServer::Script unchanged = Digest("1");
     const ScriptedServer server([&](const std::string& request, int number) {
-        return changed ? Reply{HttpAnswer(401, "<html/>", kDigest)} : Digest("1")(request, number);
+        return changed ? Reply{HttpAnswer(401, "<html/>", kDigest)} : unchanged(request, number);
     });
     const LoggedIn device(At(server));
     changed = true;

@@ -4,6 +4,7 @@
 
 #include "PelNetSDK/PelNetSDK.h"
 
+// NOLINTBEGIN(modernize-macro-to-enum): the interface is also C, and the numbers are unsigned
 #define NET_ORB_PASSWORD_ERROR 1u        /* the device rejects the user name or the password */
 #define NET_ORB_NOENOUGHPRI 2u           /* the user may not do this */
 #define NET_ORB_NOINIT 3u                /* the user ID is not logged in */
@@ -27,3 +28,4 @@
 #define NET_ORB_TLS_FAILED 148u          /* no secure connection could be made */
 #define NET_ORB_ANSWER_TOO_LARGE 149u    /* the answer is larger than any the SDK accepts */
 #define NET_ORB_AUTH_UNSUPPORTED 150u    /* the server offers no login that the SDK may use */
+// NOLINTEND(modernize-macro-to-enum)
