@@ -73,6 +73,10 @@ std::vector<HelpSection> HelpSections(const Command& command)
             .entries.push_back(
                 {isPositional ? UpperCase(each->Name()) : Written(*each), each->Description()});
     }
+    // What a command shares with others comes after what is its own.
+    std::ranges::stable_partition(sections, [](const HelpSection& each) {
+        return each.heading != "Connection" && each.heading != "Output";
+    });
     std::vector<HelpEntry>& options = SectionOf(sections, "Options").entries;
     options.push_back({"-h, --help", "print this help"});
     if (command.FullName() == command.Name()) {

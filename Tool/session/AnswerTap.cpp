@@ -44,8 +44,10 @@ public:
             std::chrono::steady_clock::now() - start_;
         const char* const text = static_cast<const char*>(buffer);
         const std::size_t length = text == nullptr ? 0 : strnlen(text, size);
-        const std::string end =
-            result == 0 ? "error " + std::to_string(error) : std::to_string(length) + " bytes";
+        const std::string end = result != 0 ? std::to_string(length) + " bytes"
+                                : error == NET_ORB_BUFFER_TOO_SMALL
+                                    ? "more than " + std::to_string(size) + " bytes, read again"
+                                    : "error " + std::to_string(error);
         std::array<char, 32> milliseconds{};
         std::snprintf(milliseconds.data(), milliseconds.size(), "%.1f ms", time.count());
         LogInfo(LoggedDevice() + "  " + Trimmed(what_) + "  " + end + "  " + milliseconds.data());

@@ -36,7 +36,7 @@ std::string CertificateHint(const SdkFailure& failure)
     if (Mentions(failure, {"does not match", "no alternative certificate subject"})) {
         return "; use the host name that the certificate was issued for";
     }
-    if (Mentions(failure, {"verify locations", "CAfile"})) {
+    if (Mentions(failure, {"setting certificate"})) {
         return "; --ca takes a PEM file of certificates";
     }
     return "; if the device signed its certificate itself, save the certificate and trust it with "
