@@ -91,6 +91,7 @@ TEST(AlarmHostState, BatchesAreCarriedOutAsFarAsTheyGoAndNameTheRest)
                  {"POST", kControl + "bypass", R"({"zone": "0-2000000000"})", 400, "badJson"},
                  {"POST", kControl + "bypass", R"({"zone": "2-1"})", 400, "badJson"},
                  {"POST", kControl + "bypass", R"({"zone": "1-900,1-900"})", 400, "at most 1000"},
+                 {"POST", kControl + "bypassRecover", R"({"zone": "64-65"})", 200, "\"id\" : 65"},
                  {"POST", kControl + "bypassRecover", R"({"zone": "9"})", 200, "\"ok\""}});
     const auto having = [&](const char* path, const char* list, const char* item, const char* key,
                             const Json::Value& value) {
