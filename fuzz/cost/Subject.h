@@ -1,0 +1,25 @@
+// What is searched for excessive costs: each takes an input of a device or a client, as a client
+// does. SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "fuzz/cost/Shape.h"
+
+namespace Cost
+{
+
+struct Subject
+{
+    std::string name;
+    std::vector<Shape> seeds;
+    std::vector<std::string> words;  ///< pieces that mutations insert
+    std::function<void(const std::string& input)> run;
+};
+
+/// All subjects. Their seeds include the documents of the device profiles in `folder`.
+std::vector<Subject> AllSubjects(const std::string& folder);
+
+}  // namespace Cost
