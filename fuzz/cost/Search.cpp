@@ -1,12 +1,16 @@
 // Searches for the input that costs most per byte, and measures a given one.
-//
-// cost_search search SUBJECT SECONDS FOLDER PROFILES [SEED]   leaves SUBJECT.time and
-//                                                             SUBJECT.memory in FOLDER
-// cost_search measure SUBJECT FILE PROFILES                   prints bytes, peak of the heap, log
-// lines cost_search list PROFILES                                   prints the subjects
-//
-// Under callgrind "measure" counts the instructions of the input alone.
 // SPDX-License-Identifier: Apache-2.0
+//
+// cost_search search SUBJECT SECONDS FOLDER PROFILES [SEED]
+//     writes SUBJECT.time and SUBJECT.memory to FOLDER
+//
+// cost_search measure SUBJECT FILE PROFILES
+//     prints the number of bytes, the peak of the heap and the number of log lines
+//
+// cost_search list PROFILES
+//     prints the subjects
+//
+// Under callgrind, "measure" counts only the instructions spent on the input.
 #include <algorithm>
 #include <atomic>
 #include <chrono>

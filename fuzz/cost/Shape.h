@@ -1,5 +1,5 @@
-// Inputs of any size that repeat a few pieces: what makes a reader slow or large is nearly always
-// one. SPDX-License-Identifier: Apache-2.0
+// Inputs of any size that repeat a few pieces, which is nearly always what makes a reader slow.
+// SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// What is searched for excessive costs: each takes an input of a device or a client, as a client
-// does. SPDX-License-Identifier: Apache-2.0
+// What is searched for excessive costs: readers of what a device or a client sends.
+// SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 #include <functional>
