@@ -33,7 +33,7 @@ void EventRows(Row&& row)
         &RegionUnBaggageCap::GetRegionUnBaggageAbility, kChannel);
     row("RegionBaggageCap", "detection of removed baggage",
         &RegionBaggageCap::GetRegionBaggageAbility, kChannel);
-    row("VehicleInfoResultCap", "what is told of a recognised vehicle",
+    row("VehicleInfoResultCap", "what a device reports about a vehicle",
         &VehicleInfoResultCap::GetVehicleInfoResultCapAbility, kChannel);
     row("IntercomNoticeVideoAbility", "notices and videos of an intercom station",
         &IntercomNoticeVideoAbility::GetNoticeVideoCapability, kChannel);

@@ -1,15 +1,12 @@
 // Fuzzes the SDK with what a device sends over its connections.
 // SPDX-License-Identifier: Apache-2.0
-#include <array>
-#include <memory>
+#include <vector>
 
-#include <sys/socket.h>
-#include <unistd.h>
-
-#include "PelNetSDK/HttpTransport.h"
-#include "PelNetSDK/Session.h"
+#include "PelNetSDK/Login.h"
+#include "PelNetSDK/PelNetSDK.h"
 #include "fuzz/Check.h"
 #include "fuzz/Chunks.h"
+#include "fuzz/SocketDevice.h"
 #include "fuzz/Targets.h"
 
 namespace Fuzz
@@ -17,84 +14,7 @@ namespace Fuzz
 namespace
 {
 
-constexpr const char* kPassword = "never in the clear";
 constexpr const char* kPasswordAsBasic = "dXNlcjpuZXZlciBpbiB0aGUgY2xlYXI=";
-
-/// A device in this process: each connection is a socket pair that sends one chunk and closes.
-class Device
-{
-public:
-    explicit Device(std::vector<std::string_view> chunks) : chunks_(std::move(chunks)) {}
-    ~Device()
-    {
-        for (const int socket : sockets_) {
-            close(socket);
-        }
-    }
-    Device(const Device&) = delete;
-    Device& operator=(const Device&) = delete;
-
-    int Open()
-    {
-        std::array<int, 2> pair{};
-        if (socketpair(AF_UNIX, SOCK_STREAM, 0, pair.data()) != 0) {
-            return -1;
-        }
-        if (sockets_.size() < chunks_.size()) {
-            const std::string_view chunk = chunks_[sockets_.size()];
-            // What does not fit becomes a broken connection.
-            static_cast<void>(
-                send(pair[1], chunk.data(), chunk.size(), MSG_DONTWAIT | MSG_NOSIGNAL));
-        }
-        shutdown(pair[1], SHUT_WR);
-        sockets_.push_back(pair[1]);
-        return pair[0];
-    }
-
-    [[nodiscard]] std::size_t Connections() const { return sockets_.size(); }
-
-    /// Everything that was sent to the device.
-    [[nodiscard]] std::string Received() const
-    {
-        std::string all;
-        std::array<char, 4096> piece{};
-        for (const int socket : sockets_) {
-            for (ssize_t count = 0;
-                 (count = recv(socket, piece.data(), piece.size(), MSG_DONTWAIT)) > 0;) {
-                all.append(piece.data(), static_cast<std::size_t>(count));
-            }
-        }
-        return all;
-    }
-
-private:
-    std::vector<std::string_view> chunks_;
-    std::vector<int> sockets_;
-};
-
-/// A login to the device, logged out by the destructor.
-class Login
-{
-public:
-    explicit Login(Device& device)
-    {
-        PelNet::HttpSettings settings;
-        settings.base = "http://127.0.0.1";
-        settings.user = "user";
-        settings.password = PelNet::Secret(kPassword);
-        settings.openSocket = [&device] { return device.Open(); };
-        userID_ = PelNet::SessionTable::Instance().Add(std::make_shared<PelNet::Session>(
-            std::make_unique<PelNet::HttpTransport>(std::move(settings))));
-    }
-    ~Login() { NET_ORB_Logout(userID_); }
-    Login(const Login&) = delete;
-    Login& operator=(const Login&) = delete;
-
-    [[nodiscard]] int UserID() const { return userID_; }
-
-private:
-    int userID_ = -1;
-};
 
 /// One call with buffers of exactly these sizes, so that the sanitizer sees a byte beyond them.
 struct Call
@@ -149,7 +69,7 @@ void CheckCall(const Call& call)
 
 /// The same request with a large enough buffer is served from memory.
 void CheckRepeat(const Call& first, int userID, const char* line, const char* body,
-                 const Device& device)
+                 const SocketDevice& device)
 {
     const std::size_t connections = device.Connections();
     const Call second(userID, line, body, first.returned, 0);
@@ -170,21 +90,20 @@ void HttpAnswer(const std::string& text)
     const unsigned size = (form >> 1U) % 16 * 16 + 1;
     const unsigned statusSize = (form & 0x80U) != 0 ? 64 : 0;
     constexpr std::size_t kMostChunks = 4;
-    Device device(SplitChunks(rest, kMostChunks));
-    const Login login(device);
+    const SocketDevice device(SplitChunks(rest, kMostChunks));
     for (int round = 0; round < 2; ++round) {
-        const Call call(login.UserID(), line, body, size, statusSize);
+        const Call call(device.UserID(), line, body, size, statusSize);
         CheckCall(call);
         if (call.error == NET_ORB_BUFFER_TOO_SMALL) {
-            CheckRepeat(call, login.UserID(), line, body, device);
+            CheckRepeat(call, device.UserID(), line, body, device);
         }
     }
     const std::string received = device.Received();
-    Require(received.find(kPassword) == std::string::npos &&
+    Require(received.find(SocketDevice::kPassword) == std::string::npos &&
                 received.find(kPasswordAsBasic) == std::string::npos,
             "no password is sent in the clear");
     constexpr std::size_t kMostConnections = 12;
-    Require(device.Connections() <= kMostConnections, "a device is not asked for ever");
+    Require(device.Connections() <= kMostConnections, "the SDK gives up");
 }
 
 }  // namespace Fuzz

@@ -131,13 +131,13 @@ std::string SentStatus()
 void CheckReports(const InterfaceRet& result)
 {
     const SdkStep& last = LastStep();
-    Require(result.success == (last.error == 0), "the last call tells success");
+    Require(result.success == (last.error == 0), "the result is that of the last call");
     Require(result.success == (result.errorType == 0), "a type other than 0 is a failure");
     Require((result.errorType == 2) == !told.sdkErrors.empty() && told.sdkErrors.size() <= 1,
-            "an SDK failure, and nothing else, is told once");
+            "the callback receives each SDK failure once, and nothing else");
     Require((result.errorType == 3) == !told.statuses.empty() && told.statuses.size() <= 1 &&
                 told.xmlErrors.size() == told.statuses.size(),
-            "a refusal, and nothing else, is translated and told once");
+            "each refusal is translated and reported once, and nothing else");
     if (result.errorType == 2) {
         Require(result.errorCode == told.sdkErrors[0], "the code is what was told");
     }

@@ -199,7 +199,7 @@ TEST_F(Manager, BufferThatCannotGrowIsExhausted)
         EXPECT_EQ(sdk.calls.size(), 1U);
         EXPECT_THAT(sdkErrors, ElementsAre(43));
     }
-    // One that asks for ever more ends as soon as it repeats itself.
+    // The growing ends when the SDK asks for the same size again.
     Script({{.error = 43, .returnedSize = 3000}, {.error = 43, .returnedSize = 4000}});
     EXPECT_EQ(Get(), (InterfaceRet{false, 2, 43}));
     EXPECT_EQ(sdk.calls.size(), 3U);

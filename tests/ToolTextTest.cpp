@@ -314,7 +314,7 @@ TEST_F(ToolText, PagesEndAtTheLimitTheTotalOrTheDevicesLastResult)
     const Session session(connection);
     for (const SearchedDevice& device : {
              SearchedDevice{4, true, 10, 7, {4, 3}, 7, "7 of 10 results"},
-             {4, true, 8, 0, {4, 4}, 8, "8 results"},  // for ever MORE
+             {4, true, 8, 0, {4, 4}, 8, "8 results"},  // always answers MORE
              {4, true, 0, 8, {4, 4}, 8, "8 results, and there are more"},
              {4, false, 0, 3, {3}, 3, "3 of 4 results"},  // all at once, whatever was asked for
              {0, true, 9, 0, {4}, 0, "0 of 9 results"},

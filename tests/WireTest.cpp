@@ -277,7 +277,7 @@ void WireTest::AlarmHost()
     };
     AlarmHostBypassCfg zones;
     zones.zone = "17,20";
-    // What is open is bypassed, what is refused is told in the status.
+    // Open zones are bypassed; the status gives the reason for a refusal.
     ASK("alarmhost", JsonStatus, J::SetDevArming(out, "away", 3, err, user),
         out.statusCode == 4 && out.subStatusCode == "zoneOpen");
     ASK("alarmhost", JsonStatus, J::SetDevBypass(zones, out, err, -1, user), isBypassed(20));

@@ -173,7 +173,7 @@ TEST(XmlDocumentTest, AcceptsWhatOnlyLooksLikeAFlood)
           "<r>" + quotes + "</r>", most + "/>", most + ">" + std::string(70'000, 'x') + "</r>"}) {
         EXPECT_EQ(Parsed(document), ParsedByLibrary(document, Form::Plain));
     }
-    // A long text that is no document at all is told by the parser's own words.
+    // For a long text that is not XML the log shows the parser's own message.
     const std::string json = "{" + quotes + "}";
     EXPECT_EQ(Parsed(json), ParsedByLibrary(json, Form::Plain));
 }

@@ -15,7 +15,7 @@ namespace Tool
 /// How much of a search is wanted.
 struct PageOptions
 {
-    /// A device can claim to have more results for ever.
+    /// Ends searches on devices that always claim to have more results.
     static constexpr int kUsualLimit = 50'000;
 
     int pageSize = 50;

@@ -40,7 +40,7 @@ struct TaskSteps
 Report ReportTask(const std::string& task, const TaskState& state);
 
 /// Starts or continues a task, waits until it is done, and finishes it. If a signal or a failure
-/// comes in between and the task outlives the program, the user is told how to continue it.
+/// ends the program first, the message says how to continue the task.
 Report RunTask(Talk& talk, const TaskOptions& options, const TaskSteps& steps);
 
 }  // namespace Tool

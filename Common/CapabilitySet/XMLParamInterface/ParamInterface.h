@@ -11,8 +11,8 @@
 namespace CapabilitySet
 {
 
-/// Requests sent through SDKInterfaceManager; its callbacks are told what the SDK or the device
-/// refuses.
+/// Requests sent through SDKInterfaceManager, which reports errors of the SDK and refusals of the
+/// device to its callbacks.
 ///
 /// A query resets `out` first; `out` stays at its defaults on failure. Error 23 of type 2 means
 /// that the answer is not the record asked for, that memory ran out, or that a setting could not be
